@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvan::platform {
+
+/// One user, group or other object of a directory.
+class DirectoryRecord {
+public:
+    virtual ~DirectoryRecord() = default;
+
+    /// All values of an attribute (empty when the record has none); nothing when reading failed.
+    ///
+    /// Attributes: "dsAttrTypeStandard:RecordName" (account name), "dsAttrTypeStandard:SMBSID"
+    /// (S-1-… text), "dsAttrTypeStandard:PrimaryNTDomain" (the domain's NetBIOS name),
+    /// "dsAttrTypeStandard:RecordType" ("dsRecTypeStandard:Users" or "dsRecTypeStandard:Groups"),
+    /// "dsAttrTypeNative:X" (attribute X of the directory itself).
+    virtual std::optional<std::vector<std::string>> values(const std::string& attribute) = 0;
+};
+
+using DirectoryRecords = std::vector<std::shared_ptr<DirectoryRecord>>;
+
+enum class DirectoryMatch { any, equalTo, contains };
+
+struct DirectoryQuery {
+    std::vector<std::string> recordTypes; ///< "dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"
+    std::string attribute;                ///< one of the attributes of DirectoryRecord
+    DirectoryMatch match = DirectoryMatch::equalTo;
+    std::vector<std::string> values; ///< a record matches when one of them does; never interpreted
+    std::size_t limit = 0;           ///< at most this many records; 0 = all
+};
+
+/// A part of the directory that can be searched.
+class DirectoryNode {
+public:
+    virtual ~DirectoryNode() = default;
+
+    /// The matching records; nothing when the directory did not answer.
+    virtual std::optional<DirectoryRecords> query(const DirectoryQuery& query) = 0;
+};
+
+/// The identity service that the machine is bound to.
+class DirectoryServices {
+public:
+    virtual ~DirectoryServices() = default;
+
+    /// The state of the Active Directory connection ("NodeName": "/Active Directory/NAME"); nothing
+    /// when this machine is not bound to one.
+    virtual std::optional<std::map<std::string, std::string>> activeDirectoryState() = 0;
+
+    /// A node by its name ("/Active Directory/NAME/All Domains"); null when it cannot be opened.
+    virtual std::shared_ptr<DirectoryNode> openNode(const std::string& name) = 0;
+
+    /// The node that searches everything the machine knows; null when it cannot be opened.
+    virtual std::shared_ptr<DirectoryNode> openNetworkNode() = 0;
+
+    /// Hint: these security identifiers will be looked up one by one next.
+    virtual void prefetch(const std::vector<std::string>& sids) = 0;
+};
+
+} // namespace quorvan::platform

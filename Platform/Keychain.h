@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quorvan::platform {
+
+/// What the keychain knows about one internet password.
+struct KeychainItem {
+    std::optional<std::string> account; ///< user name
+    std::optional<std::string> data;    ///< the secret, as bytes
+};
+
+struct KeychainResult {
+    std::int32_t status = 0;          ///< 0, or the service's own code; -25300 = no such item
+    std::optional<KeychainItem> item; ///< set when the status is 0
+};
+
+class Keychain {
+public:
+    virtual ~Keychain() = default;
+
+    /// The one internet-password item whose server attribute equals `server` exactly. Never asks the
+    /// user anything: a locked store counts as one without the item.
+    virtual KeychainResult findInternetPassword(const std::string& server) = 0;
+};
+
+} // namespace quorvan::platform

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quorvan {
+
+/// One row of the user quota table. Amounts are bytes.
+class UserQuotaData {
+public:
+    enum class Order { displayName };
+
+    UserQuotaData() = default;
+    UserQuotaData(std::string name, std::string id, std::string type, std::int64_t limit, std::int64_t used,
+                  std::string identity);
+
+    std::optional<std::string> displayName = "";
+    std::optional<std::string> SID = ""; ///< Active Directory SID or directory-tree GUID
+    std::optional<std::string> userType = "Users";
+    std::optional<std::string> action = "NONE"; ///< one of UserQuotaConstants::Actions
+    std::optional<std::int64_t> quotaLimit = 0;
+    std::optional<std::int64_t> quotaUsed = 0;
+    std::optional<std::int64_t> quotaAvailable = 0;
+    std::optional<std::string> domainIdentity;
+};
+
+} // namespace quorvan

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Modal/Users.h"
+
+#include <utility>
+
+namespace quorvan {
+
+User::User(std::string name, std::string type, std::string id)
+    : trusteeName(std::move(name)), trusteeType(std::move(type)), trusteeID(std::move(id)) {}
+
+Trustees::Trustees(std::string name, std::string id, std::uint16_t mask, std::string pendingStatus, std::string type,
+                   std::string domain)
+    : User(std::move(name), std::move(type), std::move(id)), rights(mask), status(std::move(pendingStatus)),
+      domainType(std::move(domain)) {
+    nameTheTypeOfEveryone();
+}
+
+Trustees::Trustees(const Trustees& other)
+    : User(other), rights(other.rights), status(other.status), domainType(other.domainType) {
+    nameTheTypeOfEveryone();
+}
+
+Trustees& Trustees::operator=(const Trustees& other) {
+    return *this = Trustees(other);
+}
+
+void Trustees::nameTheTypeOfEveryone() {
+    if (trusteeType.empty() && trusteeID == "S-1-1-0")
+        trusteeType = "Groups";
+}
+
+TrusteeList copyOf(const TrusteeList& trustees) {
+    TrusteeList copies;
+    copies.reserve(trustees.size());
+    for (const auto& trustee : trustees)
+        copies.push_back(std::make_shared<Trustees>(*trustee));
+    return copies;
+}
+
+} // namespace quorvan

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvan {
+
+/// An identity as an identity browser lists it. All texts are UTF-8.
+class User {
+public:
+    User() = default;
+    User(std::string name, std::string type, std::string id);
+
+    std::string trusteeName; ///< display name; for directory-tree objects the name the server returns
+    std::string trusteeType; ///< "Users" or "Groups", or a directory-tree object class
+    std::string trusteeID;   ///< SID (Active Directory), or GUID or distinguished name (Morvane)
+};
+
+/// One trustee of one path.
+///
+/// A trustee without a type whose ID is exactly "S-1-1-0" (everyone) gets the type "Groups" when it
+/// is built and when it is copied.
+class Trustees : public User {
+public:
+    Trustees() = default;
+    Trustees(std::string name, std::string id, std::uint16_t rights, std::string status, std::string type,
+             std::string domainType);
+    Trustees(const Trustees& other);
+    Trustees& operator=(const Trustees& other);
+    Trustees(Trustees&&) = default;
+    Trustees& operator=(Trustees&&) = default;
+    ~Trustees() = default;
+
+    std::uint16_t rights = 0; ///< mask of KelpRights
+    std::string status;       ///< pending change: "ADD", "REMOVE" or "" (never sent)
+    std::string domainType;   ///< "ActiveDirectory", "Morvane" or "" when unknown
+
+private:
+    void nameTheTypeOfEveryone();
+};
+
+/// Lists refer to trustees, because views mark one object that stands in several lists.
+using TrusteeList = std::vector<std::shared_ptr<Trustees>>;
+
+/// An independent copy of every trustee of a list, in order.
+TrusteeList copyOf(const TrusteeList& trustees);
+
+/// A directory-tree group that a trustee belongs to.
+struct Group {
+    std::string groupName;
+    std::string id; ///< GUID
+    std::string DN; ///< distinguished name
+};
+
+struct Rights {
+    std::uint16_t uright = 0; ///< mask of KelpRights
+};
+
+/// One trustee entry of a sub-directory or parent directory.
+struct DirectoryRights {
+    std::shared_ptr<Trustees> trustee;
+    std::string path; ///< server path on which the trustee is set
+};
+
+/// One path on which a trustee holds rights.
+struct FileRights {
+    enum class Order { fpath };
+    std::string fpath;
+    std::uint16_t frights = 0;
+};
+
+struct Owner {
+    std::optional<std::string> ownerName;
+    std::optional<std::string> ownerID;
+};
+
+/// Decimal texts as the server sends them; "-1" as an amount means not set.
+struct DirectoryQuota {
+    std::optional<std::string> quotaAmount;
+    std::optional<std::string> usedAmount;
+};
+
+/// An identity category that the browsers offer.
+struct UserType {
+    std::string type;
+};
+
+} // namespace quorvan
