@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/Localized.h"
+
+#include "Platform/Services.h"
+
+namespace quorvan {
+
+QString L(const std::string& key) {
+    return QString::fromStdString(platform::services().bundle->localizedString(key));
+}
+
+QString plainL(const std::string& key) {
+    return L(key).remove(QLatin1Char('&'));
+}
+
+} // namespace quorvan
