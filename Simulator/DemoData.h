@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Simulator/KelpServer.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace quorvan::simulator {
+
+namespace demo {
+
+inline constexpr const char* host = "files.meridal.example";
+inline constexpr const char* address = "192.0.2.10";
+
+/// The password of every demo account.
+inline constexpr const char* password = "kelp";
+
+// Accounts by what they may do on the whole volume VOL1. Those with "Tree" are of the Morvane tree,
+// the others of Active Directory.
+inline constexpr const char* supervisor = "ingrid.holm";
+inline constexpr const char* accessControl = "tomas.beran"; ///< every right but supervisor
+inline constexpr const char* readOnly = "lea.fournier";     ///< read and file scan
+inline constexpr const char* supervisorTree = "rvogt";
+inline constexpr const char* accessControlTree = "pnovak";
+inline constexpr const char* readOnlyTree = "zmarchetti";
+
+inline constexpr std::array<const char*, 6> accounts{supervisor,     accessControl,     readOnly,
+                                                     supervisorTree, accessControlTree, readOnlyTree};
+
+inline constexpr const char* selection = "VOL1:\\Projects\\Aurora"; ///< a dozen trustees of both kinds
+inline constexpr const char* crowded = "VOL1:\\Projects\\Harbour Festival"; ///< two hundred trustees
+
+} // namespace demo
+
+/// Fills an empty server with the volume VOL1, the users and groups of both directories, and the
+/// accounts above.
+void addDemoData(KelpServer& server);
+
+/// Adds `count` new identities of one kind and makes each a trustee of `path`, with varied names and
+/// rights. The same arguments give the same data.
+void addManyTrustees(KelpServer& server, std::string_view path, std::size_t count,
+                     IdentityKind kind = IdentityKind::activeDirectory);
+
+} // namespace quorvan::simulator

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Simulator/MemoryDirectory.h"
+
+#include "Simulator/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvan::simulator {
+
+namespace {
+
+using State = MemoryDirectory::State;
+using Values = std::vector<std::string>;
+
+const std::string recordName = "dsAttrTypeStandard:RecordName";
+const std::string sid = "dsAttrTypeStandard:SMBSID";
+const std::string distinguishedName = "dsAttrTypeNative:distinguishedName";
+constexpr const char* users = "dsRecTypeStandard:Users";
+constexpr const char* groups = "dsRecTypeStandard:Groups";
+
+Values memberOf(const Identity& identity) {
+    Values names;
+    for (const Identity* group : identity.groups)
+        names.push_back(group->distinguishedName);
+    return names;
+}
+
+Values valuesOf(const Identity& identity, const std::string& attribute) {
+    using Getter = Values (*)(const Identity&);
+    static const std::map<std::string, Getter> getters{
+        {recordName, [](const Identity& i) { return Values{i.name}; }},
+        {sid, [](const Identity& i) { return Values{i.id}; }},
+        {"dsAttrTypeStandard:PrimaryNTDomain", [](const Identity& i) { return Values{i.domain}; }},
+        {"dsAttrTypeStandard:RecordType",
+         [](const Identity& i) { return Values{i.isGroup() ? groups : users}; }},
+        {"dsAttrTypeNative:cn", [](const Identity& i) { return Values{i.name}; }},
+        {"dsAttrTypeNative:sAMAccountName", [](const Identity& i) { return Values{i.name}; }},
+        {"dsAttrTypeNative:objectSid", [](const Identity& i) { return Values{i.id}; }},
+        {distinguishedName, [](const Identity& i) { return Values{i.distinguishedName}; }},
+        {"dsAttrTypeNative:objectClass",
+         [](const Identity& i) {
+             return Values{"top", i.objectClass};
+         }},
+        {"dsAttrTypeNative:memberOf", memberOf},
+    };
+    const auto getter = getters.find(attribute);
+    return getter == getters.end() ? Values() : getter->second(identity);
+}
+
+class MemoryRecord : public platform::DirectoryRecord {
+public:
+    MemoryRecord(const Identity& identity, std::shared_ptr<const Identities> owner,
+                 std::shared_ptr<const State> state)
+        : identity_(identity)
+        , owner_(std::move(owner))
+        , state_(std::move(state)) {}
+
+    std::optional<Values> values(const std::string& attribute) override {
+        if (state_->failValues)
+            return std::nullopt;
+        return valuesOf(identity_, attribute);
+    }
+
+private:
+    const Identity& identity_;
+    std::shared_ptr<const Identities> owner_; ///< keeps identity_ alive
+    std::shared_ptr<const State> state_;
+};
+
+class MemoryNode : public platform::DirectoryNode {
+public:
+    MemoryNode(std::shared_ptr<const Identities> identities, std::shared_ptr<State> state)
+        : identities_(std::move(identities))
+        , state_(std::move(state)) {}
+
+    std::optional<platform::DirectoryRecords> query(const platform::DirectoryQuery& query) override {
+        ++state_->queries;
+        if (state_->failQueries)
+            return std::nullopt;
+        platform::DirectoryRecords records;
+        for (const Identity* identity : candidates(query)) {
+            if (query.limit != 0 && records.size() == query.limit)
+                break;
+            if (isAsked(*identity, query))
+                records.push_back(std::make_shared<MemoryRecord>(*identity, identities_, state_));
+        }
+        return records;
+    }
+
+private:
+    /// What the index knows to be all possible matches, or everything where it knows nothing.
+    std::vector<const Identity*> candidates(const platform::DirectoryQuery& query) const {
+        std::vector<const Identity*> found;
+        if (query.match == platform::DirectoryMatch::equalTo && isIndexed(query.attribute)) {
+            for (const std::string& value : query.values)
+                lookUp(query.attribute, value, found);
+        } else {
+            for (const Identity& each : identities_->all())
+                found.push_back(&each);
+        }
+        return found;
+    }
+
+    static bool isIndexed(const std::string& attribute) {
+        return attribute == recordName || attribute == sid || attribute == distinguishedName;
+    }
+
+    void lookUp(const std::string& attribute, const std::string& value,
+                std::vector<const Identity*>& found) const {
+        if (attribute == recordName) {
+            const auto named = identities_->findByName(value);
+            found.insert(found.end(), named.begin(), named.end());
+        } else if (const Identity* identity = attribute == sid
+                                                  ? identities_->findById(value)
+                                                  : identities_->findByDistinguishedName(value)) {
+            found.push_back(identity);
+        }
+    }
+
+    static bool isAsked(const Identity& identity, const platform::DirectoryQuery& query) {
+        const auto& types = query.recordTypes;
+        if (identity.kind != IdentityKind::activeDirectory ||
+            std::find(types.begin(), types.end(), identity.isGroup() ? groups : users) == types.end())
+            return false;
+        if (query.match == platform::DirectoryMatch::any)
+            return true;
+        for (const std::string& value : valuesOf(identity, query.attribute)) {
+            for (const std::string& wanted : query.values) {
+                const std::string folded = fold(value);
+                if (query.match == platform::DirectoryMatch::equalTo
+                        ? folded == fold(wanted)
+                        : folded.find(fold(wanted)) != std::string::npos)
+                    return true;
+            }
+        }
+        return false;
+    }
+
+    std::shared_ptr<const Identities> identities_;
+    std::shared_ptr<State> state_;
+};
+
+} // namespace
+
+MemoryDirectory::MemoryDirectory(std::shared_ptr<const Identities> identities)
+    : identities_(std::move(identities)) {}
+
+std::optional<std::map<std::string, std::string>> MemoryDirectory::activeDirectoryState() {
+    if (!state_->bound)
+        return std::nullopt;
+    return std::map<std::string, std::string>{{"NodeName", "/Active Directory/" + identities_->domain}};
+}
+
+std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNode(const std::string& name) {
+    state_->openedNodes.push_back(name);
+    const std::string domain = "/Active Directory/" + identities_->domain;
+    if (!state_->bound || state_->failNodes || (name != domain && name != domain + "/All Domains"))
+        return nullptr;
+    return std::make_shared<MemoryNode>(identities_, state_);
+}
+
+std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNetworkNode() {
+    state_->openedNodes.emplace_back("network");
+    if (!state_->bound || state_->failNodes)
+        return nullptr;
+    return std::make_shared<MemoryNode>(identities_, state_);
+}
+
+void MemoryDirectory::prefetch(const std::vector<std::string>& sids) {
+    state_->prefetched.insert(state_->prefetched.end(), sids.begin(), sids.end());
+}
+
+} // namespace quorvan::simulator
