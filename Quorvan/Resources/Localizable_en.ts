@@ -1,0 +1,332 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+  <name></name>
+  <!-- Application menu -->
+  <message id="AboutQuorvan_title">
+    <source></source>
+    <translation>&amp;About Quorvan</translation>
+  </message>
+  <message id="Preferences_title">
+    <source></source>
+    <translation>&amp;Preferences…</translation>
+  </message>
+  <message id="Services_title">
+    <source></source>
+    <translation>Services</translation>
+  </message>
+  <message id="HideQuorvan_title">
+    <source></source>
+    <translation>Hide Quorvan</translation>
+  </message>
+  <message id="HideOthers_title">
+    <source></source>
+    <translation>Hide Others</translation>
+  </message>
+  <message id="ShowAll_title">
+    <source></source>
+    <translation>Show All</translation>
+  </message>
+  <message id="QuitQuorvan_title">
+    <source></source>
+    <translation>&amp;Quit Quorvan</translation>
+  </message>
+  <message id="Help_title">
+    <source></source>
+    <translation>&amp;Help</translation>
+  </message>
+  <message id="QuorvanHelp_title">
+    <source></source>
+    <translation>Quorvan &amp;Help</translation>
+  </message>
+  <message id="Application_Menu_Label">
+    <source></source>
+    <translation>&amp;Quorvan</translation>
+  </message>
+  <message id="About_Description_Label">
+    <source></source>
+    <translation>Rights management for files and folders on Kelp volumes.</translation>
+  </message>
+  <message id="About_Version_Label">
+    <source></source>
+    <translation>Version %1</translation>
+  </message>
+  <message id="About_Licence_Label">
+    <source></source>
+    <translation>Free software under the GNU General Public License, version 3 or later.</translation>
+  </message>
+  <message id="Help_Heading_Label">
+    <source></source>
+    <translation>How Quorvan works</translation>
+  </message>
+  <message id="Help_Selection_Label">
+    <source></source>
+    <translation>Quorvan works on the file or folder that you chose in the file manager. To manage another one, choose it there and open Quorvan from its menu again.</translation>
+  </message>
+  <message id="Help_Editing_Label">
+    <source></source>
+    <translation>Tick or clear a box to grant or take away a right. Nothing reaches the server until you press Apply; Revert brings back what the server has. You can change rights where you hold Supervisor or Access Control yourself; everywhere else the list is for reading.</translation>
+  </message>
+  <message id="Help_Rights_Label">
+    <source></source>
+    <translation>The letters above the boxes</translation>
+  </message>
+  <message id="Help_Log_Label">
+    <source></source>
+    <translation>What Quorvan asks the server, and what the server answers, is kept in %1</translation>
+  </message>
+  <!-- Main window and options page -->
+  <message id="RM_Window_Title">
+    <source></source>
+    <translation>Rights Management</translation>
+  </message>
+  <message id="Trustee_Rights_Title">
+    <source></source>
+    <translation>Trustee Rights</translation>
+  </message>
+  <message id="File_System_Rights_Title">
+    <source></source>
+    <translation>File System Rights</translation>
+  </message>
+  <message id="User_Quota_Title">
+    <source></source>
+    <translation>User Quota</translation>
+  </message>
+  <message id="Information_Title">
+    <source></source>
+    <translation>Information</translation>
+  </message>
+  <message id="Settings_Title">
+    <source></source>
+    <translation>Settings</translation>
+  </message>
+  <message id="Trustee_Rights_Description_Label">
+    <source></source>
+    <translation>Who may do what here: trustees and their rights</translation>
+  </message>
+  <message id="File_System_Rights_Description_Label">
+    <source></source>
+    <translation>Every path below on which one user or group holds rights</translation>
+  </message>
+  <message id="User_Quota_Description_Label">
+    <source></source>
+    <translation>How much space each user may fill on the volume</translation>
+  </message>
+  <message id="Information_Description_Label">
+    <source></source>
+    <translation>Attributes, owner and directory quota</translation>
+  </message>
+  <message id="Settings_Description_Label">
+    <source></source>
+    <translation>Show the trustees of both directories</translation>
+  </message>
+  <message id="Page_Follows_Label">
+    <source></source>
+    <translation>Not available yet: this page follows in a later version.</translation>
+  </message>
+  <message id="Managed_Path_Label">
+    <source></source>
+    <translation>Path being managed</translation>
+  </message>
+  <message id="Managed_Server_Label">
+    <source></source>
+    <translation>on %1</translation>
+  </message>
+  <!-- Trustee rights window -->
+  <message id="Rights_Label">
+    <source></source>
+    <translation>Rights</translation>
+  </message>
+  <message id="Inherited_Rights_Label">
+    <source></source>
+    <translation>Inherited Rights Filter</translation>
+  </message>
+  <message id="Effective_Rights_Label">
+    <source></source>
+    <translation>Effective Rights</translation>
+  </message>
+  <message id="Trustee_Directories_Label">
+    <source></source>
+    <translation>Trustee Directories</translation>
+  </message>
+  <message id="Rights_Tip_Label">
+    <source></source>
+    <translation>The trustees of this path and their rights</translation>
+  </message>
+  <message id="Inherited_Rights_Tip_Label">
+    <source></source>
+    <translation>Which rights this path lets through from the folders above</translation>
+  </message>
+  <message id="Effective_Rights_Tip_Label">
+    <source></source>
+    <translation>What a trustee may really do here</translation>
+  </message>
+  <message id="Trustee_Directories_Tip_Label">
+    <source></source>
+    <translation>The trustees of the folders above and below</translation>
+  </message>
+  <message id="Tab_Follows_Label">
+    <source></source>
+    <translation>This view follows in a later version.</translation>
+  </message>
+  <message id="Close_title">
+    <source></source>
+    <translation>&amp;Close</translation>
+  </message>
+  <message id="Close_Tip_Label">
+    <source></source>
+    <translation>Back to the overview</translation>
+  </message>
+  <!-- Trustee table -->
+  <message id="Col_UserGrp_Name">
+    <source></source>
+    <translation>User or Group</translation>
+  </message>
+  <message id="Add_Remove_Label">
+    <source></source>
+    <translation>Add or remove trustees:</translation>
+  </message>
+  <message id="Apply_title">
+    <source></source>
+    <translation>&amp;Apply</translation>
+  </message>
+  <message id="Revert_title">
+    <source></source>
+    <translation>&amp;Revert</translation>
+  </message>
+  <message id="Rights_Label_Title">
+    <source></source>
+    <translation>Trustees and their rights</translation>
+  </message>
+  <message id="Morvane_Trustee_Label">
+    <source></source>
+    <translation>Show &amp;Morvane trustees too</translation>
+  </message>
+  <message id="AD_Trustee_Label">
+    <source></source>
+    <translation>Show Active &amp;Directory trustees too</translation>
+  </message>
+  <message id="Both_Trustee_Label">
+    <source></source>
+    <translation>Show trustees of &amp;both directories</translation>
+  </message>
+  <message id="Supervisor_Label">
+    <source></source>
+    <translation>Supervisor</translation>
+  </message>
+  <message id="Read_Label">
+    <source></source>
+    <translation>Read</translation>
+  </message>
+  <message id="Write_Label">
+    <source></source>
+    <translation>Write</translation>
+  </message>
+  <message id="Erase_Label">
+    <source></source>
+    <translation>Erase</translation>
+  </message>
+  <message id="Create_Label">
+    <source></source>
+    <translation>Create</translation>
+  </message>
+  <message id="Modify_Label">
+    <source></source>
+    <translation>Modify</translation>
+  </message>
+  <message id="File_Scan_Label">
+    <source></source>
+    <translation>File Scan</translation>
+  </message>
+  <message id="Access_Control_Label">
+    <source></source>
+    <translation>Access Control</translation>
+  </message>
+  <message id="Right_Ticked_Label">
+    <source></source>
+    <translation>granted</translation>
+  </message>
+  <message id="Right_Unticked_Label">
+    <source></source>
+    <translation>not granted</translation>
+  </message>
+  <!-- Alerts -->
+  <message id="Warning_Title">
+    <source></source>
+    <translation>Warning</translation>
+  </message>
+  <message id="Error_Title">
+    <source></source>
+    <translation>Error</translation>
+  </message>
+  <message id="Err_Msg_Duplicate_Trustee">
+    <source></source>
+    <translation>A user or group that you chose is a trustee of this path already. Its rights were left as they are.</translation>
+  </message>
+  <message id="Err_No_Object">
+    <source></source>
+    <translation>The server does not know this object.</translation>
+  </message>
+  <message id="Err_MI_Create_Failed">
+    <source></source>
+    <translation>The management connection to the server could not be set up.</translation>
+  </message>
+  <message id="Err_Fail_SalvagePurge">
+    <source></source>
+    <translation>The files could not be salvaged or purged.</translation>
+  </message>
+  <message id="Err_Invalid_FileName">
+    <source></source>
+    <translation>This file name contains characters that the server does not accept.</translation>
+  </message>
+  <message id="Err_Duplicate_FileName">
+    <source></source>
+    <translation>A file with this name exists already. Choose another name.</translation>
+  </message>
+  <message id="Err_Invalid_FilePath">
+    <source></source>
+    <translation>This path does not exist on the server or is not valid.</translation>
+  </message>
+  <message id="Err_Empty_FileName">
+    <source></source>
+    <translation>Enter a file name.</translation>
+  </message>
+  <message id="Err_NIT_Down">
+    <source></source>
+    <translation>The server's identity service does not answer. Ask the server's administrator to start it.</translation>
+  </message>
+  <message id="Err_No_Privilege">
+    <source></source>
+    <translation>You do not hold the rights that this operation needs.</translation>
+  </message>
+  <message id="Err_Purge_Warning">
+    <source></source>
+    <translation>Purging removes the files for good. They cannot be salvaged afterwards.</translation>
+  </message>
+  <message id="Err_CancelAll_Warning">
+    <source></source>
+    <translation>All changes that were not applied yet will be lost.</translation>
+  </message>
+  <message id="Err_Keychain_Not_Found">
+    <source></source>
+    <translation>The server's password was not found in the keyring. Mount the share with “Remember password”, then open Quorvan again.</translation>
+  </message>
+  <message id="Err_Pipe_Open_Failed">
+    <source></source>
+    <translation>The server's management service could not be opened.</translation>
+  </message>
+  <message id="Err_Operation_Failed">
+    <source></source>
+    <translation>The server did not complete the operation. Check the connection to the server and try again. The log file has the details.</translation>
+  </message>
+  <message id="Err_AD_Connect">
+    <source></source>
+    <translation>Active Directory cannot be reached. Check the network connection and try again.</translation>
+  </message>
+  <message id="Err_Logged_User_Morvane">
+    <source></source>
+    <translation>You are logged in to the server as a user of the Morvane directory, which this installation does not support. Quorvan will quit.</translation>
+  </message>
+</context>
+</TS>
