@@ -6,7 +6,11 @@
 namespace quorvan {
 
 void detail::endProcess() {
+#ifdef QUORVAN_FUZZING
+    throw FatalExit{};
+#else
     std::abort();
+#endif
 }
 
 } // namespace quorvan

@@ -27,6 +27,11 @@ const Value& unwrap(const std::optional<Value>& value, std::string_view what, co
     return *value;
 }
 
+#ifdef QUORVAN_FUZZING
+/// What a fatal end throws in a fuzzing build, where an intended end of the process is no finding.
+struct FatalExit {};
+#endif
+
 namespace detail {
 [[noreturn]] void endProcess();
 }

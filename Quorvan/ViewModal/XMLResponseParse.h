@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/ViewModal/XMLElement.h"
+#include "Quorvan/ViewModal/XMLEventParser.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -18,47 +21,71 @@ struct ReplyEntry {
     std::optional<std::string> trusteeName;
     std::optional<std::string> trusteeID;
     std::optional<std::string> trusteeType;
+    std::optional<std::string> path;
     std::optional<std::uint16_t> rights;
     std::optional<std::uint16_t> inheritedRightsFilter;
     std::optional<std::uint16_t> effectiveRights;
-    std::optional<std::string> path;
 };
 
 /// Entries are shared: a later element may still write into one that is already in the list.
 using ReplyEntries = std::vector<std::shared_ptr<ReplyEntry>>;
 
-/// The names of the elements that lead from (not including) the root element to an element: at each
-/// step the first child element of that name.
-using ElementPath = std::vector<std::string>;
+/// Finds the element at a path while the events pass by.
+class ResultElement {
+public:
+    explicit ResultElement(ElementPath path)
+        : path_(std::move(path)) {}
 
-/// What the same event pass found out about the reply as a document.
-struct ReplyDocument {
-    std::optional<std::string> error; ///< why the reply is not XML; nothing when it is well-formed
-    bool resultFound = false;         ///< the element at the result path exists
-    bool resultHasAttributes = false;
-    std::string resultValue = "0"; ///< its "value" attribute; "0" when it has none
+    void didStartElement(std::string_view name, XMLAttributes attributes);
+    void didEndElement();
+
+    /// The "value" attribute of the element, "0" without one. Fatal when a step of the path is missing
+    /// or the element has no attributes at all.
+    std::string status() const;
+
+private:
+    ElementPath path_;
+    std::size_t depth_ = 0; ///< open elements
+    std::size_t steps_ = 0; ///< open elements that lie on the path, the root included
+    enum class Search { running, found, failed } search_ = Search::running;
+    bool hasAttributes_ = false;
+    std::string value_ = "0";
 };
 
-/// The event pass over one reply. Single use: its list and counters only grow.
-class XMLResponseParser {
+/// The event pass over one reply: gathers its entries and counts its failures, finds its result element
+/// and learns whether it is XML at all. Single use: its list and counters only grow.
+class XMLResponseParser final : public XMLEventHandler {
 public:
-    XMLResponseParser();
-    ~XMLResponseParser();
-    XMLResponseParser(const XMLResponseParser&) = delete;
-    XMLResponseParser& operator=(const XMLResponseParser&) = delete;
+    XMLResponseParser()
+        : XMLResponseParser(ElementPath{}) {}
+    explicit XMLResponseParser(ElementPath resultPath)
+        : result(std::move(resultPath)) {}
 
     /// Parses a reply and returns the entries in the order in which their elements closed. A parse
-    /// error stops the events early; what was gathered until then is returned. `document`, when given,
-    /// receives what the pass learned about the document, with its result element at `resultPath`.
-    const ReplyEntries& getdictionaryfromXMLData(std::string_view reply, const ElementPath& resultPath = {},
-                                                 ReplyDocument* document = nullptr);
+    /// error stops the events early; what was gathered until then is returned.
+    const ReplyEntries& getdictionaryfromXMLData(std::string_view reply);
 
+    void didStartElement(std::string_view name, XMLAttributes attributes) override;
+    void didEndElement(std::string_view name) override;
+    void foundCharacters(std::string_view text) override;
+
+    XMLEventParser parser;
     ReplyEntries arrStack;
-    int nAddFailed = 0;   ///< "addTrustee" elements that closed while the last result was not "0"
-    int nRemFailed = 0;   ///< the same for "removeTrustee"
-    int xmlReqStatus = 0; ///< the last result value other than "0"
+    std::string textInProgress; ///< since the last end tag, or the last line feed that came alone
+    std::string currentElement;
+    std::shared_ptr<ReplyEntry> dictForTrustees;
+    std::shared_ptr<ReplyEntry> dictForIRF;
+    std::shared_ptr<ReplyEntry> dictForEffRights;
+    std::shared_ptr<ReplyEntry> dictForDir;
+    std::string resValue; ///< of the last "result" element that had one
+    std::int32_t count = 0;
+    std::uint16_t rightsBit = 0;
+    std::int64_t nAddFailed = 0;   ///< "addTrustee" elements that closed while resValue was not "0"
+    std::int64_t nRemFailed = 0;   ///< the same for "removeTrustee"
+    std::int64_t xmlReqStatus = 0; ///< the last result value other than "0"
 
-    // TODO core: state and handlers
+    std::optional<std::string> error; ///< why the reply is not XML; nothing when it is
+    ResultElement result;
 };
 
 } // namespace quorvan

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Modal/Utils.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+#include <utf8proc.h>
+
+namespace quorvan {
+namespace {
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+std::string lowercasedAscii(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower) {
+        if (c >= 'A' && c <= 'Z')
+            c = static_cast<char>(c + ('a' - 'A'));
+    }
+    return lower;
+}
+
+/// The text as utf8proc maps it; text that is not valid UTF-8 as it is.
+std::string mapped(std::string_view text, utf8proc_option_t options, utf8proc_custom_func custom = nullptr) {
+    utf8proc_uint8_t* result = nullptr;
+    const utf8proc_ssize_t length =
+        utf8proc_map_custom(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                            static_cast<utf8proc_ssize_t>(text.size()), &result, options, custom, nullptr);
+    if (length < 0)
+        return std::string(text);
+    const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(result, &std::free);
+    return {reinterpret_cast<const char*>(result), static_cast<std::size_t>(length)};
+}
+
+} // namespace
+
+std::string normalizedNFC(std::string_view text) {
+    if (isAscii(text))
+        return std::string(text);
+    return mapped(text, static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE));
+}
+
+std::string lowercased(std::string_view text) {
+    if (isAscii(text))
+        return lowercasedAscii(text);
+    return mapped(text, UTF8PROC_STABLE, [](utf8proc_int32_t c, void*) { return utf8proc_tolower(c); });
+}
+
+std::string foldedForSearch(std::string_view text) {
+    if (isAscii(text))
+        return lowercasedAscii(text);
+    return mapped(text, static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_DECOMPOSE |
+                                                       UTF8PROC_CASEFOLD | UTF8PROC_STRIPMARK));
+}
+
+} // namespace quorvan

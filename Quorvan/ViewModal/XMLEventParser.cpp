@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/ViewModal/XMLEventParser.h"
+
+#include <climits>
+#include <exception>
+#include <memory>
+
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+
+namespace quorvan {
+namespace {
+
+/// One run of libxml2 and what stands between its C callbacks and the delegate.
+struct Run {
+    XMLEventHandler& delegate;
+    xmlParserCtxtPtr context = nullptr;
+    std::optional<std::string> error;
+    std::exception_ptr exception; ///< must not pass through libxml2's frames
+};
+
+template <class Event>
+void forward(void* data, Event&& event) {
+    Run& run = *static_cast<Run*>(data);
+    if (run.exception)
+        return;
+    try {
+        event(run.delegate);
+    } catch (...) {
+        run.exception = std::current_exception();
+    }
+}
+
+const char* text(const xmlChar* bytes) {
+    return reinterpret_cast<const char*>(bytes);
+}
+
+void startElement(void* data, const xmlChar* name, const xmlChar** attributes) {
+    forward(data, [&](XMLEventHandler& delegate) {
+        delegate.didStartElement(text(name), XMLAttributes(reinterpret_cast<const char**>(attributes)));
+    });
+}
+
+void endElement(void* data, const xmlChar* name) {
+    forward(data, [&](XMLEventHandler& delegate) { delegate.didEndElement(text(name)); });
+}
+
+void characters(void* data, const xmlChar* bytes, int length) {
+    forward(data, [&](XMLEventHandler& delegate) {
+        delegate.foundCharacters({text(bytes), static_cast<std::size_t>(length)});
+    });
+}
+
+/// Keeps the first error: what follows it is often only its consequence.
+void keepError(void* data, const char*, ...) {
+    Run& run = *static_cast<Run*>(data);
+    if (run.error)
+        return;
+    const xmlErrorPtr last = xmlCtxtGetLastError(run.context);
+    std::string description = last != nullptr && last->message != nullptr ? last->message : "unknown error";
+    description.erase(description.find_last_not_of('\n') + 1);
+    run.error = "line " + std::to_string(last != nullptr ? last->line : 0) + ": " + description;
+}
+
+void freeContext(xmlParserCtxtPtr context) {
+    xmlFreeDoc(context->myDoc); // libxml2 makes one by itself to keep the entities of a DTD
+    xmlFreeParserCtxt(context);
+}
+
+} // namespace
+
+std::optional<std::string> XMLEventParser::parse(std::string_view document, XMLEventHandler& delegate) {
+    if (document.empty())
+        return "the document is empty";
+    if (document.size() > INT_MAX)
+        return "the document is too long";
+    const std::unique_ptr<xmlParserCtxt, decltype(&freeContext)> context(
+        xmlCreateMemoryParserCtxt(document.data(), static_cast<int>(document.size())), &freeContext);
+    if (!context)
+        return "out of memory";
+
+    // The first version of the SAX interface: faster, and names come as they are written. Callbacks
+    // that are not set here (entities and DTDs above all) do nothing.
+    *context->sax = xmlSAXHandler{};
+    context->sax->initialized = 1;
+    context->sax->startElement = startElement;
+    context->sax->endElement = endElement;
+    context->sax->characters = characters;
+    context->sax->ignorableWhitespace = characters;
+    context->sax->error = keepError;
+    Run run{delegate, context.get(), {}, {}};
+    context->userData = &run;
+    // HUGE lifts the limits on size and depth. NOENT only makes "&amp;" in an attribute come as "&".
+    // What the reply was decoded from is known, whatever its declaration says: IGNORE_ENC.
+    xmlCtxtUseOptions(context.get(),
+                      XML_PARSE_HUGE | XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_IGNORE_ENC);
+
+    xmlParseDocument(context.get());
+    if (run.exception)
+        std::rethrow_exception(run.exception);
+    if (context->wellFormed == 0 && !run.error)
+        run.error = "not well-formed";
+    return context->wellFormed == 0 ? run.error : std::nullopt;
+}
+
+} // namespace quorvan
