@@ -251,6 +251,50 @@
     <source></source>
     <translation>not granted</translation>
   </message>
+  <message id="Search_Placeholder_Label">
+    <source></source>
+    <translation>Search by name</translation>
+  </message>
+  <message id="Search_Tip_Label">
+    <source></source>
+    <translation>Type a part of the name. In a search for the whole name, * stands for any characters and ? for one.</translation>
+  </message>
+  <message id="No_Trustees_Label">
+    <source></source>
+    <translation>No trustees on this path.</translation>
+  </message>
+  <message id="No_Match_Label">
+    <source></source>
+    <translation>No name matches “%1”.</translation>
+  </message>
+  <message id="Read_Only_Label">
+    <source></source>
+    <translation>You can look at these rights but not change them: that takes the Supervisor or Access Control right here.</translation>
+  </message>
+  <message id="Add_title">
+    <source></source>
+    <translation>A&amp;dd…</translation>
+  </message>
+  <message id="Add_Tip_Label">
+    <source></source>
+    <translation>Choose users and groups that become trustees of this path</translation>
+  </message>
+  <message id="Remove_title">
+    <source></source>
+    <translation>Re&amp;move</translation>
+  </message>
+  <message id="Remove_Tip_Label">
+    <source></source>
+    <translation>Take the selected trustees off this path</translation>
+  </message>
+  <message id="Revert_Tip_Label">
+    <source></source>
+    <translation>Drop all changes that were not applied yet</translation>
+  </message>
+  <message id="Apply_Tip_Label">
+    <source></source>
+    <translation>Send all changes to the server</translation>
+  </message>
   <!-- Alerts -->
   <message id="Warning_Title">
     <source></source>

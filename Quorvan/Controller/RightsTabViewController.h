@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Bundle.h"
+#include "Quorvan/Modal/Users.h"
+#include "Quorvan/Toolkit/RightsTable.h"
+#include "Quorvan/Toolkit/SearchFilter.h"
+#include "Quorvan/Toolkit/ViewController.h"
+#include "Quorvan/ViewModal/RightsTabViewModal.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+class QCheckBox;
+class QLabel;
+class QPushButton;
+
+namespace quorvan {
+
+class PathLabel;
+class SearchField;
+
+/// What the views share for as long as the program runs.
+class Shared {
+public:
+    static Shared& value();
+
+    bool bothID = false; ///< the trustees of both identity types are shown at once
+};
+
+/// The first tab of the rights window: the trustees of the selected path and their rights.
+///
+/// Nothing is sent until Apply, which sends all pending changes in one request and loads the list
+/// anew. Pending changes outlive everything but a successful Apply, Revert and a change to both
+/// identity types; also another visit to the tab, after which the rows no longer show them.
+class RightsTabViewController : public ViewController {
+public:
+    RightsTabViewController();
+
+    // Outlets
+    RightsTable* rightsTable = nullptr;
+    QCheckBox* showCheck = nullptr; ///< hidden behind showCheckCaption while it is a plain label
+    QLabel* showCheckCaption = nullptr;
+    SearchField* searchField = nullptr;
+    QLabel* addRemoveLabel = nullptr;
+    QLabel* readOnlyLabel = nullptr; ///< says why nothing can be changed, where that is so
+    QPushButton* applyBtn = nullptr;
+    QPushButton* revertBtn = nullptr;
+    PathLabel* currentPath = nullptr;
+    QPushButton* removeBtn = nullptr;
+    QPushButton* addBtn = nullptr;
+
+    RightsTabViewModal modalData;
+    std::unique_ptr<XMLReadWriteController> xmlController; ///< anew for each load and each Apply
+    std::string serverIP;
+    std::string selectedPath;
+    std::string mappedPath;
+    std::string domainIdentity; ///< the identity type worked in
+
+    TrusteeList trusteeList;             ///< as last loaded; edits never touch these objects
+    TrusteeList editedTrusteeList;       ///< the rows; while searching, those that match
+    TrusteeList backupEditedTrusteeList; ///< the rows as they were when the search started
+    TrusteeList removedTrusteeList;      ///< taken out by the latest Remove
+    TrusteeList trackTrusteeList;        ///< pending changes, "ADD" or "REMOVE", in the order they were made
+    std::optional<Rights> irfList = Rights();
+    Rights effRights; ///< of the logged-in user
+    bool isSupervisor = false;
+    bool isAccessControl = false;
+
+    std::optional<platform::FeatureDictionary> featureFlagDict;
+    bool bothIdentitiesFlag = false;
+    bool multiForestFlag = false;
+    bool addBothTrusteesFlag = false;
+    bool enableSettingsFlag = false;
+    bool isSearching = false;
+
+    void loadView() override;
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void viewDidAppear() override;
+
+    void initRightsMainView();
+    /// Loads the trustees of domainIdentity in place of what the lists held.
+    void initRightsTable();
+    /// Loads the trustees of one identity type and adds them to the lists.
+    void initRightsTable(const std::string& domain);
+    void setTabState();
+    void reloadTrusteeList();
+    void sortDescriptorsDidChange();
+
+    void onShowBothMorvaneAD(QCheckBox* sender);
+    void removeSelectedRow(QObject* sender);
+    void onMouseClickCheckbox(const RightsCheckBox& sender);
+    void onSearch(SearchField* sender);
+    void onRevertClick(QObject* sender);
+    void onApplyClick(QObject* sender);
+    void onReturnMainMenu();
+
+private:
+    void buildControls();
+    void layOutControls();
+    void connectControls();
+    void load(TrusteeList& trustees, const std::string& identityType);
+    void raiseOwnRights();
+    bool canEdit() const { return isSupervisor || isAccessControl; }
+    void setAddEnabled(bool enabled);
+    void setChangesEnabled(bool enabled);
+    void redisplay();
+
+    SearchFilter searchFilter_;
+    std::optional<SortDescriptor> backupOrder_; ///< the order of backupEditedTrusteeList
+};
+
+} // namespace quorvan

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/RightsTableModel.h"
+
+#include "Quorvan/Toolkit/Localized.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvan {
+
+RightsTableModel::RightsTableModel(std::vector<RightsTextColumn> textColumns,
+                                   std::unique_ptr<RightsRowSource> rows, QObject* parent)
+    : QAbstractTableModel(parent)
+    , textColumns_(std::move(textColumns))
+    , rows_(std::move(rows))
+    , tickedText_(L("Right_Ticked_Label"))
+    , untickedText_(L("Right_Unticked_Label"))
+    , shownRows_(rows_->rowCount()) {
+    std::transform(rightsColumns.begin(), rightsColumns.end(), rightNames_.begin(),
+                   [](const RightsColumn& column) { return plainL(column.nameKey); });
+}
+
+void RightsTableModel::reload() {
+    beginResetModel();
+    shownRows_ = rows_->rowCount();
+    endResetModel();
+}
+
+const RightsColumn* RightsTableModel::right(int column) const {
+    const int right = column - textColumnCount();
+    return right >= 0 && right < static_cast<int>(rightsColumns.size())
+               ? &rightsColumns[static_cast<std::size_t>(right)]
+               : nullptr;
+}
+
+const QString& RightsTableModel::rightName(int column) const {
+    return rightNames_[static_cast<std::size_t>(column - textColumnCount())];
+}
+
+int RightsTableModel::columnOf(const std::string& identifier) const {
+    for (int column = 0; column < columnCount(); ++column) {
+        const RightsColumn* box = right(column);
+        if (identifier ==
+            (box != nullptr ? box->identifier : textColumns_[static_cast<std::size_t>(column)].identifier))
+            return column;
+    }
+    return -1;
+}
+
+void RightsTableModel::setHeader(int textColumn, const QString& header) {
+    textColumns_[static_cast<std::size_t>(textColumn)].header = header;
+    emit headerDataChanged(Qt::Horizontal, textColumn, textColumn);
+}
+
+int RightsTableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : shownRows_;
+}
+
+int RightsTableModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : textColumnCount() + static_cast<int>(rightsColumns.size());
+}
+
+Qt::ItemFlags RightsTableModel::flags(const QModelIndex& index) const {
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    const RightsColumn* box = right(index.column());
+    // A box that may not be clicked stays within reach of the keyboard, so that it can be read out.
+    flags.setFlag(Qt::ItemIsUserCheckable, box != nullptr && isEnabled && isEnabled(box->bit));
+    return flags;
+}
+
+QVariant RightsTableModel::data(const QModelIndex& index, int role) const {
+    // The rows may have become fewer since the last reload.
+    if (!index.isValid() || index.row() >= rows_->rowCount())
+        return {};
+    return right(index.column()) == nullptr ? textData(index, role) : rightData(index, role);
+}
+
+QVariant RightsTableModel::textData(const QModelIndex& index, int role) const {
+    if (role == Qt::DisplayRole)
+        return rows_->text(index.row(), index.column());
+    if (role == Qt::DecorationRole)
+        return rows_->icon(index.row(), index.column());
+    return {};
+}
+
+QVariant RightsTableModel::rightData(const QModelIndex& index, int role) const {
+    const bool ticked = (rows_->rights(index.row()) & right(index.column())->bit) != 0;
+    if (role == Qt::CheckStateRole)
+        return ticked ? Qt::Checked : Qt::Unchecked;
+    if (role == Qt::ToolTipRole)
+        return rightName(index.column());
+    if (role == Qt::AccessibleTextRole)
+        return (ticked ? tickedText_ : untickedText_).arg(rightName(index.column()));
+    return {};
+}
+
+QVariant RightsTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    const RightsColumn* box = right(section);
+    if (role == Qt::DisplayRole)
+        return box != nullptr ? QString::fromLatin1(box->identifier)
+                              : textColumns_[static_cast<std::size_t>(section)].header;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(box != nullptr ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft);
+    if (box != nullptr && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
+        return rightName(section);
+    return {};
+}
+
+bool RightsTableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::CheckStateRole || !index.isValid() || index.row() >= rows_->rowCount() ||
+        !flags(index).testFlag(Qt::ItemIsUserCheckable))
+        return false;
+    if (onClick)
+        onClick({index.row(), right(index.column())->identifier, value.toInt() == Qt::Checked});
+    emit dataChanged(index, index);
+    return true;
+}
+
+} // namespace quorvan

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Quorvan/Toolkit/RightsColumns.h"
+
+#include <QAbstractTableModel>
+#include <QIcon>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quorvan {
+
+/// The rows behind a rights table. Asked on demand, for the rows that are painted.
+class RightsRowSource {
+public:
+    virtual ~RightsRowSource() = default;
+
+    virtual int rowCount() const = 0;
+    virtual QString text(int row, int textColumn) const = 0;
+    virtual QIcon icon(int /*row*/, int /*textColumn*/) const { return {}; }
+    virtual std::uint16_t rights(int row) const = 0;
+
+    /// What stays the same when rows only change places; lets the selection follow a sort.
+    virtual const void* object(int row) const = 0;
+};
+
+/// A text column; text columns stand before the rights.
+struct RightsTextColumn {
+    std::string identifier;
+    QString header;
+};
+
+/// A rights check box in the moment in which the user has clicked it.
+struct RightsCheckBox {
+    int row;
+    const char* identifier; ///< of RightsColumn
+    bool ticked;            ///< after the click
+};
+
+/// Text columns and eight check-box columns over a row source.
+class RightsTableModel : public QAbstractTableModel {
+public:
+    using EnablingRule = std::function<bool(std::uint16_t bit)>;
+    using ClickHandler = std::function<void(const RightsCheckBox&)>;
+
+    RightsTableModel(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
+                     QObject* parent);
+
+    EnablingRule isEnabled; ///< which rights may be clicked; none without a rule
+    ClickHandler onClick;   ///< puts a click into the rows; they are asked again afterwards
+
+    /// Takes over that the rows have changed. Until then the table shows as many as before, at most.
+    void reload();
+
+    int textColumnCount() const { return static_cast<int>(textColumns_.size()); }
+    /// The right of a column; null for a text column.
+    const RightsColumn* right(int column) const;
+    int columnOf(const std::string& identifier) const; ///< -1 when there is none
+    void setHeader(int textColumn, const QString& header);
+    const RightsRowSource& rows() const { return *rows_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// The check state of a right is the only thing that can be set: it is a click on its box.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+private:
+    QVariant textData(const QModelIndex& index, int role) const;
+    QVariant rightData(const QModelIndex& index, int role) const;
+    const QString& rightName(int column) const;
+
+    std::vector<RightsTextColumn> textColumns_;
+    std::unique_ptr<RightsRowSource> rows_;
+    std::array<QString, rightsColumns.size()> rightNames_;
+    QString tickedText_;
+    QString untickedText_;
+    int shownRows_ = 0;
+};
+
+} // namespace quorvan

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/SearchField.h"
+
+#include "Quorvan/Toolkit/Localized.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+
+namespace quorvan {
+
+SearchField::SearchField(QWidget* list, QWidget* parent)
+    : QLineEdit(parent)
+    , list_(list) {
+    setClearButtonEnabled(true);
+    setPlaceholderText(L("Search_Placeholder_Label"));
+    setAccessibleName(L("Search_Placeholder_Label"));
+    setToolTip(L("Search_Tip_Label"));
+    auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
+    connect(find, &QShortcut::activated, this, [this] {
+        setFocus(Qt::ShortcutFocusReason);
+        selectAll();
+    });
+}
+
+QSize SearchField::sizeHint() const {
+    return {fontMetrics().averageCharWidth() * 32, QLineEdit::sizeHint().height()};
+}
+
+void SearchField::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && !text().isEmpty())
+        clear();
+    else if (event->key() == Qt::Key_Down)
+        list_->setFocus(Qt::TabFocusReason);
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+} // namespace quorvan

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QIcon>
+
+#include <string_view>
+
+namespace quorvan {
+
+/// The name of the icon that stands for a kind of trustee ("Users", "Groups" or a directory-tree
+/// object class, in any case); kinds that nobody knows look like users.
+const char* trusteeIconName(std::string_view trusteeType);
+
+/// One of the program's icons by its name, made once.
+QIcon namedIcon(const char* name);
+
+} // namespace quorvan
