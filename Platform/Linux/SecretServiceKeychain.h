@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Keychain.h"
+
+#include <chrono>
+
+namespace quorvan::platform {
+
+/// The desktop's keyring, through the Secret Service: the network passwords that the file manager
+/// stores for its own SMB mounts (attributes server, user and protocol = smb).
+///
+/// Everything that keeps it from finding a password gives status -25300: no session bus, no service, a
+/// locked collection, no item, or a service that does not answer within the time limit. Nothing ever
+/// asks the user to unlock anything.
+class SecretServiceKeychain : public Keychain {
+public:
+    explicit SecretServiceKeychain(std::chrono::milliseconds timeLimit = std::chrono::seconds(20));
+
+    KeychainResult findInternetPassword(const std::string& server) override;
+
+private:
+    std::chrono::milliseconds timeLimit_;
+};
+
+} // namespace quorvan::platform

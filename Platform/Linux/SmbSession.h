@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Linux/SmbUrl.h"
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+#include <libsmbclient.h>
+
+namespace quorvan::platform {
+
+/// One authenticated connection to one share. Functions fail with -1 or null, and errno.
+class SmbSession {
+public:
+    SmbSession(SmbUrl share, std::string user, std::string password, std::chrono::milliseconds timeLimit);
+    ~SmbSession();
+    SmbSession(const SmbSession&) = delete;
+    SmbSession& operator=(const SmbSession&) = delete;
+
+    /// Logs in and connects to the share; 0 or an errno value.
+    int connect();
+
+    int stat(const std::string& path);
+    SMBCFILE* open(const std::string& path);
+    off_t seek(SMBCFILE* file, off_t offset);
+    ssize_t read(SMBCFILE* file, void* buffer, std::size_t size);
+    ssize_t write(SMBCFILE* file, const void* data, std::size_t size);
+    int close(SMBCFILE* file);
+
+    /// Whether the server still answers on the connection that is open now.
+    bool isAlive();
+
+private:
+    static void logIn(SMBCCTX* context, const char* server, const char* share, char* workgroup,
+                      int workgroupSize, char* user, int userSize, char* password, int passwordSize);
+    static int connectionAdded(SMBCCTX* context, SMBCSRV* connection, const char* server, const char* share,
+                               const char* workgroup, const char* user);
+    static int connectionRemoved(SMBCCTX* context, SMBCSRV* connection);
+    static SmbSession& of(SMBCCTX* context);
+    bool makeContext();
+
+    SmbUrl share_;
+    std::string user_;
+    std::string password_;
+    std::chrono::milliseconds timeLimit_;
+    SMBCCTX* context_ = nullptr;
+    SMBCSRV* connection_ = nullptr; ///< owned by the context
+    smbc_add_cached_srv_fn addToCache_ = nullptr;
+    smbc_remove_cached_srv_fn removeFromCache_ = nullptr;
+};
+
+} // namespace quorvan::platform

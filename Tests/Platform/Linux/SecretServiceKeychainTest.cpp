@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/SecretServiceKeychain.h"
+#include "Tests/Support/ChildProcess.h"
+
+#include <cstring>
+#include <memory>
+
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+namespace quorvan {
+namespace {
+
+using platform::KeychainResult;
+using platform::SecretServiceKeychain;
+
+/// A session bus of our own with an unlocked keyring.
+class SecretService : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const char* program : {"dbus-daemon", "dbus-send", "gnome-keyring-daemon", "secret-tool"}) {
+            if (!test::isInstalled(program))
+                GTEST_SKIP() << program << " is not installed";
+        }
+        for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+            ::setenv(variable, home.path.c_str(), 1);
+        bus = std::make_unique<test::ChildProcess>(
+            std::vector<std::string>{"dbus-daemon", "--session", "--nofork", "--print-address"});
+        ::setenv("DBUS_SESSION_BUS_ADDRESS", bus->readLine().c_str(), 1);
+        ASSERT_EQ(test::run({"gnome-keyring-daemon", "--unlock", "--components=secrets"}, "keyring"), 0);
+    }
+
+    static void store(std::vector<std::string> attributes, std::string_view secret) {
+        std::vector<std::string> command{"secret-tool", "store", "--label=x", "xdg:schema",
+                                         "org.gnome.keyring.NetworkPassword"};
+        command.insert(command.end(), attributes.begin(), attributes.end());
+        ASSERT_EQ(test::run(command, secret), 0);
+    }
+
+    test::TemporaryFolder home;
+    std::unique_ptr<test::ChildProcess> bus;
+    SecretServiceKeychain keychain;
+};
+
+TEST_F(SecretService, FindsTheNetworkPasswordOfExactlyThisServer) {
+    store({"server", "files.example", "user", "zoë", "protocol", "smb"}, "pä ss\n word");
+    store({"server", "files.example", "user", "other", "protocol", "sftp"}, "ssh");
+    store({"server", "nameless.example", "protocol", "smb"}, "x");
+
+    const KeychainResult found = keychain.findInternetPassword("files.example");
+    ASSERT_TRUE(found.item);
+    EXPECT_EQ(found.status, 0);
+    EXPECT_EQ(found.item->account, "zoë");
+    EXPECT_EQ(found.item->data, "pä ss\n word");
+
+    const KeychainResult nameless = keychain.findInternetPassword("nameless.example");
+    ASSERT_TRUE(nameless.item);
+    EXPECT_EQ(nameless.item->account, std::nullopt);
+    EXPECT_EQ(nameless.item->data, "x");
+
+    for (const char* server : {"files", "FILES.example", "files.example.com", "", "\xFF"}) {
+        const KeychainResult result = keychain.findInternetPassword(server);
+        EXPECT_EQ(result.status, -25300) << server;
+        EXPECT_FALSE(result.item) << server;
+    }
+}
+
+TEST_F(SecretService, CountsALockedCollectionAsOneWithoutTheItem) {
+    store({"server", "files.example", "user", "bob", "protocol", "smb"}, "x");
+    ASSERT_EQ(keychain.findInternetPassword("files.example").status, 0);
+    ASSERT_EQ(test::run({"dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.secrets",
+                         "/org/freedesktop/secrets", "org.freedesktop.Secret.Service.Lock",
+                         "array:objpath:/org/freedesktop/secrets/collection/login"}),
+              0);
+    EXPECT_EQ(keychain.findInternetPassword("files.example").status, -25300);
+}
+
+TEST(SecretServiceMissing, GivesNoItem) {
+    const test::TemporaryFolder folder;
+    const std::string path = (folder.path / "bus").string();
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + path).c_str(), 1);
+    EXPECT_EQ(SecretServiceKeychain().findInternetPassword("files.example").status, -25300);
+
+    // A bus that accepts connections and never says a word.
+    const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_un address{AF_UNIX, {}};
+    std::strncpy(address.sun_path, path.c_str(), sizeof address.sun_path - 1);
+    ASSERT_EQ(::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(::listen(listener, 8), 0);
+    SecretServiceKeychain keychain(std::chrono::milliseconds(200));
+    EXPECT_EQ(keychain.findInternetPassword("files.example").status, -25300);
+    ::close(listener);
+}
+
+} // namespace
+} // namespace quorvan

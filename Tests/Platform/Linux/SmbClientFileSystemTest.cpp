@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/SmbClientFileSystem.h"
+#include "Platform/Linux/SmbUrl.h"
+
+#include <cerrno>
+
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace quorvan {
+namespace {
+
+using platform::SmbClientFileSystem;
+using platform::SmbUrl;
+
+/// A TCP port of this machine that nobody serves: refused, or, once it listens, accepted in silence.
+class Port {
+public:
+    Port() {
+        socklen_t size = sizeof address_;
+        address_.sin_family = AF_INET;
+        address_.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
+        ::bind(socket_, reinterpret_cast<const sockaddr*>(&address_), size);
+        ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address_), &size);
+    }
+    ~Port() { ::close(socket_); }
+    Port(const Port&) = delete;
+    Port& operator=(const Port&) = delete;
+
+    void listen() const { ::listen(socket_, 8); }
+    std::string url() const {
+        return "smb://127.0.0.1:" + std::to_string(::ntohs(address_.sin_port)) + "/IPC$";
+    }
+
+private:
+    int socket_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in address_{};
+};
+
+TEST(SmbUrlTest, TakesShareUrlsApartAndPutsThemTogether) {
+    const struct {
+        const char *url, *host, *share, *name, *below;
+    } cases[] = {
+        {"smb://files.example/IPC$", "files.example", "IPC$", "IPC$", "smb://files.example/IPC$/a%20b"},
+        {"smb://10.1.2.3:4450/_admin/", "10.1.2.3", "_admin", "_admin", "smb://10.1.2.3:4450/_admin/a%20b"},
+        {"smb://[::1]:445/x/y", "::1", "x/y", "y", "smb://[::1]:445/x/y/a%20b"},
+        {"smb://h/100%25 %C3%A4;?#@", "h", "100% ä;?#@", "100% ä;?#@",
+         "smb://h/100%25%20%C3%A4%3B%3F%23%40/a%20b"},
+        {"smb://h/50%/%zz%4", "h", "50%/%zz%4", "%zz%4", "smb://h/50%25/%25zz%254/a%20b"},
+    };
+    for (const auto& item : cases) {
+        const auto url = SmbUrl::parse(item.url);
+        ASSERT_TRUE(url) << item.url;
+        EXPECT_EQ(url->host(), item.host);
+        EXPECT_EQ(url->share, item.share);
+        EXPECT_EQ(url->name(), item.name);
+        EXPECT_EQ(url->below("/a b"), item.below);
+    }
+    for (const char* url :
+         {"", "smb://", "smb:///IPC$", "smb://h", "smb://h/", "smb://h//", "cifs://h/x", "//h/x",
+          "smb://user:pw@h/x", "smb://h?port=1/x", "smb://a b/x", "smb://h/a%00b", "smb://:445/x"})
+        EXPECT_FALSE(SmbUrl::parse(url)) << url;
+}
+
+TEST(SmbClientFileSystemTest, GivesEachFailedMountItsOwnErrorWithinTheTimeLimit) {
+    SmbClientFileSystem network([](std::string_view line) { ADD_FAILURE() << line; },
+                                std::chrono::milliseconds(300));
+    const Port refused;
+    const Port silent;
+    silent.listen();
+    const struct {
+        std::string url, password;
+        int error;
+    } cases[] = {
+        {"not a url", "x", EINVAL},
+        {refused.url(), std::string(256, 'x'), EINVAL},
+        {"smb://no.such.host.invalid/IPC$", "x", EHOSTUNREACH},
+        {refused.url(), "x", ECONNREFUSED},
+        {silent.url(), "x", ETIMEDOUT},
+    };
+    for (const auto& item : cases) {
+        const platform::MountResult result = network.mount(item.url, "bob", item.password, {});
+        EXPECT_EQ(result.error, item.error) << item.url;
+        EXPECT_TRUE(result.mountPoints.empty());
+    }
+}
+
+TEST(SmbClientFileSystemTest, KnowsNothingBelowVolumesBeforeTheFirstMount) {
+    SmbClientFileSystem network([](std::string_view) {});
+    for (const char* path : {"/Volumes/IPC$", "/Volumes/IPC$/FilesCmdPipe", "/Volumes", "/etc/passwd", ""}) {
+        EXPECT_EQ(network.stat(path), -1) << path;
+        EXPECT_EQ(errno, ENOENT);
+        EXPECT_EQ(network.open(path), -1);
+        EXPECT_EQ(errno, ENOENT);
+        EXPECT_EQ(network.unmount(path, true), -1);
+        EXPECT_EQ(errno, EINVAL);
+    }
+    char byte = 0;
+    EXPECT_EQ(network.write(1, &byte, 1), -1);
+    EXPECT_EQ(errno, EBADF);
+    EXPECT_EQ(network.close(1), -1);
+    EXPECT_EQ(network.read(1, &byte, 1), 0) << "an error that does not pass must end a read loop";
+}
+
+TEST(SmbClientFileSystemTest, ResolvesToTheFirstIPv4AddressOrNothing) {
+    SmbClientFileSystem network([](std::string_view) {});
+    const struct {
+        const char *host, *address;
+    } cases[] = {{"10.1.2.3", "10.1.2.3"},
+                 {"localhost", "127.0.0.1"},
+                 {"::1", ""},
+                 {"", ""},
+                 {"no.such.host.invalid", ""}};
+    for (const auto& item : cases)
+        EXPECT_EQ(network.resolve(item.host), item.address) << item.host;
+}
+
+} // namespace
+} // namespace quorvan
