@@ -31,13 +31,17 @@ inline constexpr std::array<const char*, 6> accounts{supervisor,     accessContr
                                                      supervisorTree, accessControlTree, readOnlyTree};
 
 inline constexpr const char* selection = "VOL1:\\Projects\\Aurora"; ///< a dozen trustees of both kinds
-inline constexpr const char* crowded = "VOL1:\\Projects\\Harbour Festival"; ///< two hundred trustees
+inline constexpr const char* crowded = "VOL1:\\Projects\\Harbour Festival"; ///< two hundred of either kind
 
 } // namespace demo
 
 /// Fills an empty server with the volume VOL1, the users and groups of both directories, and the
 /// accounts above.
 void addDemoData(KelpServer& server);
+
+/// The same identities and accounts on a volume VOL1 with no folders, where only the accounts above
+/// are trustees.
+void addDemoAccounts(KelpServer& server);
 
 /// Adds `count` new identities of one kind and makes each a trustee of `path`, with varied names and
 /// rights. The same arguments give the same data.

@@ -24,10 +24,11 @@ const char* description(int code) {
     }
 }
 
-const RequestElement* child(const RequestElement* parent, std::string_view name) {
+/// The first child of that name, or of any name when it is ""; null when there is none.
+const RequestElement* firstChild(const RequestElement* parent, std::string_view name) {
     if (parent != nullptr) {
         for (const RequestElement& each : parent->children) {
-            if (each.name == name)
+            if (name.empty() || each.name == name)
                 return &each;
         }
     }
@@ -52,18 +53,16 @@ std::string failureReply(int code) {
 std::string failureReply(const RequestElement& request, int code) {
     // A reply repeats the operations of its request (fileInfo with getFileInfo, trustees with each
     // addTrustee), so that every operation has its result where the client looks for it.
-    const RequestElement* subject = child(&request, "fileRequest");
-    if (subject == nullptr || subject->children.empty())
+    const RequestElement* subject = firstChild(&request, "fileRequest");
+    const RequestElement* group = firstChild(subject, "");
+    if (group == nullptr || group->children.empty())
         return failureReply(code);
     ReplyWriter reply;
     reply.open("adminReply");
-    for (const RequestElement& group : subject->children) {
-        reply.open(group.name.c_str());
-        for (const RequestElement& operation : group.children) {
-            reply.open(operation.name.c_str());
-            writeResult(reply, code);
-            reply.close();
-        }
+    reply.open(group->name.c_str());
+    for (const RequestElement& operation : group->children) {
+        reply.open(operation.name.c_str());
+        writeResult(reply, code);
         reply.close();
     }
     return reply.finish();

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Simulator/RequestReader.h"
+#include "Tests/Simulator/SmallServer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quorvan::simulator {
+namespace {
+
+using testing::HasSubstr;
+
+/// One element in a request text.
+struct Span {
+    std::string name;
+    std::size_t from = 0;
+    std::size_t to = 0;
+};
+
+/// Every element of a well-formed text, in the order in which they end.
+std::vector<Span> elements(const std::string& text) {
+    std::vector<Span> open;
+    std::vector<Span> all;
+    for (std::size_t at = text.find('<'); at != std::string::npos; at = text.find('<', at + 1)) {
+        const std::size_t end = text.find('>', at) + 1;
+        if (text[at + 1] != '/')
+            open.push_back({text.substr(at + 1, text.find_first_of(" />", at) - at - 1), at, 0});
+        if (text[at + 1] == '/' || text[end - 2] == '/') {
+            open.back().to = end;
+            all.push_back(open.back());
+            open.pop_back();
+        }
+    }
+    return all;
+}
+
+/// The request with one element renamed, given an attribute, taken away, doubled, or changed over
+/// with the one after it. Changes may come in any number and order, and behind a doubled prefix; so these are
+/// only renamed and given an attribute.
+std::vector<std::string> mutations(const std::string& text) {
+    std::vector<std::string> mutated;
+    const std::vector<Span> all = elements(text);
+    for (const Span& each : all) {
+        const std::string element = text.substr(each.from, each.to - each.from);
+        const std::string before = text.substr(0, each.from);
+        const std::string after = text.substr(each.to);
+        const std::string inside = element.substr(1 + each.name.size());
+        const std::size_t endTag = inside.rfind("</" + each.name + ">");
+        mutated.push_back(before + "<other" + inside.substr(0, endTag) +
+                          (endTag == std::string::npos ? "" : "</other>") + after);
+        mutated.push_back(before + "<" + each.name + " x=\"1\"" + inside + after);
+        if (each.name == "addTrustee" || each.name == "removeTrustee" ||
+            each.name == "modifyInheritedRightsFilter")
+            continue;
+        mutated.push_back(before + after);
+        if (each.name != "virtualIO" || text.find("addTrustee") == std::string::npos)
+            mutated.push_back(before + element + element + after);
+        for (const Span& next : all) {
+            const std::string other = text.substr(next.from, next.to - next.from);
+            if (next.from == each.to && other != element)
+                mutated.push_back(before + other + element + text.substr(next.to));
+        }
+    }
+    return mutated;
+}
+
+struct ValidRequest {
+    const char* what;
+    std::string text;
+    const char* pipe = "/FilesCmdPipe";
+};
+
+std::vector<ValidRequest> validRequests() {
+    const std::string severalPaths = admin(commandStream + "<fileRequest><trustees>" + add("S-1-5-21-3", "") +
+                                           remove("S-1-5-21-2", "VOL1:\\Dir") + "</trustees></fileRequest>");
+    return {
+        {"list, Active Directory", listInDomain()},
+        {"list, Morvane", listInTree()},
+        {"set of several", changes(add("S-1-5-21-3", "") + remove("S-1-5-21-2") + addInTree("guid-4", ""))},
+        {"several paths", severalPaths},
+        {"filter", filterRequest("")},
+        {"user type", userTypeRequest, "/ZelSmbPipe"}};
+}
+
+TEST(Strictness, RefusesEveryRequestThatDiffersByOneElement) {
+    for (const ValidRequest& each : validRequests()) {
+        SmallServer small;
+        EXPECT_THAT(small.ask("boss", each.text, each.pipe), testing::Not(HasSubstr("\"20901\"")))
+            << each.what;
+        for (const std::string& mutated : mutations(each.text)) {
+            SmallServer fresh;
+            EXPECT_THAT(fresh.ask("boss", mutated, each.pipe), HasSubstr("\"20901\""))
+                << each.what << ": " << mutated;
+            EXPECT_EQ(fresh.rightsAt(fresh.guest), 0xFFFF) << mutated;
+        }
+    }
+}
+
+TEST(Strictness, RefusesOtherContents) {
+    const std::string valid = changes(add("S-1-5-21-3", "<read/>") + remove("S-1-5-21-2"));
+    const std::pair<const char*, const char*> replacements[] = {
+        {">LONG<", ">DOS<"},
+        {">LONG<", ">long<"},
+        {"name=\"command\"", "name=\"data\""},
+        {"name=\"command\"", "name='command'"},
+        {"type=\"adID\"", "type=\"ADID\""},
+        {" type=\"adID\"", ""},
+        {"<adUser/>", "<adUser>x</adUser>"},
+        {"<symLink/>", "<symLink/> "},
+        {"<read/>", "<read/><read/>"},
+        {"<read/>", "<write/><read/>"},
+        {"<read/>", "<modify/><create/>"},
+        {"<read/>", "read"},
+        {"\\Dir\\Sub<", "\\Dir\\Su\u0301b<"}, // two characters where NFC has one
+        {"\\Dir\\Sub<", "\\Dir<"},            // another path without the doubled prefix
+        {"\\Dir\\Sub<", "\\Dir\\R&D<"},       // a bare ampersand
+        {"\\Dir\\Sub<", "\\Dir\\\xC3<"},      // ill-formed UTF-8
+        {"<adminRequest>", "<?xml version=\"1.0\"?><adminRequest>"},
+        {"</adminRequest>", "</adminRequest>\n"},
+        {"</adminRequest>", "</adminRequest><x/>"},
+        {"</adminRequest>", ""},
+        {"</adminRequest>", "<!-- --></adminRequest>"},
+    };
+    for (const auto& [from, to] : replacements) {
+        SmallServer small;
+        std::string text = valid;
+        const std::size_t at = text.find(from);
+        ASSERT_NE(at, std::string::npos) << from;
+        text.replace(at, std::string_view(from).size(), to);
+        EXPECT_THAT(small.ask("boss", text), HasSubstr("\"20901\"")) << text;
+        EXPECT_EQ(small.rightsAt(small.guest), 0xFFFF) << text;
+    }
+    SmallServer small;
+    const std::string whole = filterRequest("");
+    const std::size_t from = whole.find("<modify");
+    const std::string filterElement = whole.substr(from, whole.find("</trustees>") - from);
+    for (const std::string& text :
+         {std::string(), std::string(100000, '<'), admin(""), commandStream, changes("x"),
+          changes(filterElement + filterElement), changes(filterElement + add("S-1-5-21-3", ""))})
+        EXPECT_THAT(small.ask("boss", text), HasSubstr("\"20901\"")) << text.substr(0, 100);
+}
+
+TEST(RequestReader, ReadsTextAndReferences) {
+    const auto root = readRequest("<a b=\"1&quot;\" c=\"\"><d>x &lt;&#233;&#x20AC;&gt; y</d><e/></a>");
+    ASSERT_TRUE(root);
+    EXPECT_EQ(root->attributes, (decltype(root->attributes){{"b", "1\""}, {"c", ""}}));
+    EXPECT_EQ(root->children.at(0).text, "x <é€> y");
+    for (const char* bad :
+         {"<a b=\"1\" b=\"2\"/>", "<a>x<b/></a>", "<a><b/>x</a>", "<a>&nbsp;</a>", "<a>&#0;</a>",
+          "<a>&#xD800;</a>", "<a>&#99999999999;</a>", "<a></b>", "<a", "<1/>", "<a b = \"1\"/>"})
+        EXPECT_FALSE(readRequest(bad)) << bad;
+    std::string deep;
+    for (int i = 0; i < 100000; ++i)
+        deep += "<a>";
+    EXPECT_FALSE(readRequest(deep));
+}
+
+} // namespace
+} // namespace quorvan::simulator
