@@ -10,6 +10,7 @@ PathLabel::PathLabel(QWidget* parent)
     : QLineEdit(parent) {
     setReadOnly(true);
     setFrame(false);
+    setFocusPolicy(Qt::ClickFocus);
     setTextMargins(0, 0, 0, 0);
     QPalette label = palette();
     label.setBrush(QPalette::Base, Qt::transparent);

@@ -24,6 +24,37 @@ QRect boxRect(const QRect& cell, const QWidget* widget) {
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, cell);
 }
 
+QColor mixed(const QColor& from, const QColor& to, float share) {
+    const auto mix = [share](float a, float b) { return a + (b - a) * share; };
+    return QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
+                            mix(from.blueF(), to.blueF()));
+}
+
+/// Styles outline a box with a darkened window colour, which is lost on a dark table, and grey out a
+/// disabled tick until it cannot be told from none. A table is there to be read.
+QPalette boxPalette(QPalette palette, bool enabled) {
+    palette.setCurrentColorGroup(QPalette::Active);
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::Text);
+    if (base.lightness() < 128)
+        palette.setColor(QPalette::Window, mixed(base, text, enabled ? 0.75F : 0.4F));
+    if (!enabled) {
+        palette.setColor(QPalette::Base, mixed(base, text, 0.09F));
+        palette.setColor(QPalette::Text, mixed(base, text, 0.75F));
+    }
+    return palette;
+}
+
+void paintFocusRing(QPainter* painter, const QRect& area, const QStyleOptionViewItem& option) {
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(
+        QPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Highlight), 1.5));
+    painter->drawRoundedRect(QRectF(area).adjusted(1, 1, -1, -1), 3, 3);
+    painter->restore();
+}
+
 } // namespace
 
 QRect RightsCheckBoxDelegate::boxArea(const QRect& cell, const QWidget* widget) {
@@ -36,29 +67,22 @@ void RightsCheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     QStyleOptionViewItem cell = option;
     style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, option.widget);
 
-    QStyleOptionButton box;
-    box.rect = boxRect(option.rect, option.widget);
-    box.palette = option.palette;
-    box.direction = option.direction;
-    box.fontMetrics = option.fontMetrics;
     const bool enabled = index.flags().testFlag(Qt::ItemIsUserCheckable);
     const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    box.state = option.state & (QStyle::State_Active | QStyle::State_HasFocus);
+    QStyleOptionButton box;
+    box.rect = boxRect(option.rect, option.widget);
+    box.palette = boxPalette(option.palette, enabled);
+    box.direction = option.direction;
+    box.fontMetrics = option.fontMetrics;
+    box.state = option.state & QStyle::State_Active;
     box.state.setFlag(QStyle::State_Enabled, enabled);
     box.state.setFlag(QStyle::State_MouseOver, enabled && option.state.testFlag(QStyle::State_MouseOver));
     box.state.setFlag(QStyle::State_Sunken, pressed_ == index);
     box.state.setFlag(QStyle::State_On, ticked);
     box.state.setFlag(QStyle::State_Off, !ticked);
     style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, option.widget);
-
-    if (option.state.testFlag(QStyle::State_HasFocus)) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(box);
-        focus.rect = boxArea(option.rect, option.widget);
-        focus.state |= QStyle::State_KeyboardFocusChange;
-        focus.backgroundColor = option.palette.color(QPalette::Base);
-        style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, option.widget);
-    }
+    if (option.state.testFlag(QStyle::State_HasFocus))
+        paintFocusRing(painter, boxArea(option.rect, option.widget), option);
 }
 
 QSize RightsCheckBoxDelegate::sizeHint(const QStyleOptionViewItem& option,

@@ -15,6 +15,31 @@
 
 namespace quorvan {
 
+namespace {
+
+/// Draws the icon of a selected row in the colour of its text; in its own it could drown.
+class TextDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->icon.isNull() || !option->state.testFlag(QStyle::State_Selected))
+            return;
+        const qreal ratio = option->widget != nullptr ? option->widget->devicePixelRatioF() : 1.0;
+        QPixmap shape = option->icon.pixmap(option->decorationSize, ratio);
+        QPainter painter(&shape);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(shape.rect(), option->palette.color(QPalette::HighlightedText));
+        painter.end();
+        option->icon = QIcon();
+        option->icon.addPixmap(shape, QIcon::Selected);
+    }
+};
+
+} // namespace
+
 RightsTable::RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
                          QWidget* parent)
     : QTableView(parent)
@@ -22,6 +47,7 @@ RightsTable::RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_
     , boxes_(new RightsCheckBoxDelegate(this)) {
     setModel(model_);
     prototypes_.resize(static_cast<std::size_t>(model_->columnCount()));
+    setItemDelegate(new TextDelegate(this));
     for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column)
         setItemDelegateForColumn(column, boxes_);
 
