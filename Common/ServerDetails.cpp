@@ -7,6 +7,7 @@
 #include "Platform/Services.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace quorvan {
@@ -28,6 +29,14 @@ std::vector<std::string> splitAtBackslash(const std::string& text) {
     return parts;
 }
 
+/// A slash as a rule; but a folder further down may be called "Volumesé".
+void eraseFirstCharacter(std::string& text) {
+    std::size_t length = 1;
+    while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80)
+        ++length;
+    text.erase(0, length);
+}
+
 /// The selection in server form, seen from the server path that the share's root maps to. Parts are
 /// compared as plain substrings, not component by component; the server paths of existing
 /// installations depend on it.
@@ -37,8 +46,8 @@ std::string mapOntoServer(const std::string& formatted, const std::string& mappe
     const std::vector<std::string> parts = splitAtBackslash(formatted);
     const auto first = std::find_if(parts.begin() + 1, parts.end(),
                                     [&mapped](const std::string& part) { return !contains(mapped, part); });
-    require(first != parts.end(), "No part of the selection \"%@\" lies below the mapped path \"%@\"", formatted,
-            mapped);
+    require(first != parts.end(), "No part of the selection \"%@\" lies below the mapped path \"%@\"",
+            formatted, mapped);
     if (!contains(formatted, *first))
         return mapped;
     return mapped + "\\" + formatted.substr(formatted.find(*first));
@@ -54,9 +63,10 @@ std::unique_ptr<ServerDetails>& ServerDetails::instance() {
 ServerDetails& ServerDetails::serverInfo() {
     std::unique_ptr<ServerDetails>& details = instance();
     if (!details) {
-        details.reset(new ServerDetails);
-        details->retrieveSharedParams();
-        details->getKeychainCred();
+        std::unique_ptr<ServerDetails> fresh(new ServerDetails);
+        fresh->retrieveSharedParams();
+        fresh->getKeychainCred();
+        details = std::move(fresh);
     }
     return *details;
 }
@@ -86,12 +96,11 @@ std::string ServerDetails::getFormattedPath(const std::string& path) {
     const std::size_t last = path.rfind(root);
     std::string formatted = last == std::string::npos ? path : path.substr(last + root.size());
     require(!formatted.empty(), "The path \"%@\" names nothing below /Volumes", path);
-    formatted.erase(0, 1);
-    const std::size_t slash = formatted.find('/');
-    if (slash == std::string::npos)
+    eraseFirstCharacter(formatted);
+    if (formatted.find('/') == std::string::npos)
         return formatted + ":\\";
     std::replace(formatted.begin(), formatted.end(), '/', '\\');
-    return formatted.insert(slash, ":");
+    return formatted.insert(formatted.find('\\'), ":");
 }
 
 void ServerDetails::getKeychainCred() {

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/ViewModal/UsersViewModal.h"
+#include "Tests/Support/Fakes.h"
+#include "Tests/Support/LogRecorder.h"
+
+#include <gmock/gmock.h>
+
+namespace quorvan::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const char* const sid = "S-1-5-21-1";
+const char* const recordType = "dsAttrTypeStandard:RecordType";
+
+class UsersViewModal : public testing::Test {
+protected:
+    void add(std::map<std::string, std::vector<std::string>> attributes) {
+        world.directory->records[sid].push_back(std::make_shared<FakeRecord>(std::move(attributes)));
+    }
+    std::string typeOf(const char* id) {
+        Trustees trustee("", id, 0, "", "before", "");
+        setTrusteeTypeforTrustee(trustee);
+        return trustee.trusteeType;
+    }
+    FakeWorld world;
+    LogRecorder log;
+};
+
+TEST_F(UsersViewModal, SearchesWhereTheMachineIsBound) {
+    add({});
+    EXPECT_EQ(getUserGroupInfo(sid, {}, kODAttributeTypeSMBSID).size(), 1U);
+    (*world.bundle->features)["multiForest"] = false;
+    getUserGroupInfo("x", "dsRecTypeStandard:Groups", "dsAttrTypeStandard:RecordName");
+    EXPECT_THAT(world.directory->openedNodes, ElementsAre("", "/Active Directory/KELP/All Domains"));
+    const platform::DirectoryQuery& query = world.directory->queries[0];
+    EXPECT_THAT(query.recordTypes, ElementsAre("dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"));
+    EXPECT_EQ(query.attribute, "dsAttrTypeStandard:SMBSID");
+    EXPECT_EQ(query.match, platform::DirectoryMatch::equalTo);
+    EXPECT_THAT(query.values, ElementsAre(sid));
+    EXPECT_EQ(query.limit, 0U);
+    EXPECT_THAT(world.directory->queries[1].recordTypes, ElementsAre("dsRecTypeStandard:Groups"));
+
+    world.directory->state.reset();
+    EXPECT_THAT(getUserGroupInfo(sid, {}, kODAttributeTypeSMBSID), IsEmpty());
+    EXPECT_THAT(log.lines, ElementsAre("Could not find a Active Directory on the server"));
+    EXPECT_THAT(world.alerts->shown, IsEmpty());
+    world.bundle->features->clear();
+    EXPECT_DEATH(getUserGroupInfo(sid, {}, kODAttributeTypeSMBSID), "multiForest");
+}
+
+TEST_F(UsersViewModal, WarnsOfADirectoryThatDoesNotAnswer) {
+    world.directory->answers = false;
+    EXPECT_EQ(typeOf(sid), "before");
+    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "Unknown");
+    EXPECT_THAT(log.lines, ElementsAre("Error in Open Directory Session", "Error in Open Directory Session"));
+    const RecordingAlerts::Alert alert{"Warning_Title", "Err_AD_Connect", platform::AlertStyle::warning};
+    EXPECT_THAT(world.alerts->shown, ElementsAre(alert, alert));
+}
+
+TEST_F(UsersViewModal, TakesTheFirstPartOfTheLastRecordsFirstValue) {
+    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "Unknown");
+    add({{"a", {"one:two", "three"}}});
+    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "one");
+    add({{"a", {"last"}}});
+    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "last");
+    add({{"a", {":x"}}});
+    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "Unknown");
+    add({{"a", {"again"}}});
+    add({});
+    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "again");
+    EXPECT_THAT(log.lines, ElementsAre("Error in Opening Session"));
+}
+
+TEST_F(UsersViewModal, SetsATrusteesType) {
+    EXPECT_EQ(typeOf(sid), "before");
+    add({{recordType, {"dsRecTypeStandard:Users"}}});
+    EXPECT_EQ(typeOf(sid), "Users");
+    add({{recordType, {"dsRecTypeStandard:Groups:x"}}});
+    EXPECT_EQ(typeOf(sid), "Groups");
+    add({});
+    EXPECT_EQ(typeOf(sid), "Groups");
+    EXPECT_THAT(log.lines, ElementsAre("Error in Open Directory Session"));
+    EXPECT_EQ(world.alerts->shown.size(), 1U);
+    world.directory->records[sid].clear();
+    add({{recordType, {"Users"}}});
+    EXPECT_DEATH(typeOf(sid), "no second part");
+}
+
+} // namespace
+} // namespace quorvan::test
