@@ -19,11 +19,19 @@ Identity& Identities::add(Identity identity) {
         return *known->second;
     Identity& added = identities_.emplace_back(std::move(identity));
     byId_.emplace(added.id, &added);
-    byName_.emplace(fold(added.name), &added);
-    byDistinguishedName_.emplace(fold(added.distinguishedName), &added);
-    if (added.kind == IdentityKind::morvane)
-        byDistinguishedName_.emplace(fold(added.name), &added);
     return added;
+}
+
+const Identities::NameIndex& Identities::names() const {
+    while (names_.foldedNames.size() < identities_.size()) {
+        const Identity& next = identities_[names_.foldedNames.size()];
+        const std::string& name = names_.foldedNames.emplace_back(fold(next.name));
+        names_.byName.emplace(name, &next);
+        names_.byDistinguishedName.emplace(fold(next.distinguishedName), &next);
+        if (next.kind == IdentityKind::morvane)
+            names_.byDistinguishedName.emplace(name, &next);
+    }
+    return names_;
 }
 
 Identity& Identities::addDomainIdentity(const std::string& name, const std::string& sid,
@@ -54,15 +62,27 @@ const Identity* Identities::findById(std::string_view id) const {
 }
 
 const Identity* Identities::findByDistinguishedName(std::string_view name) const {
-    const auto found = byDistinguishedName_.find(fold(name));
-    return found == byDistinguishedName_.end() ? nullptr : found->second;
+    const auto& index = names().byDistinguishedName;
+    const auto found = index.find(fold(name));
+    return found == index.end() ? nullptr : found->second;
 }
 
 std::vector<const Identity*> Identities::findByName(std::string_view name) const {
     std::vector<const Identity*> found;
-    const auto [from, to] = byName_.equal_range(fold(name));
+    const auto [from, to] = names().byName.equal_range(fold(name));
     for (auto at = from; at != to; ++at)
         found.push_back(at->second);
+    return found;
+}
+
+std::vector<const Identity*> Identities::findByPartOfName(std::string_view part) const {
+    std::vector<const Identity*> found;
+    const std::vector<std::string>& all = names().foldedNames;
+    const std::string wanted = fold(part);
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (all[i].find(wanted) != std::string::npos)
+            found.push_back(&identities_[i]);
+    }
     return found;
 }
 

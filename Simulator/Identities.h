@@ -26,7 +26,9 @@ struct Identity {
 
 /// The users and groups of both directories; servers and MemoryDirectory share one.
 ///
-/// Entries live as long as the store. Every look-up by a single value takes constant time.
+/// Entries live as long as the store. Every look-up by a single value takes constant time; the index
+/// of names is made when the first one is looked up, so even look-ups are not for several threads
+/// at once.
 class Identities {
 public:
     /// Adds an identity; a second one with the same id is not added, the first is returned.
@@ -55,6 +57,9 @@ public:
     /// All with this name; case does not count.
     std::vector<const Identity*> findByName(std::string_view name) const;
 
+    /// All with this text somewhere in their names, in the order of the store; case does not count.
+    std::vector<const Identity*> findByPartOfName(std::string_view part) const;
+
     const std::deque<Identity>& all() const { return identities_; }
 
     std::string domain = "MERIDAL"; ///< of the identities that addDomain… makes
@@ -67,10 +72,16 @@ private:
     Identity& addTreeIdentity(const std::string& name, const std::string& unit, const std::string& guid,
                               const char* objectClass);
 
+    struct NameIndex {
+        std::vector<std::string> foldedNames; ///< one for each identity that is in the index yet
+        std::unordered_multimap<std::string, const Identity*> byName;
+        std::unordered_map<std::string, const Identity*> byDistinguishedName;
+    };
+    const NameIndex& names() const;
+
     std::deque<Identity> identities_;
     std::unordered_map<std::string, Identity*> byId_;
-    std::unordered_map<std::string, const Identity*> byDistinguishedName_;
-    std::unordered_multimap<std::string, const Identity*> byName_;
+    mutable NameIndex names_;
 };
 
 /// The identity, its groups, their groups and so on, each once.

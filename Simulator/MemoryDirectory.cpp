@@ -89,33 +89,31 @@ public:
     }
 
 private:
-    /// What the index knows to be all possible matches, or everything where it knows nothing.
+    /// What the store's indexes know to be all possible matches, or everything where they know nothing.
     std::vector<const Identity*> candidates(const platform::DirectoryQuery& query) const {
+        const bool equal = query.match == platform::DirectoryMatch::equalTo;
+        const bool part = query.match == platform::DirectoryMatch::contains;
         std::vector<const Identity*> found;
-        if (query.match == platform::DirectoryMatch::equalTo && isIndexed(query.attribute)) {
+        const auto add = [&](const std::vector<const Identity*>& more) {
+            found.insert(found.end(), more.begin(), more.end());
+        };
+        if (query.attribute == recordName && equal) {
             for (const std::string& value : query.values)
-                lookUp(query.attribute, value, found);
+                add(identities_->findByName(value));
+        } else if (query.attribute == recordName && part && query.values.size() == 1) {
+            add(identities_->findByPartOfName(query.values.front()));
+        } else if (equal && (query.attribute == sid || query.attribute == distinguishedName)) {
+            for (const std::string& value : query.values) {
+                const Identity* one = query.attribute == sid ? identities_->findById(value)
+                                                             : identities_->findByDistinguishedName(value);
+                if (one != nullptr)
+                    found.push_back(one);
+            }
         } else {
             for (const Identity& each : identities_->all())
                 found.push_back(&each);
         }
         return found;
-    }
-
-    static bool isIndexed(const std::string& attribute) {
-        return attribute == recordName || attribute == sid || attribute == distinguishedName;
-    }
-
-    void lookUp(const std::string& attribute, const std::string& value,
-                std::vector<const Identity*>& found) const {
-        if (attribute == recordName) {
-            const auto named = identities_->findByName(value);
-            found.insert(found.end(), named.begin(), named.end());
-        } else if (const Identity* identity = attribute == sid
-                                                  ? identities_->findById(value)
-                                                  : identities_->findByDistinguishedName(value)) {
-            found.push_back(identity);
-        }
     }
 
     static bool isAsked(const Identity& identity, const platform::DirectoryQuery& query) {

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Simulator/demo/Scenes.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTableView>
+
+#include <cerrno>
+
+namespace quorvan::demo {
+namespace {
+
+using simulator::Embedded;
+namespace account = simulator::demo;
+
+void openTrusteeRights(Stage& stage) {
+    stage.launch();
+    stage.press("TrusteeRightsView");
+}
+
+void showPages(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    stage.launch();
+    stage.photograph("01-options", "the options page; pages that do not exist yet are greyed out");
+    stage.press("TrusteeRightsView");
+    stage.photograph("02-trustees", "the trustees of a folder, seen by a supervisor");
+    stage.find<QTabWidget>("tabView")->setCurrentIndex(1);
+    stage.photograph("03-tab-follows", "a tab whose view follows");
+    stage.find<QTabWidget>("tabView")->setCurrentIndex(0);
+    stage.press("closeBtn");
+    stage.photograph("04-returned", "back on the options page");
+}
+
+void showEditing(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    openTrusteeRights(stage);
+    stage.tick(2, "W");
+    stage.tick(2, "E");
+    stage.photograph("05-edited", "two rights ticked: Revert and Apply wake up");
+    stage.press("applyBtn");
+    stage.photograph("06-applied", "sent and loaded anew");
+    stage.type("searchField", "a");
+    stage.photograph("07-searching", "names that contain an a, with or without accent");
+    stage.type("searchField", "zzz");
+    stage.photograph("08-no-match", "a search without a match");
+}
+
+void showOtherUsers(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo(account::accessControl));
+        openTrusteeRights(stage);
+        stage.photograph("09-access-control",
+                         "with Access Control: everything but Supervisor can be changed");
+    }
+    {
+        Stage stage(output, Embedded::demo(account::readOnly));
+        openTrusteeRights(stage);
+        stage.photograph("10-read-only", "without either right: for reading only");
+    }
+    {
+        Stage stage(output, Embedded::demo(account::supervisorTree));
+        openTrusteeRights(stage);
+        stage.photograph("11-directory-tree", "a user of the Morvane tree sees the tree's trustees");
+    }
+}
+
+void showOtherPaths(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo(account::supervisor, account::crowded));
+        openTrusteeRights(stage);
+        stage.find<QTableView>("rightsTable")->verticalScrollBar()->setValue(60);
+        stage.photograph("12-crowded", "two hundred trustees");
+    }
+    Stage stage(output, Embedded::demo(account::supervisor, "VOL1:\\Projects\\Tideline"));
+    openTrusteeRights(stage);
+    stage.photograph("13-no-trustees", "a folder without trustees of its own");
+}
+
+void showOtherFeatures(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    stage.otherFeatures = {{"enableSettings", false}};
+    stage.launch();
+    stage.photograph("14-without-settings", "the options page of an installation without settings");
+    stage.press("TrusteeRightsView");
+    stage.find<QAbstractButton>("showCheck")->click();
+    stage.photograph("15-both-directories", "the trustees of both directories");
+}
+
+void showFailures(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo());
+        stage.world.server->misbehaviour.openError = ECONNREFUSED;
+        stage.expectDialog("16-alert-operation-failed", "the alert when the server does not answer");
+        stage.launch();
+        stage.photograph("17-nobody-known", "nobody knows who is logged in: no page can be opened yet");
+    }
+    Stage stage(output, Embedded::demo());
+    stage.launch();
+    stage.world.server->misbehaviour.onlyPipe = "/FilesCmdPipe";
+    stage.world.server->misbehaviour.openError = EACCES;
+    stage.expectDialog("18-alert-load-failed", "the alert when the trustees cannot be loaded");
+    stage.press("TrusteeRightsView");
+    stage.photograph("19-back-on-options", "a failed load leads back to the options page");
+}
+
+void showMissingPassword(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    stage.world.keychain->items.clear();
+    stage.world.sharedDefaults->values("group.tarnix.common")["loggedUserType"] = "ActiveDirectory";
+    stage.expectDialog("20-alert-at-start", "without a keyring item the check of the user fails");
+    stage.launch();
+    stage.expectDialog("21-alert-keychain", "the alert when the password is missing");
+    stage.expectDialog("22-alert-at-return", "… and the check fails again");
+    stage.press("TrusteeRightsView");
+}
+
+void showHelp(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    stage.launch();
+    stage.expectDialog("23-help", "Help");
+    stage.delegate().QuorvanHelp->trigger();
+    stage.expectDialog("24-about", "About");
+    stage.delegate().AboutQuorvan->trigger();
+}
+
+} // namespace
+
+void showEverything(const Output& output) {
+    showPages(output);
+    showEditing(output);
+    showOtherUsers(output);
+    showOtherPaths(output);
+    showOtherFeatures(output);
+    showFailures(output);
+    showMissingPassword(output);
+    showHelp(output);
+}
+
+void showMainPages(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    stage.launch();
+    stage.photograph("01-options", "the options page");
+    stage.press("TrusteeRightsView");
+    stage.tick(2, "W");
+    stage.photograph("02-trustees", "the trustee table, edited");
+}
+
+} // namespace quorvan::demo

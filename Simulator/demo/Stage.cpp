@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Simulator/demo/Stage.h"
+
+#include "Common/ServerDetails.h"
+#include "Platform/Qt/QtAlerts.h"
+#include "Platform/Qt/QtBundle.h"
+#include "Platform/Qt/QtWaitCursor.h"
+#include "Quorvan/Controller/MainWindow.h"
+#include "Quorvan/Controller/RightsTabViewController.h"
+#include "Quorvan/Toolkit/RightsTable.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTableView>
+
+#include <utility>
+
+namespace quorvan::demo {
+namespace {
+
+/// The installed resources with a few switches set otherwise.
+class StageBundle : public platform::QtBundle {
+public:
+    explicit StageBundle(const std::map<std::string, bool>& otherFeatures)
+        : otherFeatures_(otherFeatures) {}
+
+    std::optional<platform::FeatureDictionary> featureDictionary() override {
+        auto features = QtBundle::featureDictionary();
+        if (features)
+            for (const auto& [key, value] : otherFeatures_)
+                (*features)[key] = value;
+        return features;
+    }
+
+private:
+    const std::map<std::string, bool>& otherFeatures_;
+};
+
+/// No selection and no mount of an earlier run is left.
+void startAfresh() {
+    ServerDetails::forget();
+    DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
+    Shared::value().bothID = false;
+}
+
+} // namespace
+
+Stage::Stage(const Output& output, simulator::Embedded embedded)
+    : world(std::move(embedded))
+    , output_(output)
+    , installed_(services())
+    , delegate_((output.folder + "/Library").toStdString()) {
+    startAfresh();
+    QObject::connect(&dialogTimer_, &QTimer::timeout, [this] { lookForDialog(); });
+}
+
+Stage::~Stage() {
+    if (!expected_.empty())
+        qFatal("The tour has not seen the dialog %s", qPrintable(expected_.front().name));
+    delegate_.applicationWillTerminate();
+    startAfresh();
+}
+
+platform::Services Stage::services() {
+    platform::Services services = world.services();
+    services.bundle = std::make_shared<StageBundle>(otherFeatures);
+    services.alerts = std::make_shared<platform::QtAlerts>();
+    services.busy = std::make_shared<platform::QtWaitCursor>();
+    return services;
+}
+
+QWidget* Stage::window() const {
+    return delegate_.mainWindow();
+}
+
+void Stage::press(const char* control) {
+    find<QPushButton>(control)->click();
+    QApplication::processEvents();
+}
+
+void Stage::type(const char* control, const char* text) {
+    auto* field = find<QLineEdit>(control);
+    field->setFocus();
+    field->setText(QString::fromUtf8(text));
+    QApplication::processEvents();
+}
+
+void Stage::tick(int row, const char* right) {
+    auto* table = static_cast<RightsTable*>(find<QTableView>("rightsTable"));
+    table->setFocus();
+    table->setCurrentIndex(table->box(row, right));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ");
+    QApplication::sendEvent(table, &press);
+    QApplication::processEvents();
+}
+
+void Stage::save(QWidget& widget, const QString& name, const QString& caption) {
+    QApplication::processEvents();
+    const QString file = QStringLiteral("%1/%2-%3.png").arg(output_.folder, output_.prefix, name);
+    const QPixmap picture = widget.grab();
+    if (!picture.save(file))
+        qFatal("Cannot write %s", qPrintable(file));
+    output_.say(QStringLiteral("%1  “%2”, %3×%4: %5")
+                    .arg(file, widget.windowTitle())
+                    .arg(picture.width())
+                    .arg(picture.height())
+                    .arg(caption));
+}
+
+void Stage::photograph(const char* name, const char* caption) {
+    save(*window(), QString::fromUtf8(name), QString::fromUtf8(caption));
+}
+
+void Stage::expectDialog(const char* name, const char* caption) {
+    expected_.push_back({QString::fromUtf8(name), QString::fromUtf8(caption)});
+    dialogTimer_.start(0);
+}
+
+void Stage::lookForDialog() {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr)
+        return;
+    dialogTimer_.stop();
+    ExpectedDialog expected = expected_.front();
+    expected_.pop_front();
+    if (const auto* box = qobject_cast<QMessageBox*>(dialog))
+        expected.caption += QStringLiteral("; it says “%1”").arg(box->text());
+    save(*dialog, expected.name, expected.caption);
+    dialog->reject();
+    if (!expected_.empty())
+        dialogTimer_.start(0);
+}
+
+} // namespace quorvan::demo

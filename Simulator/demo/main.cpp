@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// quorvan-demo: the application on a simulated server inside the process, selection included. It is the
+// real thing but for the server, the keyring and the shared defaults.
+#include "Quorvan/Controller/MainStoryboard.h"
+#include "Simulator/demo/Palettes.h"
+#include "Simulator/demo/Scenes.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QIcon>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <cstdio>
+#include <map>
+
+#include <unistd.h>
+
+namespace {
+
+namespace account = quorvan::simulator::demo;
+
+const std::map<QString, const char*> users = {
+    {"supervisor", account::supervisor},
+    {"access", account::accessControl},
+    {"reader", account::readOnly},
+    {"supervisor-tree", account::supervisorTree},
+    {"access-tree", account::accessControlTree},
+    {"reader-tree", account::readOnlyTree},
+};
+
+const QCommandLineOption
+    asOption("as", "Log in as one of: supervisor, access, reader, supervisor-tree, access-tree, reader-tree.",
+             "user", "supervisor");
+const QCommandLineOption pathOption("path", "Select this path of the volume.", "path", account::selection);
+const QCommandLineOption tourOption("tour", "Walk through every page and leave pictures in this folder.",
+                                    "folder");
+const QCommandLineOption scaledOption("main-pages", "Walk through the main pages only.");
+
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+bool asksForTour(int count, char** arguments) {
+    for (int at = 1; at < count; ++at)
+        if (QByteArray(arguments[at]).startsWith("--tour"))
+            return true;
+    return false;
+}
+
+/// The same program once more, at twice the size.
+int walkThroughAtTwiceTheSize(const QString& folder) {
+    QProcess second;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_SCALE_FACTOR", "2");
+    second.setProcessEnvironment(environment);
+    second.setProcessChannelMode(QProcess::ForwardedChannels);
+    second.start(QCoreApplication::applicationFilePath(), {"--tour", folder, "--main-pages"});
+    return second.waitForFinished(120000) ? second.exitCode() : 1;
+}
+
+int walkThrough(const QString& folder, bool mainPagesOnly) {
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "quorvan-demo: cannot make the folder %s\n", qPrintable(folder));
+        return 1;
+    }
+    // The application takes the standard streams for its log; the report needs them as they are now.
+    FILE* report = fdopen(dup(STDOUT_FILENO), "w");
+    quorvan::demo::Output output{folder, {}, [report](const QString& line) {
+                                     std::fprintf(report, "%s\n", qPrintable(line));
+                                     std::fflush(report);
+                                 }};
+    int status = 0;
+    if (!mainPagesOnly)
+        status = walkThroughAtTwiceTheSize(folder);
+    QApplication::setStyle("Fusion");
+    QApplication::setQuitOnLastWindowClosed(false);
+    const std::pair<const char*, QPalette> looks[] = {{"light", quorvan::demo::lightPalette()},
+                                                      {"dark", quorvan::demo::darkPalette()}};
+    for (const auto& [prefix, palette] : looks) {
+        QApplication::setPalette(palette);
+        output.prefix = QString::fromLatin1(prefix) + (mainPagesOnly ? "-200-percent" : "");
+        if (mainPagesOnly)
+            quorvan::demo::showMainPages(output);
+        else
+            quorvan::demo::showEverything(output);
+    }
+    return status;
+}
+
+int open(const QString& user, const QString& path) {
+    const quorvan::demo::Output output{
+        QStandardPaths::writableLocation(QStandardPaths::CacheLocation), {}, {}};
+    std::printf("The log is in %s/Library/Logs/tarnix/Quorvan.log\n", qPrintable(output.folder));
+    std::fflush(stdout);
+    quorvan::demo::Stage stage(output,
+                               quorvan::simulator::Embedded::demo(users.at(user), path.toStdString()));
+    return stage.delegate().run();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const bool tour = asksForTour(argc, argv) || !hasDisplay();
+    if (tour)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName("quorvan-demo");
+    QApplication::setWindowIcon(QIcon(":/icons/quorvan.svg"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Quorvan on a simulated server.");
+    parser.addHelpOption();
+    parser.addOptions({asOption, pathOption, tourOption, scaledOption});
+    parser.process(application);
+    if (!users.contains(parser.value(asOption)))
+        parser.showHelp(2);
+
+    quorvan::fillMainStoryboard();
+    if (tour)
+        return walkThrough(parser.isSet(tourOption) ? parser.value(tourOption) : QStringLiteral("demo"),
+                           parser.isSet(scaledOption));
+    return open(parser.value(asOption), parser.value(pathOption));
+}
