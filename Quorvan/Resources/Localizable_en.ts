@@ -129,6 +129,14 @@
     <source></source>
     <translation>Path being managed</translation>
   </message>
+  <message id="Try_Again_title">
+    <source></source>
+    <translation>&amp;Try Again</translation>
+  </message>
+  <message id="Try_Again_Tip_Label">
+    <source></source>
+    <translation>Ask the server once more who is logged in</translation>
+  </message>
   <message id="Managed_Server_Label">
     <source></source>
     <translation>on %1</translation>

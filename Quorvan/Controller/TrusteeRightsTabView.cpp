@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/TrusteeRightsTabView.h"
+
+#include "Quorvan/Controller/ViewTabController.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/Storyboard.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace quorvan {
+
+void TrusteeRightsTabView::loadView() {
+    auto* tabs = new ViewTabController(this);
+    insertChild(0, tabs);
+    closeBtn = outlet(new QPushButton(L("Close_title"), this), "closeBtn");
+    closeBtn->setToolTip(L("Close_Tip_Label"));
+    connect(closeBtn, &QPushButton::clicked, this, &TrusteeRightsTabView::onReturnMainMenu);
+
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(tabs, 1);
+    page->addWidget(closeBtn, 0, Qt::AlignLeft);
+}
+
+/// Room for a name of some forty letters beside the boxes, and for a dozen trustees.
+QSize TrusteeRightsTabView::sizeHint() const {
+    const QFontMetrics metrics = fontMetrics();
+    return ViewController::sizeHint().expandedTo(
+        {90 * metrics.averageCharWidth() + 80, 30 * metrics.lineSpacing()});
+}
+
+void TrusteeRightsTabView::onReturnMainMenu() {
+    replacePage(Storyboard::named("Main").instantiate("optionsViewController"),
+                QStringLiteral("Rights Management"));
+}
+
+} // namespace quorvan

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/TerminationSignals.h"
+
+#include "Common/Fatal.h"
+
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <csignal>
+#include <utility>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace quorvan {
+namespace {
+
+constexpr int handledSignals[] = {SIGTERM, SIGINT};
+int writeEnd = -1;
+
+void tellTheEventLoop(int) {
+    const int savedErrno = errno;
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, 1);
+    errno = savedErrno;
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals(std::function<void()> quit, QObject* parent)
+    : QObject(parent) {
+    int ends[2];
+    require(pipe2(ends, O_CLOEXEC | O_NONBLOCK) == 0, "No pipe for signals");
+    readEnd_ = ends[0];
+    writeEnd = ends[1];
+    auto* notifier = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [notifier, quit = std::move(quit)] {
+        notifier->setEnabled(false);
+        quit();
+    });
+    struct sigaction action {};
+    action.sa_handler = tellTheEventLoop;
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    for (const int signal : handledSignals)
+        sigaction(signal, &action, nullptr);
+}
+
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : handledSignals)
+        std::signal(signal, SIG_DFL);
+    ::close(readEnd_);
+    ::close(std::exchange(writeEnd, -1));
+}
+
+} // namespace quorvan

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Common/Log.h"
+#include "Platform/Linux/PlistSharedDefaults.h"
+#include "Platform/Linux/SecretServiceKeychain.h"
+#include "Platform/Linux/SmbClientFileSystem.h"
+#include "Platform/Linux/UnboundDirectory.h"
+#include "Platform/Qt/QtAlerts.h"
+#include "Platform/Qt/QtBundle.h"
+#include "Platform/Qt/QtWaitCursor.h"
+#include "Platform/Services.h"
+#include "Quorvan/AppDelegate.h"
+#include "Quorvan/Controller/MainStoryboard.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+namespace {
+
+constexpr const char* helpText =
+    "Usage: quorvan [--help] [--version]\n"
+    "\n"
+    "Shows and edits the rights on the file or folder that was chosen in the file manager.\n"
+    "The file manager's menu starts it; on its own it works on the last selection.\n"
+    "\n"
+    "  -h, --help     show this text and end\n"
+    "  -v, --version  show the version and end\n";
+
+bool isGiven(int count, char** arguments, std::string_view shortForm, std::string_view longForm) {
+    return std::any_of(arguments + 1, arguments + count, [&](std::string_view argument) {
+        return argument == shortForm || argument == longForm;
+    });
+}
+
+/// The password of the share lies in this process's memory; it must not end up in a core dump, nor be
+/// read by the user's other programs.
+void keepMemoryPrivate() {
+    const rlimit none{0, 0};
+    setrlimit(RLIMIT_CORE, &none);
+#ifndef __SANITIZE_ADDRESS__ // the leak check traces the process from within
+    prctl(PR_SET_DUMPABLE, 0);
+#endif
+}
+
+quorvan::platform::Services platformServices() {
+    using namespace quorvan::platform;
+    const LogLine log = [](std::string_view text) { quorvan::Log("%@", text); };
+    Services services;
+    services.sharedDefaults = std::make_shared<PlistSharedDefaults>(log);
+    services.keychain = std::make_shared<SecretServiceKeychain>();
+    services.network = std::make_shared<SmbClientFileSystem>(log);
+    services.directory = std::make_shared<UnboundDirectory>();
+    services.bundle = std::make_shared<QtBundle>();
+    services.alerts = std::make_shared<QtAlerts>();
+    services.busy = std::make_shared<QtWaitCursor>();
+    return services;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (isGiven(argc, argv, "-h", "--help")) {
+        std::fputs(helpText, stdout);
+        return 0;
+    }
+    if (isGiven(argc, argv, "-v", "--version")) {
+        std::puts("quorvan " QUORVAN_VERSION);
+        return 0;
+    }
+    keepMemoryPrivate();
+    QApplication application(argc, argv);
+    if (argc > 1) { // what Qt understands is gone by now
+        std::fprintf(stderr, "quorvan: unknown argument: %s\n%s", argv[1], helpText);
+        return 2;
+    }
+    QApplication::setApplicationVersion(QUORVAN_VERSION);
+    QApplication::setDesktopFileName("org.tarnix.Quorvan");
+    QApplication::setWindowIcon(QIcon(":/icons/quorvan.svg"));
+
+    const quorvan::platform::ScopedServices installed(platformServices());
+    quorvan::fillMainStoryboard();
+    quorvan::AppDelegate delegate;
+    return delegate.run();
+}
