@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/RightsTable.h"
+
+#include "Quorvan/Toolkit/NameSort.h"
+#include "Quorvan/Toolkit/TrusteeRows.h"
+#include "Tests/Support/Fakes.h"
+
+#include <QAccessible>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include <gmock/gmock.h>
+
+namespace quorvan {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct RightsTableTest : testing::Test {
+    RightsTableTest() {
+        world.bundle->texts = {{"Right_Ticked_Label", "%1, ticked"},
+                               {"Right_Unticked_Label", "%1, not ticked"},
+                               {"Supervisor_Label", "Su&pervisor"}};
+        for (const char* name : {"Cara", "abel", "Bea", "Abel"})
+            rows.push_back(std::make_shared<Trustees>(name, name, KelpRights::read, "", "Users", ""));
+        table = new RightsTable({{"username", "Name"}}, std::make_unique<TrusteeRows>(rows), &window);
+        table->setEnablingRule([](std::uint16_t bit) { return bit != KelpRights::supervisor; });
+        table->setClickHandler([this](const RightsCheckBox& box) {
+            clicks.push_back(std::to_string(box.row) + box.identifier + (box.ticked ? "+" : "-"));
+            rows[static_cast<std::size_t>(box.row)]->rights = box.ticked ? 0x1FB : 0;
+        });
+        table->setSortDescriptorPrototype(0, {"name", true});
+        table->setSortHandler([this] {
+            sortByName(rows, table->sortDescriptor()->ascending,
+                       [](const auto& row) -> const std::string& { return row->trusteeName; });
+            table->reloadData();
+        });
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(table);
+        layout->addWidget(&next);
+        window.resize(600, 300);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        table->setFocus();
+    }
+
+    void clickBox(int row, const char* identifier, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers,
+                          table->visualRect(table->box(row, identifier)).center());
+    }
+    void clickName(int row, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, modifiers,
+                          table->visualRect(table->box(row, "username")).center());
+    }
+    void clickHeader(int column) {
+        const QHeaderView* header = table->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          {header->sectionViewportPosition(column) + 8, header->height() / 2});
+    }
+    std::string names() const {
+        std::string all;
+        for (const auto& row : rows)
+            all += row->trusteeName + " ";
+        return all;
+    }
+
+    test::FakeWorld world;
+    TrusteeList rows;
+    std::vector<std::string> clicks;
+    QWidget window;
+    QLineEdit next;
+    RightsTable* table;
+};
+
+TEST_F(RightsTableTest, ClicksBoxesWithTheMouseAndLeavesTheSelectionAlone) {
+    clickName(2);
+    clickBox(0, "R");
+    clickBox(1, "W");
+    clickBox(1, "A"); // ticked by the click before
+    clickBox(0, "S"); // may not be clicked, so it selects its row like any other place
+    EXPECT_THAT(clicks, ElementsAre("0R-", "1W+", "1A-"));
+    EXPECT_THAT(table->selectedRowIndexes(), ElementsAre(0));
+
+    // Beside a box, and from one box to another, nothing is clicked.
+    const QRect cell = table->visualRect(table->box(3, "E"));
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.topLeft() + QPoint(1, 1));
+    QTest::mousePress(table->viewport(), Qt::LeftButton, {}, cell.center());
+    QTest::mouseRelease(table->viewport(), Qt::LeftButton, {},
+                        table->visualRect(table->box(2, "E")).center());
+    EXPECT_THAT(clicks, ElementsAre("0R-", "1W+", "1A-"));
+    EXPECT_THAT(table->selectedRowIndexes(), ElementsAre(3));
+}
+
+TEST_F(RightsTableTest, IsOperatedByTheKeyboard) {
+    QTest::keyClicks(table, " ");
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Space, Qt::Key_Right, Qt::Key_Space,
+                              Qt::Key_Right, Qt::Key_Down, Qt::Key_Space, Qt::Key_Space})
+        QTest::keyClick(table, key);
+    EXPECT_THAT(clicks, ElementsAre("1R-", "2W+", "2W-")); // S is passed, but not clicked
+    QTest::keyClick(table, Qt::Key_Tab);
+    EXPECT_TRUE(next.hasFocus());
+    QTest::keyClick(&next, Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_TRUE(table->hasFocus());
+}
+
+TEST_F(RightsTableTest, SortsByHeaderAndKeepsTheSelectedTrustees) {
+    clickName(0);
+    clickName(3, Qt::ControlModifier);
+    clickHeader(2); // no text to sort by
+    EXPECT_FALSE(table->sortDescriptor());
+    EXPECT_FALSE(table->horizontalHeader()->isSortIndicatorShown());
+    clickHeader(0);
+    EXPECT_EQ(names(), "abel Abel Bea Cara ");
+    EXPECT_THAT(table->selectedRowIndexes(), ElementsAre(1, 3));
+    clickHeader(0);
+    EXPECT_EQ(names(), "Cara Bea abel Abel ");
+    EXPECT_THAT(table->selectedRowIndexes(), ElementsAre(0, 3));
+    EXPECT_EQ(table->horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+
+    table->setSortDescriptor({});
+    clickHeader(0);
+    EXPECT_TRUE(table->sortDescriptor()->ascending);
+}
+
+TEST_F(RightsTableTest, SwitchedOffItScrollsAndReadsButTakesNeitherTicksNorSelection) {
+    clickName(1);
+    table->setEnablingRule({});
+    table->setSwitchedOn(false);
+    clickBox(0, "R");
+    clickName(2);
+    QTest::keyClick(table, Qt::Key_Right);
+    QTest::keyClick(table, Qt::Key_Space);
+    EXPECT_THAT(clicks, IsEmpty());
+    EXPECT_THAT(table->selectedRowIndexes(), IsEmpty());
+    EXPECT_TRUE(table->isEnabled());
+    EXPECT_EQ(table->currentIndex().column(), 1);
+}
+
+TEST_F(RightsTableTest, SurvivesRowsThatChangeBeforeItIsToldAndKeepsTheKeyboardsPlace) {
+    table->setCurrentIndex(table->box(3, "W"));
+    rows.resize(2);
+    table->viewport()->repaint();
+    EXPECT_FALSE(table->box(3, "W").data(Qt::CheckStateRole).isValid());
+    EXPECT_FALSE(table->model()->setData(table->box(3, "W"), Qt::Checked, Qt::CheckStateRole));
+    table->reloadData();
+    EXPECT_EQ(table->currentIndex(), table->box(1, "W"));
+    rows.clear();
+    table->reloadData();
+    table->setEmptyText("Nobody here");
+    EXPECT_EQ(table->accessibleDescription(), "Nobody here");
+}
+
+TEST_F(RightsTableTest, SpeaksToScreenReaders) {
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(table);
+    ASSERT_NE(reader->tableInterface(), nullptr);
+    QAccessibleInterface* read = reader->tableInterface()->cellAt(0, 2);
+    EXPECT_EQ(read->text(QAccessible::Name), "Read_Label, ticked");
+    EXPECT_TRUE(read->state().checkable);
+    EXPECT_TRUE(read->state().checked);
+    QAccessibleInterface* supervisor = reader->tableInterface()->cellAt(0, 1);
+    EXPECT_EQ(supervisor->text(QAccessible::Name), "Supervisor, not ticked");
+    EXPECT_FALSE(supervisor->state().checkable);
+
+    const char* const letters[] = {"Name", "S", "R", "W", "E", "C", "M", "F", "A"};
+    const QAbstractItemModel* model = table->model();
+    for (int column = 0; column < 9; ++column)
+        EXPECT_EQ(model->headerData(column, Qt::Horizontal), letters[column]);
+    EXPECT_EQ(model->headerData(1, Qt::Horizontal, Qt::ToolTipRole), "Supervisor");
+    EXPECT_EQ(model->headerData(7, Qt::Horizontal, Qt::AccessibleTextRole), "File_Scan_Label");
+}
+
+} // namespace
+} // namespace quorvan
