@@ -184,7 +184,7 @@ ByName addDemoIdentities(Identities& store) {
 }
 
 ByName addIdentitiesAndAccounts(KelpServer& server) {
-    const ByName known = addDemoIdentities(server.identities());
+    ByName known = addDemoIdentities(server.identities());
     const auto logIn = [&](const char* user, const char* name, Mask rights) {
         server.addAccount(user, demo::password, *known.at(name));
         server.setTrustee("VOL1:\\", *known.at(name), rights);

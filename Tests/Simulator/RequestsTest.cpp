@@ -162,8 +162,6 @@ TEST(Recording, KeepsTheLatestRequestsAndCountsAll) {
     EXPECT_EQ(small.server.requestCount(), 1201U);
     EXPECT_LE(small.server.requests().size(), 1000U);
     EXPECT_EQ(small.server.lastRequest(), "last");
-    EXPECT_EQ(small.server.requests().back().user, "clerk");
-    EXPECT_EQ(small.server.requests().back().pipeFile, "/FilesCmdPipe");
 }
 
 } // namespace

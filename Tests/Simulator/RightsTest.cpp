@@ -104,23 +104,5 @@ TEST(Volumes, FindPathsHoweverTheyAreSpelled) {
     EXPECT_EQ(volumes.make("no volume"), nullptr);
 }
 
-TEST(TrusteeList, KeepsItsOrder) {
-    Identities identities;
-    const Identity& a = identities.addDomainUser("a", "1");
-    const Identity& b = identities.addDomainUser("b", "2");
-    const Identity& c = identities.addDomainUser("c", "3");
-    TrusteeList list;
-    list.set(a, 1);
-    list.set(b, 2);
-    list.set(c, 3);
-    list.set(b, 8);
-    EXPECT_TRUE(list.remove(a));
-    EXPECT_FALSE(list.remove(a));
-    ASSERT_EQ(list.entries().size(), 2U);
-    EXPECT_EQ(list.entries()[0].identity, &b);
-    EXPECT_EQ(list.rightsOf(b), Mask{8});
-    EXPECT_EQ(list.rightsOf(c), Mask{3});
-}
-
 } // namespace
 } // namespace quorvan::simulator

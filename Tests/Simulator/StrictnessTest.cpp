@@ -36,31 +36,38 @@ std::vector<Span> elements(const std::string& text) {
     return all;
 }
 
+std::string joined(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (const std::string_view part : parts)
+        text += part;
+    return text;
+}
+
 /// The request with one element renamed, given an attribute, taken away, doubled, or changed over
-/// with the one after it. Changes may come in any number and order, and behind a doubled prefix; so these are
-/// only renamed and given an attribute.
+/// with the one after it. Changes may come in any number and order, and behind a doubled prefix; so
+/// these are only renamed and given an attribute.
 std::vector<std::string> mutations(const std::string& text) {
     std::vector<std::string> mutated;
     const std::vector<Span> all = elements(text);
     for (const Span& each : all) {
-        const std::string element = text.substr(each.from, each.to - each.from);
-        const std::string before = text.substr(0, each.from);
-        const std::string after = text.substr(each.to);
-        const std::string inside = element.substr(1 + each.name.size());
-        const std::size_t endTag = inside.rfind("</" + each.name + ">");
-        mutated.push_back(before + "<other" + inside.substr(0, endTag) +
-                          (endTag == std::string::npos ? "" : "</other>") + after);
-        mutated.push_back(before + "<" + each.name + " x=\"1\"" + inside + after);
+        const std::string_view element = std::string_view(text).substr(each.from, each.to - each.from);
+        const std::string_view before = std::string_view(text).substr(0, each.from);
+        const std::string_view after = std::string_view(text).substr(each.to);
+        const std::string_view inside = element.substr(1 + each.name.size());
+        const std::size_t endTag = inside.rfind(joined({"</", each.name, ">"}));
+        mutated.push_back(joined({before, "<other", inside.substr(0, endTag),
+                                  endTag == std::string_view::npos ? "" : "</other>", after}));
+        mutated.push_back(joined({before, "<", each.name, " x=\"1\"", inside, after}));
         if (each.name == "addTrustee" || each.name == "removeTrustee" ||
             each.name == "modifyInheritedRightsFilter")
             continue;
-        mutated.push_back(before + after);
+        mutated.push_back(joined({before, after}));
         if (each.name != "virtualIO" || text.find("addTrustee") == std::string::npos)
-            mutated.push_back(before + element + element + after);
+            mutated.push_back(joined({before, element, element, after}));
         for (const Span& next : all) {
-            const std::string other = text.substr(next.from, next.to - next.from);
+            const std::string_view other = std::string_view(text).substr(next.from, next.to - next.from);
             if (next.from == each.to && other != element)
-                mutated.push_back(before + other + element + text.substr(next.to));
+                mutated.push_back(joined({before, other, element, after.substr(other.size())}));
         }
     }
     return mutated;
