@@ -2,91 +2,10 @@
 #include "Quorvan/ViewModal/XMLElement.h"
 
 #include "Common/Fatal.h"
-#include "Quorvan/ViewModal/XMLEventParser.h"
+#include "Quorvan/ViewModal/XMLElementSearch.h"
+#include "Quorvan/ViewModal/XMLTree.h"
 
 namespace quorvan {
-
-/// All nodes in document order, so that what is below a node follows it in one stretch and neither
-/// walking nor freeing a tree recurses, however deep a server nests it.
-struct XMLTree {
-    struct Piece { // of `texts`
-        std::uint32_t at;
-        std::uint32_t length;
-    };
-    struct Node {
-        Piece piece;       ///< the name of an element, or the text
-        std::uint32_t end; ///< the first node behind everything below this one
-        std::uint32_t firstAttribute;
-        bool isText;
-    };
-    struct Attribute {
-        Piece name;
-        Piece value;
-    };
-    std::vector<Node> nodes; ///< ended by one that only ends the attributes of the last
-    std::vector<Attribute> attributes;
-    std::string texts;
-
-    std::string_view text(Piece piece) const {
-        return std::string_view(texts).substr(piece.at, piece.length);
-    }
-};
-
-namespace {
-
-class TreeBuilder final : public XMLEventHandler {
-public:
-    explicit TreeBuilder(XMLTree& tree)
-        : tree_(tree) {}
-
-    void didStartElement(std::string_view name, XMLAttributes attributes) override {
-        open_.push_back(addNode(name, false));
-        for (const XMLAttribute attribute : attributes)
-            tree_.attributes.push_back({store(attribute.name), store(attribute.value)});
-        textMayGrow_ = false;
-    }
-
-    void didEndElement(std::string_view) override {
-        tree_.nodes[open_.back()].end = size(tree_.nodes);
-        open_.pop_back();
-        textMayGrow_ = false;
-    }
-
-    void foundCharacters(std::string_view text) override {
-        if (textMayGrow_)
-            tree_.nodes.back().piece.length += store(text).length;
-        else
-            addNode(text, true);
-        textMayGrow_ = true;
-    }
-
-    void finish() { addNode("", true); }
-
-private:
-    template <class List>
-    static std::uint32_t size(const List& list) {
-        return static_cast<std::uint32_t>(list.size());
-    }
-
-    /// Everything stored is a part of the document, whose size fits into an int.
-    XMLTree::Piece store(std::string_view text) {
-        const XMLTree::Piece piece{size(tree_.texts), size(text)};
-        tree_.texts += text;
-        return piece;
-    }
-
-    std::uint32_t addNode(std::string_view text, bool isText) {
-        const std::uint32_t index = size(tree_.nodes);
-        tree_.nodes.push_back({store(text), index + 1, size(tree_.attributes), isText});
-        return index;
-    }
-
-    XMLTree& tree_;
-    std::vector<std::uint32_t> open_;
-    bool textMayGrow_ = false;
-};
-
-} // namespace
 
 bool XMLElement::isText() const {
     return tree_->nodes[index_].isText;
@@ -155,9 +74,22 @@ XMLElement XMLDocument::rootElement() const {
     return {tree_.get(), 0};
 }
 
+namespace {
+
+/// The name by which a missing element is reported: that of the whole path's end.
+std::string_view lastStep(const ElementPath& path) {
+    return path.empty() ? std::string_view() : path.back();
+}
+
+} // namespace
+
+void XMLElementSearch::requireFound() const {
+    require(state_ == State::found, "The reply has no element \"%@\"", lastStep(path_));
+}
+
 XMLElement getElement(const ElementPath& forPath, XMLElement xmlData) {
     const auto element = getXMLElement(forPath, xmlData);
-    return unwrap(element, "The reply has no element \"%@\"", forPath.empty() ? "" : forPath.back());
+    return unwrap(element, "The reply has no element \"%@\"", lastStep(forPath));
 }
 
 std::optional<XMLElement> getXMLElement(const ElementPath& forPath, XMLElement xmlData) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/ViewModal/XMLEventParser.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -33,6 +35,7 @@ public:
 
 private:
     friend class XMLDocument;
+    friend class XMLRowReader;
     XMLElement(const XMLTree* tree, std::uint32_t index)
         : tree_(tree)
         , index_(index) {}
@@ -80,14 +83,14 @@ public:
     ~XMLDocument();
 
     /// Why the text is not XML; nothing when it is.
-    const std::optional<std::string>& error() const { return error_; }
+    const std::optional<XMLError>& error() const { return error_; }
 
     /// Only for a document without error.
     XMLElement rootElement() const;
 
 private:
     std::unique_ptr<XMLTree> tree_;
-    std::optional<std::string> error_;
+    std::optional<XMLError> error_;
 };
 
 /// The names of the elements that lead from an element (itself not included) to one below it: at each

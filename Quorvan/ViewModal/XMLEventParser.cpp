@@ -15,7 +15,7 @@ namespace {
 struct Run {
     XMLEventHandler& delegate;
     xmlParserCtxtPtr context = nullptr;
-    std::optional<std::string> error;
+    std::optional<XMLError> error;
     std::exception_ptr exception; ///< must not pass through libxml2's frames
 };
 
@@ -59,7 +59,8 @@ void keepError(void* data, const char*, ...) {
     const xmlErrorPtr last = xmlCtxtGetLastError(run.context);
     std::string description = last != nullptr && last->message != nullptr ? last->message : "unknown error";
     description.erase(description.find_last_not_of('\n') + 1);
-    run.error = "line " + std::to_string(last != nullptr ? last->line : 0) + ": " + description;
+    run.error = {last != nullptr ? last->code : XML_ERR_INTERNAL_ERROR,
+                 "line " + std::to_string(last != nullptr ? last->line : 0) + ": " + description};
 }
 
 void freeContext(xmlParserCtxtPtr context) {
@@ -69,15 +70,15 @@ void freeContext(xmlParserCtxtPtr context) {
 
 } // namespace
 
-std::optional<std::string> XMLEventParser::parse(std::string_view document, XMLEventHandler& delegate) {
+std::optional<XMLError> XMLEventParser::parse(std::string_view document, XMLEventHandler& delegate) {
     if (document.empty())
-        return "the document is empty";
+        return XMLError{XML_ERR_DOCUMENT_EMPTY, "the document is empty"};
     if (document.size() > INT_MAX)
-        return "the document is too long";
+        return XMLError{XML_ERR_DOCUMENT_END, "the document is too long"};
     const std::unique_ptr<xmlParserCtxt, decltype(&freeContext)> context(
         xmlCreateMemoryParserCtxt(document.data(), static_cast<int>(document.size())), &freeContext);
     if (!context)
-        return "out of memory";
+        return XMLError{XML_ERR_NO_MEMORY, "out of memory"};
 
     // The first version of the SAX interface: faster, and names come as they are written. Callbacks
     // that are not set here (entities and DTDs above all) do nothing.
@@ -99,7 +100,7 @@ std::optional<std::string> XMLEventParser::parse(std::string_view document, XMLE
     if (run.exception)
         std::rethrow_exception(run.exception);
     if (context->wellFormed == 0 && !run.error)
-        run.error = "not well-formed";
+        run.error = {XML_ERR_INTERNAL_ERROR, "not well-formed"};
     return context->wellFormed == 0 ? run.error : std::nullopt;
 }
 

@@ -7,6 +7,13 @@
 
 namespace quorvan {
 
+/// Why a text is not XML.
+struct XMLError {
+    int code; ///< the parser's number for it; never 0
+    std::string description;
+    bool operator==(const XMLError&) const = default;
+};
+
 struct XMLAttribute {
     std::string_view name;
     std::string_view value;
@@ -70,9 +77,9 @@ public:
 /// is no limit on the size of a document or the depth of its elements.
 class XMLEventParser {
 public:
-    /// Tells `delegate` about the document up to its end or its first error. Returns the error's
-    /// description, or nothing for a well-formed document.
-    static std::optional<std::string> parse(std::string_view document, XMLEventHandler& delegate);
+    /// Tells `delegate` about the document up to its end or its first error. Returns that error, or
+    /// nothing for a well-formed document.
+    static std::optional<XMLError> parse(std::string_view document, XMLEventHandler& delegate);
 };
 
 } // namespace quorvan

@@ -203,7 +203,7 @@ std::string XMLReadWriteController::getResultValue(const std::string& reply, con
 
 std::string XMLReadWriteController::statusOf(const XMLResponseParser& parsed) const {
     if (parsed.error) {
-        Log("Error parsing KELP Reply - %@", *parsed.error);
+        Log("Error parsing KELP Reply - %@", parsed.error->description);
         return "0";
     }
     return parsed.result.status();

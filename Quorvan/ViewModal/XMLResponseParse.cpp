@@ -30,40 +30,54 @@ enum class Tag {
 
 struct TagName {
     std::string_view name;
-    Tag tag;
+    Tag tag = Tag::other;
     std::uint16_t bit = 0;
 };
 
+/// Every known name, the short ones first, so that a name is only compared with those of its length.
 constexpr std::array tagNames = {
     TagName{"id", Tag::id},
     TagName{"name", Tag::trustee},
-    TagName{"rights", Tag::rights},
     TagName{"read", Tag::right, KelpRights::read},
-    TagName{"write", Tag::right, KelpRights::write},
-    TagName{"create", Tag::right, KelpRights::create},
-    TagName{"erase", Tag::right, KelpRights::erase},
-    TagName{"accessControl", Tag::right, KelpRights::accessControl},
-    TagName{"fileScan", Tag::right, KelpRights::fileScan},
-    TagName{"modify", Tag::right, KelpRights::modify},
-    TagName{"supervisor", Tag::right, KelpRights::supervisor},
-    TagName{"trusteeInfo", Tag::trusteeInfo},
-    TagName{"accessRights", Tag::trusteeInfo},
-    TagName{"trustee", Tag::trustee},
     TagName{"file", Tag::file},
     TagName{"path", Tag::path},
+    TagName{"write", Tag::right, KelpRights::write},
+    TagName{"erase", Tag::right, KelpRights::erase},
+    TagName{"rights", Tag::rights},
+    TagName{"create", Tag::right, KelpRights::create},
+    TagName{"modify", Tag::right, KelpRights::modify},
     TagName{"result", Tag::result},
-    TagName{"inheritedRightsFilter", Tag::inheritedRightsFilter},
-    TagName{"effectiveRights", Tag::effectiveRights},
+    TagName{"trustee", Tag::trustee},
+    TagName{"fileScan", Tag::right, KelpRights::fileScan},
+    TagName{"supervisor", Tag::right, KelpRights::supervisor},
     TagName{"addTrustee", Tag::addTrustee},
+    TagName{"trusteeInfo", Tag::trusteeInfo},
+    TagName{"accessRights", Tag::trusteeInfo},
+    TagName{"accessControl", Tag::right, KelpRights::accessControl},
     TagName{"removeTrustee", Tag::removeTrustee},
+    TagName{"effectiveRights", Tag::effectiveRights},
+    TagName{"inheritedRightsFilter", Tag::inheritedRightsFilter},
 };
+constexpr std::size_t longestName = tagNames.back().name.size();
 
-constexpr TagName tagNamed(std::string_view name) {
-    for (const TagName& known : tagNames) {
-        if (known.name == name)
-            return known;
+/// Where the names of each length begin in tagNames.
+constexpr auto firstOfLength = [] {
+    std::array<std::uint8_t, longestName + 2> first{};
+    for (std::size_t length = 0; length < first.size(); ++length) {
+        for (const TagName& known : tagNames)
+            first[length] = static_cast<std::uint8_t>(first[length] + (known.name.size() < length ? 1 : 0));
     }
-    return {name, Tag::other};
+    return first;
+}();
+
+TagName tagNamed(std::string_view name) {
+    if (name.size() > longestName)
+        return {};
+    for (std::size_t at = firstOfLength[name.size()]; at < firstOfLength[name.size() + 1]; ++at) {
+        if (tagNames[at].name == name)
+            return tagNames[at];
+    }
+    return {};
 }
 
 void close(ReplyEntries& entries, const std::shared_ptr<ReplyEntry>& entry, std::string_view name) {
@@ -85,25 +99,14 @@ std::int64_t statusNumber(const std::string& text) {
 } // namespace
 
 void ResultElement::didStartElement(std::string_view name, XMLAttributes attributes) {
-    const std::size_t depth = depth_++;
-    if (search_ != Search::running || depth != steps_ || (depth > 0 && name != path_[depth - 1]))
+    if (!search_.didStartElement(name))
         return;
-    if (steps_++ < path_.size())
-        return;
-    search_ = Search::found;
     hasAttributes_ = !attributes.empty();
     value_ = attributes.value("value").value_or("0");
 }
 
-void ResultElement::didEndElement() {
-    // The first element of a name is the only one that counts: when it lacks the next step, the path
-    // leads nowhere.
-    if (depth_-- == steps_ && search_ == Search::running)
-        search_ = Search::failed;
-}
-
 std::string ResultElement::status() const {
-    require(search_ == Search::found, "The reply has no element \"%@\"", path_.empty() ? "" : path_.back());
+    search_.requireFound();
     require(hasAttributes_, "The result of the reply has no attributes");
     return value_;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/ViewModal/XMLElement.h"
+#include "Quorvan/ViewModal/XMLElementSearch.h"
 #include "Quorvan/ViewModal/XMLEventParser.h"
 
 #include <cstdint>
@@ -30,24 +30,21 @@ struct ReplyEntry {
 /// Entries are shared: a later element may still write into one that is already in the list.
 using ReplyEntries = std::vector<std::shared_ptr<ReplyEntry>>;
 
-/// Finds the element at a path while the events pass by.
+/// Reads the status of the element at a path while the events pass by.
 class ResultElement {
 public:
     explicit ResultElement(ElementPath path)
-        : path_(std::move(path)) {}
+        : search_(std::move(path)) {}
 
     void didStartElement(std::string_view name, XMLAttributes attributes);
-    void didEndElement();
+    void didEndElement() { search_.didEndElement(); }
 
     /// The "value" attribute of the element, "0" without one. Fatal when a step of the path is missing
     /// or the element has no attributes at all.
     std::string status() const;
 
 private:
-    ElementPath path_;
-    std::size_t depth_ = 0; ///< open elements
-    std::size_t steps_ = 0; ///< open elements that lie on the path, the root included
-    enum class Search { running, found, failed } search_ = Search::running;
+    XMLElementSearch search_;
     bool hasAttributes_ = false;
     std::string value_ = "0";
 };
@@ -84,7 +81,7 @@ public:
     std::int64_t nRemFailed = 0;   ///< the same for "removeTrustee"
     std::int64_t xmlReqStatus = 0; ///< the last result value other than "0"
 
-    std::optional<std::string> error; ///< why the reply is not XML; nothing when it is
+    std::optional<XMLError> error; ///< why the reply is not XML; nothing when it is
     ResultElement result;
 };
 
