@@ -11,10 +11,10 @@ namespace quorvan::simulator {
 
 /// What a server does wrong until it is told otherwise; a fresh value behaves.
 struct Misbehaviour {
-    std::string onlyPipe;               ///< "/FilesCmdPipe": the rest only on this pipe; "" = on all
-    int mountError = 0;                 ///< errno with which every mount fails
-    int openError = 0;                  ///< errno with which every open fails
-    std::optional<int> code;            ///< every request fails with this code and changes nothing
+    std::string onlyPipe;    ///< "/FilesCmdPipe": all but mountError only on this pipe; "" = on all
+    int mountError = 0;      ///< errno with which every mount fails
+    int openError = 0;       ///< errno with which every open fails
+    std::optional<int> code; ///< every request fails with this code and changes nothing
     std::optional<std::string> garbage; ///< every reply is this text; the request is not looked at
     std::size_t replyMegabytes = 0;     ///< replies are padded to at least this size (1024 * 1024 bytes each)
     std::optional<std::size_t> cutAfter;  ///< replies end after this many bytes
