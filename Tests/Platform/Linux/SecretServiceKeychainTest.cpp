@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/SecretServiceKeychain.h"
-#include "Tests/Support/ChildProcess.h"
+#include "Tests/Support/PrivateKeyring.h"
 
 #include <cstring>
 #include <memory>
@@ -15,38 +15,22 @@ namespace {
 using platform::KeychainResult;
 using platform::SecretServiceKeychain;
 
-/// A session bus of our own with an unlocked keyring.
 class SecretService : public testing::Test {
 protected:
     void SetUp() override {
-        for (const char* program : {"dbus-daemon", "dbus-send", "gnome-keyring-daemon", "secret-tool"}) {
-            if (!test::isInstalled(program))
-                GTEST_SKIP() << program << " is not installed";
-        }
-        for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
-            ::setenv(variable, home.path.c_str(), 1);
-        bus = std::make_unique<test::ChildProcess>(
-            std::vector<std::string>{"dbus-daemon", "--session", "--nofork", "--print-address"});
-        ::setenv("DBUS_SESSION_BUS_ADDRESS", bus->readLine().c_str(), 1);
-        ASSERT_EQ(test::run({"gnome-keyring-daemon", "--unlock", "--components=secrets"}, "keyring"), 0);
+        if (const std::string missing = test::PrivateKeyring::missingProgram(); !missing.empty())
+            GTEST_SKIP() << missing << " is not installed";
+        keyring = std::make_unique<test::PrivateKeyring>();
     }
 
-    static void store(std::vector<std::string> attributes, std::string_view secret) {
-        std::vector<std::string> command{"secret-tool", "store", "--label=x", "xdg:schema",
-                                         "org.gnome.keyring.NetworkPassword"};
-        command.insert(command.end(), attributes.begin(), attributes.end());
-        ASSERT_EQ(test::run(command, secret), 0);
-    }
-
-    test::TemporaryFolder home;
-    std::unique_ptr<test::ChildProcess> bus;
+    std::unique_ptr<test::PrivateKeyring> keyring;
     SecretServiceKeychain keychain;
 };
 
 TEST_F(SecretService, FindsTheNetworkPasswordOfExactlyThisServer) {
-    store({"server", "files.example", "user", "zoë", "protocol", "smb"}, "pä ss\n word");
-    store({"server", "files.example", "user", "other", "protocol", "sftp"}, "ssh");
-    store({"server", "nameless.example", "protocol", "smb"}, "x");
+    keyring->store({"server", "files.example", "user", "zoë", "protocol", "smb"}, "pä ss\n word");
+    keyring->store({"server", "files.example", "user", "other", "protocol", "sftp"}, "ssh");
+    keyring->store({"server", "nameless.example", "protocol", "smb"}, "x");
 
     const KeychainResult found = keychain.findInternetPassword("files.example");
     ASSERT_TRUE(found.item);
@@ -67,12 +51,9 @@ TEST_F(SecretService, FindsTheNetworkPasswordOfExactlyThisServer) {
 }
 
 TEST_F(SecretService, CountsALockedCollectionAsOneWithoutTheItem) {
-    store({"server", "files.example", "user", "bob", "protocol", "smb"}, "x");
+    keyring->store({"server", "files.example", "user", "bob", "protocol", "smb"}, "x");
     ASSERT_EQ(keychain.findInternetPassword("files.example").status, 0);
-    ASSERT_EQ(test::run({"dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.secrets",
-                         "/org/freedesktop/secrets", "org.freedesktop.Secret.Service.Lock",
-                         "array:objpath:/org/freedesktop/secrets/collection/login"}),
-              0);
+    keyring->lock();
     EXPECT_EQ(keychain.findInternetPassword("files.example").status, -25300);
 }
 
