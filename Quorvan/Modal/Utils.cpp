@@ -24,11 +24,11 @@ std::string lowercasedAscii(std::string_view text) {
 }
 
 /// The text as utf8proc maps it; text that is not valid UTF-8 as it is.
-std::string mapped(std::string_view text, utf8proc_option_t options, utf8proc_custom_func custom = nullptr) {
+std::string mapped(std::string_view text, utf8proc_option_t options) {
     utf8proc_uint8_t* result = nullptr;
     const utf8proc_ssize_t length =
-        utf8proc_map_custom(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
-                            static_cast<utf8proc_ssize_t>(text.size()), &result, options, custom, nullptr);
+        utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                     static_cast<utf8proc_ssize_t>(text.size()), &result, options);
     if (length < 0)
         return std::string(text);
     const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(result, &std::free);
@@ -46,7 +46,21 @@ std::string normalizedNFC(std::string_view text) {
 std::string lowercased(std::string_view text) {
     if (isAscii(text))
         return lowercasedAscii(text);
-    return mapped(text, UTF8PROC_STABLE, [](utf8proc_int32_t c, void*) { return utf8proc_tolower(c); });
+    std::string lower;
+    lower.reserve(text.size());
+    for (auto rest = text; !rest.empty();) {
+        utf8proc_int32_t character = 0;
+        const utf8proc_ssize_t length =
+            utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(rest.data()),
+                             static_cast<utf8proc_ssize_t>(rest.size()), &character);
+        if (length < 0)
+            return std::string(text);
+        utf8proc_uint8_t encoded[4];
+        const utf8proc_ssize_t size = utf8proc_encode_char(utf8proc_tolower(character), encoded);
+        lower.append(reinterpret_cast<const char*>(encoded), static_cast<std::size_t>(size));
+        rest.remove_prefix(static_cast<std::size_t>(length));
+    }
+    return lower;
 }
 
 std::string foldedForSearch(std::string_view text) {
