@@ -32,6 +32,10 @@ public:
     /// The first IPv4 address of a host as dotted text; "" when the name does not resolve.
     virtual std::string resolve(const std::string& host) = 0;
 
+    /// Prepares the desktop's SMB client for a server that was not known so far, before the first of its
+    /// shares is mounted: 0, or the client's own error code.
+    virtual int createContext(const std::string& server) = 0;
+
     /// Mounts an "smb://server/share" URL below /Volumes, under a free name.
     virtual MountResult mount(const std::string& url, const std::string& user, const std::string& password,
                               const MountOptions& options) = 0;

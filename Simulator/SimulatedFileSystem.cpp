@@ -50,6 +50,12 @@ std::string SimulatedFileSystem::resolve(const std::string& host) {
     return server == nullptr ? std::string() : server->address;
 }
 
+int SimulatedFileSystem::createContext(const std::string& server) {
+    calls.push_back("context " + server);
+    const auto refused = contextErrors_.find(server);
+    return refused == contextErrors_.end() ? 0 : refused->second;
+}
+
 std::string SimulatedFileSystem::freeMountPoint(const std::string& share) const {
     std::string path = "/Volumes/" + share;
     for (int number = 1; mounts_.count(path) != 0; ++number)

@@ -25,6 +25,7 @@ public:
     void addServer(std::shared_ptr<KelpServer> server, const std::string& host, const std::string& address);
 
     std::string resolve(const std::string& host) override;
+    int createContext(const std::string& server) override;
     platform::MountResult mount(const std::string& url, const std::string& user, const std::string& password,
                                 const platform::MountOptions& options) override;
     int unmount(const std::string& path, bool force) override;
@@ -41,6 +42,9 @@ public:
     /// Takes a mount away as if the network had; no call is recorded.
     void unmountBehindTheBack(const std::string& path) { mounts_.erase(path); }
 
+    /// Has createContext answer with this error (0: none) for a server, under the name it is asked for.
+    void refuseContext(const std::string& server, int error) { contextErrors_[server] = error; }
+
     /// Has the next mount succeed and report these mount points instead of its own.
     void reportMountPoints(std::vector<std::string> mountPoints) { reported_ = std::move(mountPoints); }
 
@@ -49,7 +53,7 @@ public:
 
     /// Every call since the start or the last clear: "mount smb://host/IPC$ user", "unmount PATH force",
     /// "stat PATH", "open PATH", "nocache 3", "seek 3 0", "read 3 4096", "write 3 120", "close 3",
-    /// "resolve HOST". Passwords are not recorded.
+    /// "resolve HOST", "context SERVER". Passwords are not recorded.
     std::vector<std::string> calls;
 
     /// How many of the calls begin with this word.
@@ -81,6 +85,7 @@ private:
     std::map<std::string, Mount> mounts_; ///< by mount point
     std::map<int, OpenFile> files_;
     std::optional<std::vector<std::string>> reported_;
+    std::map<std::string, int> contextErrors_; ///< by server
     int nextDescriptor_ = 3;
 };
 

@@ -66,6 +66,10 @@ std::string SmbClientFileSystem::freeMountPoint(const std::string& name) const {
     return mountPoint;
 }
 
+int SmbClientFileSystem::createContext(const std::string&) {
+    return 0;
+}
+
 MountResult SmbClientFileSystem::mount(const std::string& url, const std::string& user,
                                        const std::string& password, const MountOptions&) {
     const std::optional<SmbUrl> share = SmbUrl::parse(url);

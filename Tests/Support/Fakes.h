@@ -55,6 +55,7 @@ struct FakeNetwork : platform::NetworkFileSystem {
     std::vector<std::string> calls; ///< "mount URL USER PASSWORD", "seek 0", "write TEXT", …
     std::map<std::string, std::string> addresses;
     platform::MountResult mountResult{0, {"/Volumes/IPC$"}};
+    int contextError = 0;
     int statError = 0;
     int openResult = 7;
     int openError = 0;
@@ -63,6 +64,10 @@ struct FakeNetwork : platform::NetworkFileSystem {
     std::string resolve(const std::string& host) override {
         calls.push_back("resolve " + host);
         return addresses[host];
+    }
+    int createContext(const std::string& server) override {
+        calls.push_back("context " + server);
+        return contextError;
     }
     platform::MountResult mount(const std::string& url, const std::string& user, const std::string& password,
                                 const platform::MountOptions& options) override {
@@ -135,6 +140,8 @@ struct FakeDirectory : platform::DirectoryServices {
     std::map<std::string, platform::DirectoryRecords> records; ///< by the value that is asked for
     bool answers = true;
     int stateReads = 0;
+    std::optional<std::vector<std::string>> names;
+    std::map<platform::IdentityClass, std::optional<std::vector<platform::ManagedIdentity>>> identities;
     std::vector<std::string> openedNodes; ///< "" is the network node
     std::vector<platform::DirectoryQuery> queries;
     std::vector<std::vector<std::string>> prefetches;
@@ -157,6 +164,11 @@ struct FakeDirectory : platform::DirectoryServices {
         return std::make_shared<Node>(*this);
     }
     std::shared_ptr<platform::DirectoryNode> openNetworkNode() override { return openNode(""); }
+    std::optional<std::vector<std::string>> nodeNames() override { return names; }
+    std::optional<std::vector<platform::ManagedIdentity>>
+    managedIdentities(platform::IdentityClass identityClass) override {
+        return identities[identityClass];
+    }
     void prefetch(const std::vector<std::string>& sids) override { prefetches.push_back(sids); }
 };
 
