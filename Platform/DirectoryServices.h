@@ -26,6 +26,7 @@ public:
 
 using DirectoryRecords = std::vector<std::shared_ptr<DirectoryRecord>>;
 
+/// Case does not count. `any` takes no values: every record matches.
 enum class DirectoryMatch { any, equalTo, contains };
 
 struct DirectoryQuery {
@@ -41,11 +42,18 @@ class DirectoryNode {
 public:
     virtual ~DirectoryNode() = default;
 
-    /// The matching records; nothing when the directory did not answer.
+    /// The matching records in the directory's order; nothing when it did not answer, or not to the end.
     virtual std::optional<DirectoryRecords> query(const DirectoryQuery& query) = 0;
 };
 
-/// The identity service that the machine is bound to.
+enum class IdentityClass { user = 1, group = 2 };
+
+/// An account or group that the machine itself knows, because it is bound to a directory.
+struct ManagedIdentity {
+    std::optional<std::string> posixName; ///< by which the machine's own programs know it
+};
+
+/// The identity service that the machine is bound to. What fails leaves the reason in errno.
 class DirectoryServices {
 public:
     virtual ~DirectoryServices() = default;
@@ -54,11 +62,20 @@ public:
     /// when this machine is not bound to one.
     virtual std::optional<std::map<std::string, std::string>> activeDirectoryState() = 0;
 
+    /// The names of all nodes, of each domain first the domain itself and then its forest
+    /// ("/Local/Default", "/Active Directory/NAME", "/Active Directory/NAME/All Domains"), whether they
+    /// can be reached or not; nothing when the names cannot be read.
+    virtual std::optional<std::vector<std::string>> nodeNames() = 0;
+
     /// A node by its name ("/Active Directory/NAME/All Domains"); null when it cannot be opened.
     virtual std::shared_ptr<DirectoryNode> openNode(const std::string& name) = 0;
 
     /// The node that searches everything the machine knows; null when it cannot be opened.
     virtual std::shared_ptr<DirectoryNode> openNetworkNode() = 0;
+
+    /// Every identity of a class in the directory that the machine is bound to; nothing when it did not
+    /// answer or there is none.
+    virtual std::optional<std::vector<ManagedIdentity>> managedIdentities(IdentityClass identityClass) = 0;
 
     /// Hint: these security identifiers will be looked up one by one next.
     virtual void prefetch(const std::vector<std::string>& sids) = 0;

@@ -33,6 +33,13 @@ inline constexpr std::array<const char*, 6> accounts{supervisor,     accessContr
 inline constexpr const char* selection = "VOL1:\\Projects\\Aurora"; ///< a dozen trustees of both kinds
 inline constexpr const char* crowded = "VOL1:\\Projects\\Harbour Festival"; ///< two hundred of either kind
 
+// Beside the volume's own domain the directory knows a second forest, and a domain out of reach.
+inline constexpr const char* secondForest = "NORDHAVN";
+inline constexpr std::size_t secondForestUsers = 105;
+inline constexpr std::size_t secondForestGroups = 31;
+inline constexpr const char* groupWithoutSid = "Gjester"; ///< of the second forest
+inline constexpr const char* unreachableDomain = "FJERNØY";
+
 } // namespace demo
 
 /// Fills an empty server with the volume VOL1, the users and groups of both directories, and the
@@ -42,6 +49,10 @@ void addDemoData(KelpServer& server);
 /// The same identities and accounts on a volume VOL1 with no folders, where only the accounts above
 /// are trustees.
 void addDemoAccounts(KelpServer& server);
+
+/// Adds the users and groups of the second forest; with the demo data they make 300 users and 60 groups
+/// of Active Directory.
+void addDemoForest(Identities& store);
 
 /// Adds `count` new identities of one kind and makes each a trustee of `path`, with varied names and
 /// rights. The same arguments give the same data.

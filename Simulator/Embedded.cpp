@@ -36,6 +36,8 @@ Embedded::Embedded(std::string serverHost, std::string serverAddress)
 Embedded Embedded::demo(const std::string& user, const std::string& path) {
     Embedded world;
     addDemoData(*world.server);
+    addDemoForest(*world.identities);
+    world.directory->state().unreachable = {demo::unreachableDomain};
     world.logIn(user, demo::password);
     world.handOver(localPathOf(path), path.substr(0, path.find(':')) + ":\\");
     return world;

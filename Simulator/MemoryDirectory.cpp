@@ -4,6 +4,7 @@
 #include "Simulator/Text.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 namespace quorvan::simulator {
@@ -30,13 +31,14 @@ Values valuesOf(const Identity& identity, const std::string& attribute) {
     using Getter = Values (*)(const Identity&);
     static const std::map<std::string, Getter> getters{
         {recordName, [](const Identity& i) { return Values{i.name}; }},
-        {sid, [](const Identity& i) { return Values{i.id}; }},
+        {sid, [](const Identity& i) { return i.id.empty() ? Values() : Values{i.id}; }},
         {"dsAttrTypeStandard:PrimaryNTDomain", [](const Identity& i) { return Values{i.domain}; }},
         {"dsAttrTypeStandard:RecordType",
          [](const Identity& i) { return Values{i.isGroup() ? groups : users}; }},
         {"dsAttrTypeNative:cn", [](const Identity& i) { return Values{i.name}; }},
         {"dsAttrTypeNative:sAMAccountName", [](const Identity& i) { return Values{i.name}; }},
-        {"dsAttrTypeNative:objectSid", [](const Identity& i) { return Values{i.id}; }},
+        {"dsAttrTypeNative:objectSid",
+         [](const Identity& i) { return i.id.empty() ? Values() : Values{i.id}; }},
         {distinguishedName, [](const Identity& i) { return Values{i.distinguishedName}; }},
         {"dsAttrTypeNative:objectClass",
          [](const Identity& i) {
@@ -70,14 +72,19 @@ private:
 
 class MemoryNode : public platform::DirectoryNode {
 public:
-    MemoryNode(std::shared_ptr<const Identities> identities, std::shared_ptr<State> state)
+    /// Searches one domain, or all when there is none.
+    MemoryNode(std::shared_ptr<const Identities> identities, std::shared_ptr<State> state,
+               std::optional<std::string> domain)
         : identities_(std::move(identities))
-        , state_(std::move(state)) {}
+        , state_(std::move(state))
+        , domain_(std::move(domain)) {}
 
     std::optional<platform::DirectoryRecords> query(const platform::DirectoryQuery& query) override {
         ++state_->queries;
-        if (state_->failQueries)
+        if (state_->failQueries) {
+            errno = ECONNRESET;
             return std::nullopt;
+        }
         platform::DirectoryRecords records;
         for (const Identity* identity : candidates(query)) {
             if (query.limit != 0 && records.size() == query.limit)
@@ -116,9 +123,9 @@ private:
         return found;
     }
 
-    static bool isAsked(const Identity& identity, const platform::DirectoryQuery& query) {
+    bool isAsked(const Identity& identity, const platform::DirectoryQuery& query) const {
         const auto& types = query.recordTypes;
-        if (identity.kind != IdentityKind::activeDirectory ||
+        if (identity.kind != IdentityKind::activeDirectory || (domain_ && identity.domain != *domain_) ||
             std::find(types.begin(), types.end(), identity.isGroup() ? groups : users) == types.end())
             return false;
         if (query.match == platform::DirectoryMatch::any)
@@ -137,7 +144,11 @@ private:
 
     std::shared_ptr<const Identities> identities_;
     std::shared_ptr<State> state_;
+    std::optional<std::string> domain_;
 };
+
+const std::string nodePrefix = "/Active Directory/";
+const std::string forestSuffix = "/All Domains";
 
 } // namespace
 
@@ -147,22 +158,71 @@ MemoryDirectory::MemoryDirectory(std::shared_ptr<const Identities> identities)
 std::optional<std::map<std::string, std::string>> MemoryDirectory::activeDirectoryState() {
     if (!state_->bound)
         return std::nullopt;
-    return std::map<std::string, std::string>{{"NodeName", "/Active Directory/" + identities_->domain}};
+    return std::map<std::string, std::string>{{"NodeName", nodePrefix + identities_->domain}};
+}
+
+std::vector<std::string> MemoryDirectory::domains() const {
+    std::vector<std::string> found{identities_->domain};
+    for (const Identity& each : identities_->all()) {
+        if (each.kind == IdentityKind::activeDirectory &&
+            std::find(found.begin(), found.end(), each.domain) == found.end())
+            found.push_back(each.domain);
+    }
+    return found;
+}
+
+std::optional<std::vector<std::string>> MemoryDirectory::nodeNames() {
+    if (state_->failNodes) {
+        errno = EIO;
+        return std::nullopt;
+    }
+    std::vector<std::string> names{"/Local/Default"};
+    if (!state_->bound)
+        return names;
+    std::vector<std::string> all = domains();
+    all.insert(all.end(), state_->unreachable.begin(), state_->unreachable.end());
+    for (const std::string& domain : all) {
+        names.push_back(nodePrefix + domain);
+        names.push_back(nodePrefix + domain + forestSuffix);
+    }
+    return names;
 }
 
 std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNode(const std::string& name) {
     state_->openedNodes.push_back(name);
-    const std::string domain = "/Active Directory/" + identities_->domain;
-    if (!state_->bound || state_->failNodes || (name != domain && name != domain + "/All Domains"))
-        return nullptr;
-    return std::make_shared<MemoryNode>(identities_, state_);
+    if (state_->bound && !state_->failNodes) {
+        for (const std::string& domain : domains()) {
+            if (name == nodePrefix + domain || name == nodePrefix + domain + forestSuffix)
+                return std::make_shared<MemoryNode>(identities_, state_, domain);
+        }
+        if (name == "/Local/Default")
+            return std::make_shared<MemoryNode>(identities_, state_, "");
+    }
+    errno = EHOSTUNREACH;
+    return nullptr;
 }
 
 std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNetworkNode() {
     state_->openedNodes.emplace_back("network");
-    if (!state_->bound || state_->failNodes)
-        return nullptr;
-    return std::make_shared<MemoryNode>(identities_, state_);
+    if (state_->bound && !state_->failNodes)
+        return std::make_shared<MemoryNode>(identities_, state_, std::nullopt);
+    errno = EHOSTUNREACH;
+    return nullptr;
+}
+
+std::optional<std::vector<platform::ManagedIdentity>>
+MemoryDirectory::managedIdentities(platform::IdentityClass identityClass) {
+    if (!state_->bound || state_->failQueries) {
+        errno = EHOSTUNREACH;
+        return std::nullopt;
+    }
+    std::vector<platform::ManagedIdentity> found;
+    for (const Identity& each : identities_->all()) {
+        if (each.kind == IdentityKind::activeDirectory && each.domain == identities_->domain &&
+            each.isGroup() == (identityClass == platform::IdentityClass::group))
+            found.push_back({each.name});
+    }
+    return found;
 }
 
 void MemoryDirectory::prefetch(const std::vector<std::string>& sids) {

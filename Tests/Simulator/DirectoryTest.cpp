@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Simulator/DemoData.h"
-#include "Simulator/MemoryDirectory.h"
+#include "Simulator/Embedded.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
 
 namespace quorvan::simulator {
 namespace {
@@ -31,7 +33,11 @@ struct SmallDirectory {
 
     /// The names found, or "no answer".
     std::vector<std::string> names(const platform::DirectoryQuery& query) {
-        const auto records = directory.openNetworkNode()->query(query);
+        return names(directory.openNetworkNode(), query);
+    }
+    static std::vector<std::string> names(const std::shared_ptr<platform::DirectoryNode>& node,
+                                          const platform::DirectoryQuery& query) {
+        const auto records = node->query(query);
         if (!records)
             return {"no answer"};
         std::vector<std::string> found;
@@ -94,6 +100,53 @@ TEST(MemoryDirectory, CanBeUnboundOrOutOfOrder) {
     directory.prefetch({"S-1", "S-2"});
     EXPECT_THAT(directory.state().prefetched, ElementsAre("S-1", "S-2"));
     EXPECT_THAT(directory.state().openedNodes, ElementsAre("network"));
+}
+
+TEST(MemoryDirectory, TellsForestsApart) {
+    SmallDirectory small;
+    MemoryDirectory& directory = small.directory;
+    directory.state().unreachable = {"ISLAND"};
+    small.identities->add({IdentityKind::activeDirectory, "Åse", "", "user", "CN=Åse,DC=north", "NORTH", {}});
+    EXPECT_THAT(directory.nodeNames().value(),
+                ElementsAre("/Local/Default", "/Active Directory/MERIDAL",
+                            "/Active Directory/MERIDAL/All Domains", "/Active Directory/NORTH",
+                            "/Active Directory/NORTH/All Domains", "/Active Directory/ISLAND",
+                            "/Active Directory/ISLAND/All Domains"));
+    const auto usersIn = [&](const char* node) {
+        return small.names(directory.openNode(node), {users, recordName, DirectoryMatch::any, {}});
+    };
+    EXPECT_THAT(usersIn("/Active Directory/MERIDAL/All Domains"), ElementsAre("Zoë"));
+    EXPECT_THAT(usersIn("/Active Directory/NORTH/All Domains"), ElementsAre("Åse"));
+    EXPECT_THAT(usersIn("/Local/Default"), IsEmpty());
+    EXPECT_THAT(small.names({users, recordName, DirectoryMatch::any, {}}), ElementsAre("Zoë", "Åse"));
+    errno = 0;
+    EXPECT_EQ(directory.openNode("/Active Directory/ISLAND/All Domains"), nullptr);
+    EXPECT_EQ(errno, EHOSTUNREACH);
+    const auto records =
+        directory.openNetworkNode()->query({users, recordName, DirectoryMatch::equalTo, {"åse"}});
+    EXPECT_THAT(records.value().at(0)->values(smbSid).value(), IsEmpty());
+
+    const auto managed = directory.managedIdentities(platform::IdentityClass::group);
+    ASSERT_EQ(managed.value().size(), 1U);
+    EXPECT_EQ(managed.value()[0].posixName, "Zoo Team");
+    EXPECT_EQ(directory.managedIdentities(platform::IdentityClass::user).value().size(), 1U);
+    directory.state().bound = false;
+    EXPECT_THAT(directory.nodeNames().value(), ElementsAre("/Local/Default"));
+    EXPECT_EQ(directory.managedIdentities(platform::IdentityClass::user), std::nullopt);
+    directory.state().failNodes = true;
+    EXPECT_EQ(directory.nodeNames(), std::nullopt);
+}
+
+TEST(MemoryDirectory, OffersThreeHundredUsersAndSixtyGroupsInTheDemo) {
+    const Embedded world = Embedded::demo();
+    const auto node = world.directory->openNetworkNode();
+    EXPECT_EQ(node->query({users, recordName, DirectoryMatch::any, {}}).value().size(), 300U);
+    const auto all = node->query({groups, recordName, DirectoryMatch::any, {}}).value();
+    EXPECT_EQ(all.size(), 60U);
+    EXPECT_EQ(std::count_if(all.begin(), all.end(),
+                            [](const auto& record) { return record->values(smbSid).value().empty(); }),
+              1);
+    EXPECT_EQ(world.directory->openNode("/Active Directory/FJERNØY"), nullptr);
 }
 
 TEST(MemoryDirectory, LooksHundredThousandIdentitiesUpOneByOne) {
