@@ -253,11 +253,11 @@
   </message>
   <message id="Right_Ticked_Label">
     <source></source>
-    <translation>granted</translation>
+    <translation>%1: granted</translation>
   </message>
   <message id="Right_Unticked_Label">
     <source></source>
-    <translation>not granted</translation>
+    <translation>%1: not granted</translation>
   </message>
   <message id="Search_Placeholder_Label">
     <source></source>
