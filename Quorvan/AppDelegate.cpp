@@ -5,7 +5,7 @@
 #include "Common/Log.h"
 #include "Quorvan/Controller/HelpPanels.h"
 #include "Quorvan/Controller/MainWindow.h"
-#include "Quorvan/TerminationSignals.h"
+#include "Quorvan/Toolkit/TerminationSignals.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 

@@ -36,11 +36,13 @@ QLabel* paragraph(const QString& text) {
 QGridLayout* lettersOfTheRights() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
-    grid->setColumnStretch(3, 1);
+    grid->setVerticalSpacing(2);
+    grid->setColumnMinimumWidth(2, 20); // between the two halves
+    grid->setColumnStretch(4, 1);
     const int half = static_cast<int>(rightsColumns.size()) / 2;
     for (int at = 0; const RightsColumn& column : rightsColumns) {
-        grid->addWidget(heading(QString::fromLatin1(column.identifier)), at % half, at / half * 2);
-        grid->addWidget(new QLabel(plainL(column.nameKey)), at % half, at / half * 2 + 1);
+        grid->addWidget(heading(QString::fromLatin1(column.identifier)), at % half, at / half * 3);
+        grid->addWidget(new QLabel(plainL(column.nameKey)), at % half, at / half * 3 + 1);
         ++at;
     }
     return grid;
@@ -62,6 +64,7 @@ void showAboutPanel(QWidget* window) {
     QDialog panel(window);
     panel.setWindowTitle(plainL("AboutQuorvan_title"));
     auto* content = new QVBoxLayout(&panel);
+    content->setContentsMargins(30, 20, 30, 16);
     auto* picture = new QLabel;
     picture->setPixmap(namedIcon("quorvan").pixmap(QSize(96, 96), panel.devicePixelRatioF()));
     auto* name = heading(QStringLiteral("Quorvan"));

@@ -82,6 +82,7 @@ void MainViewController::buildHeader() {
     managedServer = outlet(new QLabel(L("Managed_Server_Label").arg(QString::fromStdString(serverIP)), this),
                            "managedServer");
     managedServer->setTextFormat(Qt::PlainText);
+    managedServer->setIndent(2); // in line with the path above
     tryAgainBtn = outlet(new QPushButton(L("Try_Again_title"), this), "tryAgainBtn");
     tryAgainBtn->setToolTip(L("Try_Again_Tip_Label"));
     connect(tryAgainBtn, &QPushButton::clicked, this, [this] {

@@ -12,6 +12,7 @@ namespace quorvan {
 namespace {
 
 constexpr int margin = 14;
+constexpr int tightMargin = 4; // where the screen has no room for more
 constexpr int iconEdge = 40;
 
 } // namespace
@@ -33,7 +34,7 @@ MenuEntry::MenuEntry(const char* iconName, const QString& description, QWidget* 
         texts_->addWidget(label);
     }
     texts_->setSpacing(2);
-    texts_->setContentsMargins(margin + iconEdge + margin, margin, margin, margin);
+    texts_->setContentsMargins(margin + iconEdge + margin, tightMargin, margin, tightMargin);
     texts_->insertStretch(0);
     texts_->addStretch();
     setAccessibleDescription(description);
@@ -52,11 +53,16 @@ void MenuEntry::makeCompact() {
         setToolTip(description_->text());
     title->setWordWrap(true);
     title->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    texts_->setContentsMargins(margin / 2, margin + iconEdge + margin / 2, margin / 2, margin / 2);
+    delete texts_->takeAt(0); // the stretch above
+    texts_->setContentsMargins(margin / 2, 2 * margin + iconEdge, margin / 2, margin / 2);
 }
 
 QSize MenuEntry::sizeHint() const {
     return layout()->sizeHint().expandedTo({0, iconEdge + 2 * margin});
+}
+
+QSize MenuEntry::minimumSizeHint() const {
+    return layout()->minimumSize();
 }
 
 void MenuEntry::keyPressEvent(QKeyEvent* event) {
@@ -68,11 +74,12 @@ void MenuEntry::keyPressEvent(QKeyEvent* event) {
 
 void MenuEntry::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
-    QRect place(margin, (height() - iconEdge) / 2, iconEdge, iconEdge);
+    const int edge = qMin(iconEdge, height() - 2 * tightMargin);
+    QRect place(margin + (iconEdge - edge) / 2, (height() - edge) / 2, edge, edge);
     if (compact_)
-        place.moveTopLeft({(width() - iconEdge) / 2, margin});
+        place.moveTopLeft({(width() - edge) / 2, 3 * margin / 2});
     else if (isRightToLeft())
-        place.moveLeft(width() - margin - iconEdge);
+        place.moveRight(width() - 1 - place.left());
     QPainter painter(this);
     icon_.paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }

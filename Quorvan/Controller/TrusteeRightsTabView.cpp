@@ -22,11 +22,11 @@ void TrusteeRightsTabView::loadView() {
     page->addWidget(closeBtn, 0, Qt::AlignLeft);
 }
 
-/// Room for a name of some forty letters beside the boxes, and for a dozen trustees.
+/// Room for long names beside the boxes, and for some fifteen trustees.
 QSize TrusteeRightsTabView::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     return ViewController::sizeHint().expandedTo(
-        {90 * metrics.averageCharWidth() + 80, 30 * metrics.lineSpacing()});
+        {100 * metrics.averageCharWidth() + 80, 38 * metrics.lineSpacing()});
 }
 
 void TrusteeRightsTabView::onReturnMainMenu() {

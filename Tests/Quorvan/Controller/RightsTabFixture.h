@@ -17,10 +17,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
 namespace quorvan::test {
 
 /// Takes the place of the window: shows a page and notes when it is to be replaced.
@@ -38,67 +34,49 @@ public:
 /// The trustee rights tab of a folder with four trustees of Active Directory and one of the tree, over
 /// a server in memory. Controls are clicked and typed into as a user does.
 struct RightsTabFixture : testing::Test {
+    using Texts = std::vector<std::string>;
     static constexpr const char* path = "VOL1:\\Tests\\Box";
 
     RightsTabFixture() {
         Storyboard::named("Main") = Storyboard();
         Storyboard::named("Main").add("optionsViewController", [] { return new ViewController; });
-        DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
-        ServerDetails::forget();
         Shared::value().bothID = false;
-        defaults()["loggedUserType"] = "ActiveDirectory";
-        auto& people = *world.identities;
+        world.sharedDefaults->values(groupSuiteName)["loggedUserType"] = "ActiveDirectory";
         for (const auto& [name, rights] : {std::pair<const char*, simulator::Mask>{"Müller", 0x1FB},
                                            {"admin", 0x041},
                                            {"Zoe", 0x000},
                                            {"ADMIN", 0x0FB}})
-            world.server->setTrustee(path, people.addDomainUser(name, sid(name)), rights);
-        world.server->setTrustee(path, people.addTreeUser("Vera", "Verlag", "guid-vera"), 0x041);
+            world.server->setTrustee(path, world.identities->addDomainUser(name, name), rights);
+        world.server->setTrustee(path, world.identities->addTreeUser("Vera", "Verlag", "guid-vera"), 0x041);
     }
 
-    static std::string sid(const std::string& name) { return "S-1-5-21-" + name; }
-    std::map<std::string, std::string>& defaults() { return world.sharedDefaults->values(groupSuiteName); }
-
-    /// Opens the tab as it is opened in the window, for the rights that `user` holds on the folder.
-    RightsTabViewController& open(const char* user = simulator::demo::supervisor) {
+    /// Opens the tab anew as the window does, for the rights that `user` holds on the folder.
+    void open(const char* user = simulator::demo::supervisor) {
+        host = std::make_unique<PageHost>();
+        DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
+        ServerDetails::forget();
         world.logIn(user, simulator::demo::password);
         tab = new RightsTabViewController;
-        host.insertChild(0, tab);
-        host.resize(800, 500);
-        host.beginAppearing();
+        host->insertChild(0, tab);
+        host->beginAppearing();
         tab->resize(800, 500);
-        host.show();
-        host.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&host));
-        host.endAppearing();
-        return *tab;
-    }
-
-    // What the user does
-
-    void close() {
-        host.removeChild(tab);
-        host.disappear();
-        host.hide();
+        host->resize(800, 500);
+        host->show();
+        host->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(host.get()));
+        host->endAppearing();
     }
     void click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
-    void clickBox(int row, const char* identifier) {
-        QTest::mouseClick(tab->rightsTable->viewport(), Qt::LeftButton, {},
-                          tab->rightsTable->visualRect(tab->rightsTable->box(row, identifier)).center());
-    }
-    void select(int row, Qt::KeyboardModifiers modifiers = {}) {
-        const QRect name = tab->rightsTable->visualRect(tab->rightsTable->box(row, "username"));
-        QTest::mouseClick(tab->rightsTable->viewport(), Qt::LeftButton, modifiers, name.center());
+    void clickCell(int row, const char* identifier, Qt::KeyboardModifiers modifiers = {}) {
+        const QRect cell = tab->rightsTable->visualRect(tab->rightsTable->box(row, identifier));
+        QTest::mouseClick(tab->rightsTable->viewport(), Qt::LeftButton, modifiers, cell.center());
     }
     void clickHeader() {
         QTest::mouseClick(tab->rightsTable->horizontalHeader()->viewport(), Qt::LeftButton, {}, {20, 8});
     }
     void search(const char* text) {
-        tab->searchField->selectAll();
-        if (*text == '\0')
-            QTest::keyClick(tab->searchField, Qt::Key_Escape);
-        else
-            QTest::keyClicks(tab->searchField, QString::fromUtf8(text));
+        QTest::keyClick(tab->searchField, Qt::Key_Escape);
+        QTest::keyClicks(tab->searchField, QString::fromUtf8(text));
     }
     void reappear() {
         tab->disappear();
@@ -106,11 +84,8 @@ struct RightsTabFixture : testing::Test {
         tab->endAppearing();
     }
 
-    // What there is to see
-
-    /// The names in the table, top down.
-    std::vector<std::string> shown() const {
-        std::vector<std::string> names;
+    Texts shown() const {
+        Texts names;
         const QAbstractItemModel* model = tab->rightsTable->model();
         for (int row = 0; row < model->rowCount(); ++row)
             names.push_back(model->index(row, 0).data().toString().toStdString());
@@ -123,50 +98,42 @@ struct RightsTabFixture : testing::Test {
         EXPECT_EQ(tab->applyBtn->isEnabled(), tab->revertBtn->isEnabled());
         return tab->applyBtn->isEnabled();
     }
-    /// Pending changes as "ADD admin 0x43".
-    std::vector<std::string> pending() const {
-        std::vector<std::string> changes;
+    /// The pending changes as "ADD admin 0x43".
+    Texts pending() const {
+        Texts changes;
         for (const auto& trustee : tab->trackTrusteeList)
-            changes.push_back(trustee->status + " " + trustee->trusteeName + " " +
-                              QStringLiteral("0x%1").arg(trustee->rights, 0, 16).toStdString());
+            changes.push_back(trustee->status + " " + trustee->trusteeName + " 0x" +
+                              QString::number(trustee->rights, 16).toStdString());
         return changes;
     }
-    std::vector<std::string> alerts() const {
-        std::vector<std::string> messages;
+    Texts alerts() const {
+        Texts messages;
         for (const auto& alert : alertPort->shown)
             messages.push_back(alert.message);
         return messages;
     }
-    bool logged(const std::string& line) const {
-        return std::find(log.lines.begin(), log.lines.end(), line) != log.lines.end();
-    }
-
-    // What the server saw and has
-
-    /// The elements of the change requests that reached it, as "addTrustee S-1-5-21-Zoe", one text per
-    /// request.
-    std::vector<std::string> changeRequests() const {
-        std::vector<std::string> found;
+    /// The changes that reached the server as "addTrustee Zoe; ", one text for each request.
+    Texts changeRequests() const {
+        static const QRegularExpression change(
+            "<(addTrustee|removeTrustee)\\b[^>]*>(?:<adUser/>)?<userID>(.*?)<");
+        Texts found;
         for (const auto& request : world.server->requests()) {
-            const QString text = QString::fromStdString(request.text);
-            if (!text.contains("<trustees>"))
-                continue;
-            static const QRegularExpression change("<(addTrustee|removeTrustee)\\b.*?<userID>(.*?)</userID>");
             std::string line;
-            for (auto it = change.globalMatch(text); it.hasNext();) {
+            for (auto it = change.globalMatch(QString::fromStdString(request.text)); it.hasNext();) {
                 const auto match = it.next();
                 line += (match.captured(1) + " " + match.captured(2) + "; ").toStdString();
             }
-            found.push_back(line);
+            if (!line.empty())
+                found.push_back(line);
         }
         return found;
     }
-    /// Nothing when it is no trustee of the folder.
-    std::optional<simulator::Mask> onServer(const std::string& id) const {
+    /// -1 when it is no trustee of the folder.
+    int onServer(const std::string& id) const {
         for (const auto& entry : world.server->trustees(path))
             if (entry.identity->id == id)
                 return entry.rights;
-        return std::nullopt;
+        return -1;
     }
 
     LogRecorder log;
@@ -180,7 +147,7 @@ struct RightsTabFixture : testing::Test {
         services.busy = std::make_shared<CountingBusyIndicator>();
         return services;
     }()};
-    PageHost host;
+    std::unique_ptr<PageHost> host;
     RightsTabViewController* tab = nullptr;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/TerminationSignals.h"
+#include "Quorvan/Toolkit/TerminationSignals.h"
 
 #include "Common/Fatal.h"
 
