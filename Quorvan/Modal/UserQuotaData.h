@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quorvan {
 
@@ -25,5 +27,8 @@ public:
     std::optional<std::int64_t> quotaAvailable = 0;
     std::optional<std::string> domainIdentity;
 };
+
+/// Lists refer to rows, because a view changes one object that stands in several lists.
+using UserQuotaList = std::vector<std::shared_ptr<UserQuotaData>>;
 
 } // namespace quorvan

@@ -73,6 +73,12 @@ struct FileRights {
     std::uint16_t frights = 0;
 };
 
+/// The rights that one identity, out of several that were asked for, holds on a path.
+struct IdentityFileRights {
+    std::string id;
+    FileRights rights;
+};
+
 struct Owner {
     std::optional<std::string> ownerName;
     std::optional<std::string> ownerID;

@@ -2,6 +2,7 @@
 #include "Quorvan/Modal/Utils.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <memory>
 
@@ -68,6 +69,15 @@ std::string foldedForSearch(std::string_view text) {
         return lowercasedAscii(text);
     return mapped(text, static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_DECOMPOSE |
                                                        UTF8PROC_CASEFOLD | UTF8PROC_STRIPMARK));
+}
+
+std::optional<std::int64_t> decimalNumber(std::string_view text) {
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-')
+        text.remove_prefix(1);
+    std::int64_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [last, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && last == end ? std::optional(number) : std::nullopt;
 }
 
 } // namespace quorvan

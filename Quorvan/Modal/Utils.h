@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,5 +17,9 @@ std::string lowercased(std::string_view text);
 
 /// The key by which a search compares texts: case and diacritical marks are gone.
 std::string foldedForSearch(std::string_view text);
+
+/// A whole text as a signed decimal number; nothing for any other text and for a number that needs more
+/// than 64 bits.
+std::optional<std::int64_t> decimalNumber(std::string_view text);
 
 } // namespace quorvan

@@ -25,4 +25,12 @@ inline std::string_view variantFor(std::string_view identityType, std::string_vi
     return identityType == identityMorvane ? morvane : std::string_view();
 }
 
+/// A filled template of the identity type in its envelope. For a type that is neither the request is empty:
+/// its exchange writes nothing and reads a reply all the same.
+inline std::string variantRequest(std::string_view identityType, std::string_view activeDirectory,
+                                  std::string_view morvane, std::initializer_list<FormatArgument> arguments) {
+    const std::string_view variant = variantFor(identityType, activeDirectory, morvane);
+    return variant.empty() ? "" : adminRequest(fill(variant, arguments));
+}
+
 } // namespace quorvan

@@ -11,6 +11,7 @@
 namespace quorvan {
 
 inline constexpr const char* kODAttributeTypeSMBSID = "dsAttrTypeStandard:SMBSID";
+inline constexpr const char* kODAttributeTypePrimaryNTDomain = "dsAttrTypeStandard:PrimaryNTDomain";
 
 /// Look-ups in Active Directory that share what they read about the machine, so that a list of many
 /// trustees reads it once. Failures are logged and shown as a warning, one for each look-up.

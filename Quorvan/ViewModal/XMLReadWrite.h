@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Modal/FileInfo.h"
+#include "Quorvan/Modal/UserQuotaData.h"
 #include "Quorvan/Modal/Users.h"
 #include "Quorvan/ViewModal/XMLResponseParse.h"
 
@@ -10,8 +12,10 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace quorvan {
@@ -36,6 +40,13 @@ struct ExchangeLog {
     std::string_view completion;
     std::string_view response;
 };
+
+/// Identities by ID, for asking "is this one of them?" without making a copy.
+struct IdentityHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view id) const { return std::hash<std::string_view>{}(id); }
+};
+using IdentitySet = std::unordered_set<std::string, IdentityHash, std::equal_to<>>;
 
 /// The request layer: opens a pipe file of the server, writes one request, reads one reply, and turns
 /// replies into records. Operations are named after what they ask; those ending in HandleDFS open and
@@ -117,22 +128,167 @@ public:
 
     // Rights
 
+    static std::string createSetIRFRequest(const std::string& path, std::uint16_t irf);
+    /// Sets the inherited rights filter of a path and returns the reply's status number.
+    std::int64_t setInheritedRights(std::uint16_t irf, const std::string& path);
+    std::int64_t parseSetInheritedRights(const std::string& xml);
     /// The mask of dictResponse's last such entry; without one the argument keeps its value.
     void loadIRFRights(Rights& irf) const;
     void loadEffRights(Rights& effRights) const;
+    static std::string createGetERRequests(const std::string& path, const std::string& identityType);
+    /// Appends the trustees of a path, each with its effective rights, when the status is "0".
+    std::string getEffectiveRightsforPath(const std::string& path, TrusteeList& trusteeList,
+                                          const std::string& identityType);
+    static std::string createGetUserEffRightRequest(const std::string& userID, const std::string& path,
+                                                    const std::string& identityType);
+    /// The effective rights of one identity, which stay as they are when the request failed. Always "0".
+    std::string getEffectiveRightsforUserOnPath(const std::string& path, const std::string& userID,
+                                                Rights& rights, const std::string& identityType);
+    /// The names of the logged-in user's rights on a path ("read", "fileScan", …), whatever the status.
+    /// "-1" when the reply holds none; the list then stays as it is.
+    std::string getEffectiveRightsForMappedUser(const std::string& path,
+                                                std::vector<std::string>& effectiveRights,
+                                                const std::string& ctx);
+    static std::vector<std::string> parseEffectiveRights(XMLElement xmlData);
+    static std::string createGetIRRequest(const std::string& path, const std::string& identityType);
+    /// Appends the trustees of a path and of everything below it when the status is "0".
+    std::string getIRRequest(const std::string& path, std::vector<DirectoryRights>& dirTrustee,
+                             const std::string& identityType);
+    /// Appends the trustees of dictResponse with the path that follows them there; those behind the last
+    /// path are dropped.
+    void loadDirectoryRights(std::vector<DirectoryRights>& dirTrustee, const std::string& identityType) const;
+    /// Appends the paths below `path` on which identities of `userID` hold rights. Always "0".
+    std::string getFSRights(const std::string& path, const std::vector<std::string>& userID,
+                            std::vector<IdentityFileRights>& grpRights, const std::string& ctx);
+    static void decodeFSRInfo(const std::string& xmlResp, const std::vector<std::string>& userID,
+                              std::vector<IdentityFileRights>& arr);
+    static void decodeFSRTrusteeInfo(XMLElement xmlNodeArr, const std::string& path,
+                                     const IdentitySet& userID, std::vector<IdentityFileRights>& arr);
+
+    // File information
+
+    /// These three fill their record when the status is "0" and leave it as it is otherwise.
+    std::string getFileInfoOwner(const std::string& path, OwnerInfo& ownerInfo,
+                                 const std::string& identityType);
+    std::string getAttributes(const std::string& path, AttributesInfo& fileAttributes,
+                              const std::string& identityType);
+    std::string getDirectoryQuota(const std::string& path, DirectoryQuotaInfo& dirQuota,
+                                  const std::string& ctx);
+    static std::string createGetOwnerRequest(const std::string& path, const std::string& identityType);
+    static std::string createGetAttributesRequest(const std::string& path, const std::string& identityType);
+    static std::string createGetDirQuotaRequest(const std::string& path, const std::string& identityType);
+    static void decodeOwnerInfo(const std::string& xml, OwnerInfo& dictionary);
+    static void decodeFileAttributesResponse(const std::string& xml, AttributesInfo& dictionary);
+    static std::vector<std::string> parseFileAttributes(XMLElement xmlData);
+    static void decodeDirQuotaResponse(const std::string& xml, DirectoryQuotaInfo& dictionary);
+    /// How a change went is not told; read the value again to see it.
+    void setFileInfoOwner(const std::string& path, const std::string& ownerID,
+                          const std::string& identityType);
+    /// `attributes`: tags of FileAttributes, one after the other.
+    void setAttributes(const std::string& path, const std::string& attributes);
+    void setDirectoryQuota(const std::string& path, const std::string& amount);
+    static std::string createSetOwnerRequest(const std::string& path, const std::string& ownerID,
+                                             const std::string& identityType);
+    static std::string createSetAttributesRequest(const std::string& path, const std::string& attributes);
+    static std::string createSetDirQuotaRequest(const std::string& path, const std::string& amount);
+
+    // User quotas
+
+    /// Appends one row for each user of the volume of `path`, whatever the status. A path that names no
+    /// volume is fatal, here and in setUserQuotaInfo.
+    std::string getUserQuotaInfo(const std::string& path, UserQuotaList& array, const std::string& ctx);
+    static std::string createGetUserQuotaRequest(const std::string& volumeName,
+                                                 const std::string& identityType);
+    static void decodeUserQuotaInfo(const std::string& xml, UserQuotaList& array,
+                                    const std::string& identityType);
+    /// Sends the rows by their action, 300 in one request, and returns the first status other than "0".
+    std::string setUserQuotaInfo(const std::string& path, const UserQuotaList& array, const std::string& ctx);
+    /// A row's own kind decides how it is written; the identity type is ignored.
+    static std::string createSetUserQuotaRequest(const std::string& volumeName,
+                                                 std::span<const std::shared_ptr<UserQuotaData>> users,
+                                                 const std::string& identityType);
+    static std::string createXMLforUsers(const std::string& volumeName,
+                                         std::span<const std::shared_ptr<UserQuotaData>> users,
+                                         const std::string& identityType);
 
     // Directory tree
 
+    /// Appends what lies below the base DN `tree`.
+    std::string getMorvaneBrowse(const std::string& tree, std::vector<User>& userlist);
+    /// The status; "" when the reply is not XML.
+    std::string parseMorvaneBrowseResp(const std::string& xml, std::vector<User>& userlist);
+    static void decodeTRELLBrowse(XMLElement nodes, std::vector<User>& userlist);
+    static std::string createGetGuidRequest(const std::string& context, const std::string& objectName);
+    /// The GUID of an object, or a status: "0" and "" mean that it has none.
+    std::string getGuid_Morvane(const std::string& context, const std::string& objectName);
+    std::string parseMorvaneGuidResp(const std::string& xml);
+    static std::string createGetGroupMembershipRequest(const std::string& context,
+                                                       const std::string& objectName);
+    /// Appends the groups of an object, by their names alone. `id` is ignored.
+    std::string getGroupMemberShip_Morvane(const std::string& id, std::vector<Group>& grouplist,
+                                           const std::string& context, const std::string& objectName);
+    std::string parseMorvaneGroupsResp(const std::string& xml, std::vector<Group>& grouplist);
     /// "Morvane" when the reply names that directory, "ActiveDirectory" in every other case.
     std::string getUserType();
 
-    // Operations about the selection
+    // Links
 
-    /// Empties `trusteeList` and fills it, the filter and the logged-in user's rights; may rewrite
-    /// server and selected path when the path is a link. 0, 1 or the status of openPipe.
+    /// The reply to the question where a link leads, on the open "/ZelSmbPipe".
+    std::string getDFSPath(const std::string& path);
+    /// Where the link at a path leads. The status; "-1" when the reply is not XML or carries none.
+    std::string getDFSPathInfo(const std::string& path, std::string& targetServer, std::string& targetPath);
+    /// Asks for the mapped path, and where the server wants it so for the selected one.
+    void resolveDFSPath(const std::string& mappedPath, const std::string& selectedPath,
+                        std::string& targetServer, std::string& targetPath, std::string& resVal);
+    /// Walks the mapped path component by component and follows every link on the way. A mapped path of
+    /// one component is fatal.
+    void resolveMultipleDFSPath(std::string& server, const std::string& mappedPath, std::string& selectedPath,
+                                std::string& targetServer, std::string& targetPath, std::string& resVal,
+                                std::int32_t& status);
+    /// Moves the selection to the target of a link at `mappedPath`. When the SMB client cannot be prepared
+    /// for another server, `status` is its error and `err` is 1.
+    static void buildDFSPath(std::string& selectedPath, const std::string& targetPath,
+                             const std::string& mappedPath, const std::string& targetServer,
+                             std::string& serverIP, std::int32_t& status, std::int32_t& err);
+
+    // Operations about the selection
+    //
+    // Each opens the pipe, performs its request and closes the pipe. Where the server says that the path
+    // lies below a link, server and selected path are rewritten to the link's target and the request is
+    // repeated there. The result is 0, also when the link could not be resolved or its target not be
+    // reached (the log says so); 1 when the request failed; the status of openPipe; or the SMB client's
+    // error for the target server.
+
+    /// Empties `trusteeList` and fills it, the filter and the logged-in user's rights.
     std::int32_t initializeTrusteesHandleDFS(std::string& server, TrusteeList& trusteeList,
                                              std::string& selectedPath, Rights& irf, Rights& effRights,
                                              std::string& mappedPath, const std::string& identityType);
+    /// Empties `trusteeList` and fills it.
+    std::int32_t getEffectiveRightsforPathHandleDFS(std::string& server, TrusteeList& trusteeList,
+                                                    std::string& selectedPath, std::string& mappedPath,
+                                                    const std::string& identityType);
+    std::int32_t getEffectiveRightsForMappedUserForPathHandleDFS(std::string& selectedPath,
+                                                                 std::vector<std::string>& effectiveRights,
+                                                                 std::string& server, std::string& mappedPath,
+                                                                 const std::string& identityType);
+    /// Appends to `dirTrustee`.
+    std::int32_t getIRRequestHandleDFS(std::string& server, std::vector<DirectoryRights>& dirTrustee,
+                                       std::string& mappedPath, std::string& selectedPath,
+                                       const std::string& identityType);
+    std::int32_t setInheritedRightsforPathHandleDFS(std::string& server, std::uint16_t irf,
+                                                    std::string& selectedPath, std::string& mappedPath);
+    /// Adds or removes one trustee, as its status says.
+    std::int32_t setTrusteeHandleDFS(std::string& server, std::string& mappedPath, std::string& selectedPath,
+                                     const Trustees& trustee, const std::string& identityType);
+    std::int32_t getFileInfoOwnerHandleDFS(std::string& server, std::string& selectedPath,
+                                           OwnerInfo& ownerInfo, std::string& mappedPath,
+                                           const std::string& identityType);
+    std::int32_t getAttributesHandleDFS(std::string& server, std::string& selectedPath,
+                                        AttributesInfo& fileAttributes, std::string& mappedPath,
+                                        const std::string& identityType);
+    std::int32_t getDirectoryQuotaHandleDFS(std::string& server, std::string& selectedPath,
+                                            DirectoryQuotaInfo& dirQuota, std::string& mappedPath,
+                                            const std::string& identityType);
 
 private:
     struct SelectionRequest;
@@ -141,9 +297,13 @@ private:
     std::string setOneTrustee(const std::string& element, const ElementPath& resultPath,
                               const ExchangeLog& log);
     std::int32_t performHandleDFS(const SelectionRequest& request, std::string& server,
-                                  std::string& selectedPath, std::string& mappedPath);
+                                  std::string& selectedPath, const std::string& mappedPath);
     std::int32_t followLink(const SelectionRequest& request, std::string& server, std::string& selectedPath,
-                            std::string& mappedPath);
+                            const std::string& mappedPath);
+    std::string getFileInfo(const std::string& request, const ExchangeLog& log,
+                            const std::function<void(const std::string& reply)>& decode);
+    std::string askTree(const std::string& request, const ExchangeLog& log,
+                        const std::function<std::string(const std::string& reply)>& parse);
 };
 
 } // namespace quorvan

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
-#include "Common/Fatal.h"
 #include "Common/Log.h"
-#include "Platform/Services.h"
 #include "Quorvan/Modal/Utils.h"
 #include "Quorvan/ViewModal/RequestEnvelope.h"
-#include "Quorvan/ViewModal/UsersViewModal.h"
+#include "Quorvan/ViewModal/TrusteeReader.h"
 
 namespace quorvan {
 namespace {
@@ -63,17 +61,6 @@ std::string changeElement(const Trustees& trustee, const std::string& path, cons
     return "";
 }
 
-/// Names the server-side identities of Active Directory trustees in one go before each is looked up.
-void prefetchTypes(const ReplyEntries& entries) {
-    std::vector<std::string> sids;
-    sids.reserve(entries.size());
-    for (const auto& entry : entries) {
-        if (entry->trusteeID)
-            sids.push_back(*entry->trusteeID);
-    }
-    platform::services().directory->prefetch(sids);
-}
-
 } // namespace
 
 std::string XMLReadWriteController::createGetTrusteesListRequestAD(const std::string& path) {
@@ -110,31 +97,10 @@ void XMLReadWriteController::loadTrusteeDataFromServer(TrusteeList& trusteeList,
                                                        const std::string& identityType) const {
     if (!dictResponse)
         return;
-    const bool typesFromDirectory = identityType == identityActiveDirectory;
-    if (typesFromDirectory)
-        prefetchTypes(*dictResponse);
-    const DirectoryLookup lookup;
-
-    // What an entry does not say is what the last one said that did.
-    const std::string* name = nullptr;
-    std::string_view type;
-    std::optional<std::uint16_t> rights;
+    TrusteeReader reader(*dictResponse, identityType);
     for (const auto& entry : *dictResponse) {
-        if (entry->trusteeName)
-            name = &*entry->trusteeName;
-        if (entry->trusteeType)
-            type = *entry->trusteeType;
-        if (entry->rights)
-            rights = entry->rights;
-        if (!entry->trusteeID)
-            continue;
-        require(name != nullptr && rights, "The trustee \"%@\" of the reply has no name or no rights",
-                *entry->trusteeID);
-        auto trustee = std::make_shared<Trustees>(*name, *entry->trusteeID, *rights, "", std::string(type),
-                                                  identityType);
-        if (typesFromDirectory)
-            lookup.setTrusteeTypeforTrustee(*trustee);
-        trusteeList.push_back(std::move(trustee));
+        if (auto trustee = reader.read(*entry))
+            trusteeList.push_back(std::move(trustee));
     }
 }
 

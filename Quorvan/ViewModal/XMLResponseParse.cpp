@@ -3,9 +3,9 @@
 
 #include "Common/Fatal.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Modal/Utils.h"
 
 #include <array>
-#include <charconv>
 #include <utility>
 
 namespace quorvan {
@@ -83,17 +83,6 @@ TagName tagNamed(std::string_view name) {
 void close(ReplyEntries& entries, const std::shared_ptr<ReplyEntry>& entry, std::string_view name) {
     require(entry != nullptr, "\"%@\" ended in the reply and never began", name);
     entries.push_back(entry);
-}
-
-std::int64_t statusNumber(const std::string& text) {
-    std::int64_t number = 0;
-    const char* begin = text.data();
-    const char* end = begin + text.size();
-    if (text.size() > 1 && text[0] == '+' && text[1] != '-')
-        ++begin;
-    const auto [last, error] = std::from_chars(begin, end, number);
-    require(error == std::errc() && last == end, "The result \"%@\" is not a number", text);
-    return number;
 }
 
 } // namespace
@@ -198,7 +187,7 @@ void XMLResponseParser::didEndElement(std::string_view name) {
         break;
     case Tag::result:
         if (resValue != "0")
-            xmlReqStatus = statusNumber(resValue);
+            xmlReqStatus = unwrap(decimalNumber(resValue), "The result \"%@\" is not a number", resValue);
         break;
     case Tag::other:
         break;

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/ViewModal/TrusteeReader.h"
+
+#include "Common/Fatal.h"
+#include "Platform/Services.h"
+#include "Quorvan/Modal/Constants.h"
+
+#include <utility>
+#include <vector>
+
+namespace quorvan {
+namespace {
+
+/// Names the identities in one go before each is looked up.
+void prefetchTypes(const ReplyEntries& entries) {
+    std::vector<std::string> sids;
+    sids.reserve(entries.size());
+    for (const auto& entry : entries) {
+        if (entry->trusteeID)
+            sids.push_back(*entry->trusteeID);
+    }
+    platform::services().directory->prefetch(sids);
+}
+
+} // namespace
+
+TrusteeReader::TrusteeReader(const ReplyEntries& entries, std::string identityType)
+    : identityType_(std::move(identityType))
+    , typesFromDirectory_(identityType_ == identityActiveDirectory) {
+    if (typesFromDirectory_)
+        prefetchTypes(entries);
+}
+
+std::shared_ptr<Trustees> TrusteeReader::read(const ReplyEntry& entry) {
+    if (entry.trusteeName)
+        name_ = &*entry.trusteeName;
+    if (entry.trusteeType)
+        type_ = *entry.trusteeType;
+    if (entry.rights)
+        rights_ = entry.rights;
+    if (!entry.trusteeID)
+        return nullptr;
+    require(name_ != nullptr && rights_, "The trustee \"%@\" of the reply has no name or no rights",
+            *entry.trusteeID);
+    auto trustee =
+        std::make_shared<Trustees>(*name_, *entry.trusteeID, *rights_, "", std::string(type_), identityType_);
+    if (typesFromDirectory_)
+        lookup_.setTrusteeTypeforTrustee(*trustee);
+    return trustee;
+}
+
+} // namespace quorvan
