@@ -5,8 +5,8 @@
 #include "Common/Log.h"
 #include "Quorvan/Controller/HelpPanels.h"
 #include "Quorvan/Controller/MainWindow.h"
-#include "Quorvan/Toolkit/TerminationSignals.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/TerminationSignals.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <QAction>

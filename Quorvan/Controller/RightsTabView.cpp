@@ -35,7 +35,7 @@ void RightsTabViewController::buildControls() {
     removeBtn = outlet(new QPushButton(L("Remove_title"), this), "removeBtn");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
-    readOnlyLabel = outlet(new QLabel(L("Read_Only_Label"), this), "readOnlyLabel");
+    readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
 
     addBtn->setToolTip(L("Add_Tip_Label"));

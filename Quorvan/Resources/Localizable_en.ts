@@ -275,7 +275,7 @@
     <source></source>
     <translation>No name matches “%1”.</translation>
   </message>
-  <message id="Read_Only_Label">
+  <message id="Rights_Read_Only_Label">
     <source></source>
     <translation>You can look at these rights but not change them: that takes the Supervisor or Access Control right here.</translation>
   </message>

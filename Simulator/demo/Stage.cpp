@@ -63,7 +63,6 @@ Stage::Stage(const Output& output, simulator::Embedded embedded)
 Stage::~Stage() {
     if (!expected_.empty())
         qFatal("The tour has not seen the dialog %s", qPrintable(expected_.front().name));
-    delegate_.applicationWillTerminate();
     startAfresh();
 }
 
