@@ -186,7 +186,7 @@ TEST_F(Adapters, EndAnExchangeWhoseServerGoesAndReconnectForTheNext) {
     XMLReadWriteController controller;
     const auto exchange = [&] {
         EXPECT_EQ(controller.openPipe(server->address, "/IPC$", "/FilesCmdPipe"), 0);
-        const std::string reply = controller.getTrusteeList(folderPath, "ActiveDirectory");
+        std::string reply = controller.getTrusteeList(folderPath, "ActiveDirectory");
         XMLReadWriteController::closePipe();
         return reply;
     };

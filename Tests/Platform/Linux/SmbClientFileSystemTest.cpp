@@ -22,8 +22,8 @@ public:
         socklen_t size = sizeof address_;
         address_.sin_family = AF_INET;
         address_.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
-        ::bind(socket_, reinterpret_cast<const sockaddr*>(&address_), size);
-        ::getsockname(socket_, reinterpret_cast<sockaddr*>(&address_), &size);
+        EXPECT_EQ(::bind(socket_, reinterpret_cast<const sockaddr*>(&address_), size), 0);
+        EXPECT_EQ(::getsockname(socket_, reinterpret_cast<sockaddr*>(&address_), &size), 0);
     }
     ~Port() { ::close(socket_); }
     Port(const Port&) = delete;

@@ -1,0 +1,283 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Runs quorvan as its user does: hand-over and keyring in place, a real window, a real SMB server.
+
+    process_test.py QUORVAN KELP_SERVER
+
+Exit code 77: something that this test cannot do without is missing; the line printed says what.
+"""
+import os
+import pathlib
+import plistlib
+import re
+import socket
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import desktop
+from desktop import until
+
+try:
+    from smb_front import KelpConnection
+except ImportError as error:
+    print("SKIPPED: python3-impacket is not installed:", error)
+    sys.exit(77)
+
+HERE = pathlib.Path(__file__).parent
+ADDRESS = f"127.{200 + os.getpid() // 62500 % 50}.{os.getpid() // 250 % 250}.{2 + os.getpid() % 250}"
+USER = "ingrid.holm"
+PASSWORD = "pl3nty-0f-s3crets"
+PATH = "VOL1:\\Projects\\Aurora"
+RIGHTS = (0x0100, 0x0001, 0x0002, 0x0010, 0x0008, 0x0080, 0x0040, 0x0020)  # S R W E C M F A
+PREFIX = re.compile(r"\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{6}[+-]\d{4} quorvan\[\d+:\d+\] ")
+
+NO_DIRECTORY = "Could not find a Active Directory on the server"  # once for each trustee; kept once
+OPEN_PIPE = [
+    f"Getting ip of mapped server - {ADDRESS}",
+    f"Resolved {ADDRESS} to {ADDRESS}",
+    "Checking for exisitng pipes mapped",
+]
+MOUNT = [f"Mounting pipe for smb://{ADDRESS}/IPC$"]
+MOUNTED = [
+    f"Adding new mount point to dictionary - key : {ADDRESS}/IPC$ value : /IPC$",
+    "Mounted virtual volume successfully",
+]
+REUSED = [f"{ADDRESS}/IPC$ is already mounted. Stat status 0", f"{ADDRESS} is mounted at /IPC$"]
+USER_TYPE = [
+    "Get userType Request : <zelSmbGetInfo><userType/></zelSmbGetInfo>",
+    "response.deinitialize",
+    "Get userType Response: <zelSmbGetInfo>…",
+    "pipe closed",
+]
+GET_TRUSTEES = [
+    'Get trustee list Request : <adminRequest><virtualIO><datastream name="command"/></virtualIO><fileRequest>'
+    f"<fileInfo><getFileInfo><adOnly/><fileName>{PATH}</fileName><symLink/><nameSpace>LONG</nameSpace>"
+    "<typeOfInfo><rightsInfo/></typeOfInfo></getFileInfo></fileInfo></fileRequest></adminRequest>",
+    "response.deinitialize getTrusteeList",
+    "Get trustee list Response: <adminReply>…",
+    NO_DIRECTORY,
+    "pipe closed",
+    "pipe closed",
+]
+ALERT_FAILED = (
+    "The server did not complete the operation. Check the connection to the server and try again. "
+    "The log file has the details."
+)
+ALERT_NO_PASSWORD = (
+    "The server's password was not found in the keyring. Mount the share with “Remember password”, "
+    "then open Quorvan again."
+)
+
+
+def opened(pipe):
+    path = f"/Volumes/IPC$/{pipe}"
+    return [
+        f"Opened pipe {path} with expected error on server {ADDRESS} and error id is 0",
+        f"Registered as managed device on {ADDRESS} server",
+    ]
+
+
+class ProcessTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.screen = desktop.Screen()
+        cls.addClassCleanup(cls.screen.stop)
+        cls.keyring = desktop.Keyring()
+        cls.server = subprocess.Popen([KELP_SERVER], stdout=subprocess.PIPE, text=True)
+        cls.addClassCleanup(cls.end, cls.server)
+        port = cls.server.stdout.readline().split()[1]
+        cls.kelp = KelpConnection(int(port))
+        cls.addClassCleanup(cls.kelp.close)
+        cls.front = subprocess.Popen(
+            [sys.executable, str(HERE / "smb_front.py"), "--address", ADDRESS, "--kelp-port", port]
+            + ["--password", PASSWORD],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            text=True,
+        )
+        cls.addClassCleanup(cls.end, cls.front)
+        assert cls.front.stdout.readline() == "ready\n"
+
+    @staticmethod
+    def end(process):
+        process.terminate()
+        process.communicate()
+
+    def setUp(self):
+        self.home = pathlib.Path(os.environ["HOME"])
+        self.log = self.home / "Library/Logs/tarnix/Quorvan.log"
+        self.log.unlink(missing_ok=True)
+        self.view = desktop.View("quorvan", self.screen)
+
+    def start(self, server, **more):
+        """Hands a selection over and starts the program."""
+        hand_over = {"serverIP": server, "selectedPath": "/Volumes/VOL1/Projects/Aurora", "mappedPath": "VOL1:\\"}
+        file = self.home / ".config/group.tarnix.common.plist"
+        file.parent.mkdir(exist_ok=True)
+        file.write_bytes(plistlib.dumps({**hand_over, **more}))
+        self.quorvan = subprocess.Popen([QUORVAN])
+        self.addCleanup(self.end, self.quorvan)
+
+    def close(self, title="Rights Management"):
+        self.view.wait_for("frame", title)
+        self.screen.close_window(title)
+        self.assertEqual(self.quorvan.wait(20), 0)
+
+    def press(self, name):
+        self.view.click(self.view.wait_for("push button", name))
+
+    def answer_alert(self, text):
+        self.view.wait_for("label", text)
+        self.press("OK")
+        until(lambda: self.view.find("label", text) is None, "the alert to go")
+
+    def sessions(self):
+        self.front.stdin.write("sessions\n")
+        self.front.stdin.flush()
+        return self.front.stdout.readline().strip()
+
+    def server_rows(self):
+        """SID, mask and name of the Active Directory trustees, in the server's order."""
+        rows = (line.split("\t") for line in self.kelp.ask("trustees", PATH).decode().splitlines())
+        return [row for row in rows if row[0].startswith("S-1-")]
+
+    def trustees_on_server(self):
+        return [(name, int(mask, 16)) for _, mask, name in self.server_rows()]
+
+    def sid_of(self, trustee):
+        return next(sid for sid, _, name in self.server_rows() if name == trustee)
+
+    def trustees_on_screen(self):
+        return [
+            (name, sum(bit for bit, ticked in zip(RIGHTS, boxes) if ticked)) for name, boxes in self.view.rows()
+        ]
+
+    def log_texts(self):
+        """The lines of the log without their prefix."""
+        content = self.log.read_text()
+        self.assertNotIn(PASSWORD, content)
+        texts = []
+        for line in content.splitlines():
+            self.assertRegex(line, PREFIX)
+            text = PREFIX.sub("", line, count=1)
+            if text != NO_DIRECTORY or texts[-1] != text:
+                texts.append(text)
+        return texts
+
+    def assert_log(self, expected):
+        """Compares the whole log; an expected line that ends in "…" is the beginning of one."""
+        texts = self.log_texts()
+        for index, line in enumerate(expected):
+            if line.endswith("…") and index < len(texts) and texts[index].startswith(line[:-1]):
+                texts[index] = line
+        self.maxDiff = None
+        self.assertEqual(texts, expected)
+
+    def test_a_right_ticked_in_the_window_arrives_at_the_server(self):
+        self.keyring.store(ADDRESS, USER, PASSWORD)
+        self.start(ADDRESS)
+        self.press("Trustee Rights")
+        self.view.wait_for("table")
+        before = self.trustees_on_server()
+        self.assertEqual(self.trustees_on_screen(), before)
+        self.assertEqual(self.sessions(), "1 0")
+        self.assertFalse(self.view.is_enabled("push button", "Apply"))
+
+        row = [name for name, _ in before].index("Finance")
+        self.assertEqual(before[row][1], 0x0041)
+        self.view.click(self.view.cell(row, 3))  # W
+        until(lambda: self.trustees_on_screen()[row] == ("Finance", 0x0043), "the tick")
+        self.assertEqual(self.trustees_on_server(), before, "nothing is sent before Apply")
+        until(lambda: self.view.is_enabled("push button", "Apply"), "Apply to be enabled")
+        self.press("Apply")
+        until(lambda: not self.view.is_enabled("push button", "Apply"), "Apply to be done")
+        after = before[:row] + [("Finance", 0x0043)] + before[row + 1 :]
+        self.assertEqual(sorted(self.trustees_on_server()), sorted(after))
+        self.assertEqual(self.trustees_on_screen(), self.trustees_on_server())
+
+        self.close("Trustee Rights")
+        until(lambda: self.sessions() == "0 0", "the session to end")
+        reload = OPEN_PIPE + REUSED + opened("FilesCmdPipe") + GET_TRUSTEES
+        self.assert_log(
+            [
+                f"file://{self.log}",
+                f"Path selected is {PATH}",
+                f"Path mapped and selected is {PATH}",
+                f"Volume mapping with username {USER}",
+                *(["init"] + OPEN_PIPE + MOUNT + MOUNTED + opened("ZelSmbPipe") + USER_TYPE),
+                *(["init"] + reload + ["response.deallocate"]),
+                *(["init", "response.deallocate"] + OPEN_PIPE + REUSED + opened("FilesCmdPipe")),
+                'Add Remove trustee list Request : <adminRequest><virtualIO><datastream name="command"/></virtualIO>'
+                '<fileRequest><trustees><addTrustee type="adID"><adUser/><userID>' + self.sid_of("Finance") + "</userID>"
+                f"<rights><read/><write/><fileScan/></rights><fileName>{PATH}</fileName><nameSpace>LONG</nameSpace>"
+                "<symLink/></addTrustee></trustees></fileRequest></adminRequest>",
+                "response.deinitialize setTrustee",
+                "Add or Remove trustee Response: <adminReply>…",
+                "pipe closed",
+                *(["init", "response.deallocate"] + reload),
+                "Closing Rights Management …",
+                f"unmount {ADDRESS}/IPC$'s - /IPC$ : 0",
+                "response.deallocate",
+            ]
+        )
+        mode = self.log.stat().st_mode & 0o777
+        self.assertEqual(mode, 0o600, "the log holds requests and replies of the server's management")
+
+    def test_a_wrong_password_is_reported_and_the_menu_stays(self):
+        self.keyring.store(ADDRESS, USER, "not " + PASSWORD)
+        self.start(ADDRESS)
+        self.answer_alert(ALERT_FAILED)
+        self.close()
+        self.assertEqual(self.sessions(), "0 0")
+        self.assert_log(
+            [
+                f"file://{self.log}",
+                f"Path selected is {PATH}",
+                f"Path mapped and selected is {PATH}",
+                f"Volume mapping with username {USER}",
+                *(["init"] + OPEN_PIPE + MOUNT),
+                "Error mounting virtual volume due to error code 13",
+                "Failed with err - 13",
+                "Closing Rights Management …",
+                "response.deallocate",
+            ]
+        )
+
+    def test_a_keyring_without_the_password_is_named_when_a_page_needs_it(self):
+        self.start("localhost", loggedUserType="ActiveDirectory")
+        self.answer_alert(ALERT_FAILED)
+        self.press("Trustee Rights")
+        self.answer_alert(ALERT_NO_PASSWORD)
+        self.answer_alert(ALERT_FAILED)  # the main menu asks once more who is logged in
+        self.close()
+        texts = self.log_texts()
+        self.assertIn("Username not found in Keychain", texts)
+        self.assertEqual(texts.count("Mounting pipe for smb://localhost/IPC$"), 3)
+        self.assertEqual(texts.count("Keychain item not found, error returned: -25300"), 3)
+        self.assertEqual(texts.count("Failed with err - -25300"), 2)
+
+
+def obstacle():
+    missing = desktop.missing()
+    if missing:
+        return missing
+    with socket.socket() as probe:
+        probe.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
+        try:
+            probe.bind((ADDRESS, 445))
+        except OSError as error:
+            return f"port 445 of {ADDRESS} cannot be opened ({error})"
+    return ""
+
+
+if __name__ == "__main__":
+    if not desktop.in_session():
+        reason = obstacle()
+        if reason:
+            print("SKIPPED:", reason)
+            sys.exit(77)
+        sys.exit(desktop.run_in_session())
+    QUORVAN, KELP_SERVER = sys.argv[1:3]
+    unittest.main(argv=sys.argv[:1] + sys.argv[3:], warnings="ignore")
