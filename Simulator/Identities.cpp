@@ -3,10 +3,26 @@
 
 #include "Simulator/Text.h"
 
+#include <cstdint>
 #include <unordered_set>
 #include <utility>
 
 namespace quorvan::simulator {
+
+namespace {
+
+/// A GUID that is always the same for a text (FNV-1a).
+std::string guidOf(std::string_view text) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char c : text)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001b3;
+    std::string digits;
+    for (int shift = 60; shift >= 0; shift -= 4)
+        digits += "0123456789abcdef"[(hash >> shift) & 0xF];
+    return digits.substr(0, 8) + "-" + digits.substr(8, 4) + "-4000-8000-00000000" + digits.substr(12);
+}
+
+} // namespace
 
 bool Identity::isGroup() const {
     const std::string folded = fold(objectClass);
@@ -47,13 +63,31 @@ Identity& Identities::addDomainIdentity(const std::string& name, const std::stri
 
 Identity& Identities::addTreeIdentity(const std::string& name, const std::string& unit,
                                       const std::string& guid, const char* objectClass) {
+    const Identity& top = container("O", organization, "organization", nullptr);
+    const Identity& parent = container("OU", unit, "organizational unit", &top);
     return add({IdentityKind::morvane,
-                "CN=" + name + ".OU=" + unit + ".O=" + organization,
+                "CN=" + name + "." + parent.name,
                 guid,
                 objectClass,
-                "\\" + tree + "\\O=" + organization + "\\OU=" + unit + "\\CN=" + name,
+                parent.distinguishedName + "\\CN=" + name,
                 tree,
-                {}});
+                {},
+                &parent});
+}
+
+const Identity& Identities::container(const char* type, const std::string& name, const char* objectClass,
+                                      const Identity* parent) {
+    const std::string typed = std::string(type) + "=" + name;
+    const std::string path = (parent == nullptr ? "\\" + tree : parent->distinguishedName) + "\\" + typed;
+    std::string id = guidOf(path);
+    return add({IdentityKind::morvane,
+                parent == nullptr ? typed : typed + "." + parent->name,
+                std::move(id),
+                objectClass,
+                path,
+                tree,
+                {},
+                parent});
 }
 
 const Identity* Identities::findById(std::string_view id) const {
@@ -90,10 +124,13 @@ std::vector<const Identity*> withAllGroups(const Identity& identity) {
     std::vector<const Identity*> reached{&identity};
     std::unordered_set<const Identity*> seen{&identity};
     for (std::size_t next = 0; next < reached.size(); ++next) {
-        for (const Identity* group : reached[next]->groups) {
+        const Identity& each = *reached[next];
+        for (const Identity* group : each.groups) {
             if (seen.insert(group).second)
                 reached.push_back(group);
         }
+        if (each.container != nullptr && seen.insert(each.container).second)
+            reached.push_back(each.container);
     }
     return reached;
 }

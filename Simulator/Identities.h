@@ -11,15 +11,17 @@ namespace quorvan::simulator {
 
 enum class IdentityKind { activeDirectory, morvane };
 
-/// A user or group that can be a trustee.
+/// A user or group that can be a trustee; in the tree also a container.
 struct Identity {
     IdentityKind kind = IdentityKind::activeDirectory;
     std::string name;              ///< as the server shows it: account name, or CN=x.OU=y.O=z in the tree
     std::string id;                ///< SID (S-1-…) or GUID
-    std::string objectClass;       ///< "user", "group"; in the tree also "inetOrgPerson", "groupOfNames" …
+    std::string objectClass;       ///< "user", "group"; in the tree "inetOrgPerson", "groupOfNames",
+                                   ///< "organization", "organizational unit"
     std::string distinguishedName; ///< CN=x,OU=y,DC=z, or \TREE\O=z\OU=y\CN=x in the tree
     std::string domain;            ///< NetBIOS name of the domain, or name of the tree
     std::vector<const Identity*> groups; ///< of which it is a direct member
+    const Identity* container = nullptr; ///< where it lies in the tree; null at the top of it
 
     bool isGroup() const;
 };
@@ -35,7 +37,7 @@ public:
     Identity& add(Identity identity);
 
     /// Shorthands that make up the rest from the store's domain or tree; a tree name is given without
-    /// its type, the unit is the container it lies in.
+    /// its type, the unit is the container it lies in, made when there is none yet.
     Identity& addDomainUser(const std::string& name, const std::string& sid) {
         return addDomainIdentity(name, sid, "user");
     }
@@ -71,6 +73,8 @@ private:
     Identity& addDomainIdentity(const std::string& name, const std::string& sid, const char* objectClass);
     Identity& addTreeIdentity(const std::string& name, const std::string& unit, const std::string& guid,
                               const char* objectClass);
+    const Identity& container(const char* type, const std::string& name, const char* objectClass,
+                              const Identity* parent);
 
     struct NameIndex {
         std::vector<std::string> foldedNames; ///< one for each identity that is in the index yet
@@ -84,7 +88,8 @@ private:
     mutable NameIndex names_;
 };
 
-/// The identity, its groups, their groups and so on, each once.
+/// The identity and everything that its rights come from: its groups and container, theirs and so on,
+/// each once.
 std::vector<const Identity*> withAllGroups(const Identity& identity);
 
 } // namespace quorvan::simulator

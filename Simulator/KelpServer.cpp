@@ -14,6 +14,14 @@ namespace {
 
 constexpr std::size_t keptRequests = 1000;
 
+constexpr std::pair<std::string_view, std::string (*)(const Request&)> answers[] = {
+    {"/FilesCmdPipe", answerFileRequest},
+    {"/RightsCmdPipe", answerRightsRequest},
+    {"/ZelSmbPipe", answerSmbRequest},
+    {"/Manage_KELP/TRELL.cmd", answerTreeRequest},
+    {"/Manage_KELP/user.cmd", answerQuotaRequest},
+};
+
 /// Fills a well-formed reply up with elements that no client knows.
 void pad(std::string& reply, std::size_t size) {
     const std::string filler = "<padding>" + std::string(4000, 'x') + "</padding>";
@@ -73,10 +81,10 @@ std::string KelpServer::answer(std::string_view pipeFile, std::string_view user,
         const Account* account = findAccount(user);
         if (account == nullptr)
             throw Refusal{code::unknownIdentity};
-        if (pipeFile == "/FilesCmdPipe")
-            return answerFileRequest(*this, *account->identity, *root);
-        if (pipeFile == "/ZelSmbPipe")
-            return answerSmbRequest(*account->identity, *root);
+        for (const auto& [file, answerRequest] : answers) {
+            if (file == pipeFile)
+                return answerRequest({*this, *account->identity, *root});
+        }
         throw Refusal{code::refusedRequest};
     } catch (const Refusal& refusal) {
         return failureReply(*root, refusal.code);

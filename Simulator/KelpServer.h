@@ -25,6 +25,16 @@ inline constexpr int noSuchPath = 20902; ///< no such volume, folder or file
 inline constexpr int noRights = 20903;   ///< the logged-in user may not do that there
 inline constexpr int unknownIdentity = 20904; ///< no such SID, GUID or name in that directory
 inline constexpr int noSuchTrustee = 20905;   ///< removing an identity that is no trustee of the path
+inline constexpr int invalidAmount = 20906;   ///< a negative amount of space
+inline constexpr int noSuchAttribute = 20907; ///< no such attribute of objects of the tree
+
+// About links. A request about what lies elsewhere fails with one of the first two; the others answer
+// the question where a path leads.
+inline constexpr int atLink = 20008;         ///< the path is a link
+inline constexpr int belowLink = 20429;      ///< the path leads through a link
+inline constexpr int volumeIsNoLink = 20156; ///< the path is a whole volume, which is never a link
+inline constexpr int noLink = 30005;         ///< the path is no link, and none lies above it
+inline constexpr int linkAbove = 30006;      ///< the path leads through a link
 } // namespace code
 
 struct PipeFile {

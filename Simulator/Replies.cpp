@@ -19,6 +19,18 @@ const char* description(int code) {
         return "unknown identity";
     case code::noSuchTrustee:
         return "no such trustee";
+    case code::invalidAmount:
+        return "invalid amount of space";
+    case code::noSuchAttribute:
+        return "no such attribute";
+    case code::atLink:
+        return "the path is a link";
+    case code::belowLink:
+    case code::linkAbove:
+        return "the path lies below a link";
+    case code::volumeIsNoLink:
+    case code::noLink:
+        return "the path is no link";
     default:
         return "the request failed";
     }
@@ -50,21 +62,34 @@ std::string failureReply(int code) {
     return reply.finish();
 }
 
-std::string failureReply(const RequestElement& request, int code) {
+std::string failureReply(const RequestElement& elements, int code) {
     // A reply repeats the operations of its request (fileInfo with getFileInfo, trustees with each
     // addTrustee), so that every operation has its result where the client looks for it.
-    const RequestElement* subject = firstChild(&request, "fileRequest");
-    const RequestElement* group = firstChild(subject, "");
-    if (group == nullptr || group->children.empty())
+    const RequestElement* const envelope = firstChild(&elements, "adminRequest");
+    const RequestElement* const outer = envelope == nullptr ? &elements : envelope;
+    const RequestElement* subject = nullptr;
+    for (const char* name : {"fileRequest", "userRequest", "trellRequest"})
+        subject = subject == nullptr ? firstChild(outer, name) : subject;
+    const RequestElement* const group = firstChild(subject, "");
+    const bool isEmptySet = group != nullptr && group->name == "userQuota" && group->children.empty();
+    if (group == nullptr || (group->children.empty() && !isEmptySet))
         return failureReply(code);
     ReplyWriter reply;
     reply.open("adminReply");
+    if (subject->name == "trellRequest")
+        writeResult(reply, code); // the tree has a result for the request as well
     reply.open(group->name.c_str());
-    for (const RequestElement& operation : group->children) {
-        reply.open(operation.name.c_str());
+    const auto writeFailed = [&](const char* operation) {
+        reply.open(operation);
         writeResult(reply, code);
+        if (operation == std::string_view("browse"))
+            reply.mark("userList"); // there even when the request failed
         reply.close();
-    }
+    };
+    for (const RequestElement& operation : group->children)
+        writeFailed(operation.name.c_str());
+    if (isEmptySet)
+        writeFailed("set");
     return reply.finish();
 }
 

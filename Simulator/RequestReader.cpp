@@ -20,7 +20,13 @@ public:
     explicit Reader(std::string_view text)
         : text_(text) {}
 
-    bool document(RequestElement& root) { return element(root, 1) && at_ == text_.size(); }
+    bool document(RequestElement& holder) {
+        do {
+            if (!element(holder.children.emplace_back(), 1))
+                return false;
+        } while (at_ < text_.size());
+        return true;
+    }
 
 private:
     bool skip(std::string_view token) {
@@ -51,7 +57,13 @@ private:
     bool attributes(RequestElement& element) {
         while (skip(" ")) {
             std::pair<std::string, std::string> attribute;
-            if (!name(attribute.first) || !skip("=\"") || !characters(attribute.second, '"') || !skip("\""))
+            if (!name(attribute.first))
+                return false;
+            if (skip(" = "))
+                attribute.first += ' ';
+            else if (!skip("="))
+                return false;
+            if (!skip("\"") || !characters(attribute.second, '"') || !skip("\""))
                 return false;
             for (const auto& other : element.attributes) {
                 if (other.first == attribute.first)
@@ -137,11 +149,16 @@ bool isUtf8(std::string_view text) {
 
 } // namespace
 
+void refuseUnless(bool condition) {
+    if (!condition)
+        refuse();
+}
+
 std::optional<RequestElement> readRequest(std::string_view text) {
-    std::optional<RequestElement> root(std::in_place);
-    if (!isUtf8(text) || !Reader(text).document(*root))
-        root.reset();
-    return root;
+    std::optional<RequestElement> holder(std::in_place);
+    if (!isUtf8(text) || !Reader(text).document(*holder))
+        holder.reset();
+    return holder;
 }
 
 void requireNoAttributes(const RequestElement& element) {

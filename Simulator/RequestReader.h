@@ -12,15 +12,17 @@ namespace quorvan::simulator {
 /// One element of a request: either child elements or text, never both.
 struct RequestElement {
     std::string name;
-    std::vector<std::pair<std::string, std::string>> attributes;
+    std::vector<std::pair<std::string, std::string>> attributes; ///< see readRequest
     std::vector<RequestElement> children;
     std::string text;
 };
 
-/// Reads a request: one element and nothing around it, no declaration, comment, instruction or
-/// document type, nothing between elements, ASCII names, attributes in double quotes, the five named
-/// entities and character references. Nothing for anything else, ill-formed UTF-8 and nesting deeper
-/// than 32 included.
+/// Reads a request: one or more elements, which become the children of a nameless one. Nothing around
+/// and between elements, no declaration, comment, instruction or document type, ASCII names, attributes
+/// in double quotes, the five named entities and character references. An attribute that is written
+/// with a blank on each side of the equals sign keeps one at the end of its name ("type "): there are
+/// requests that have it there, and all others must not. Nothing for anything else, ill-formed UTF-8
+/// and nesting deeper than 32 included.
 std::optional<RequestElement> readRequest(std::string_view text);
 
 /// Thrown while a request is looked at: it fails with this code.
@@ -52,6 +54,9 @@ private:
     const RequestElement& parent_;
     std::size_t next_ = 0;
 };
+
+/// Refuses with code::refusedRequest.
+void refuseUnless(bool condition);
 
 /// Refuses an element with attributes.
 void requireNoAttributes(const RequestElement& element);

@@ -39,6 +39,17 @@ inline constexpr std::array<RightTag, 8> rightTags{{
     {"supervisor", right::supervisor},
 }};
 
+/// What a user must have at a path to change something there. Reading needs no right, and supervisor is
+/// always enough.
+namespace neededFor {
+inline constexpr Mask trustees = right::accessControl; ///< for the supervisor right in them: supervisor
+inline constexpr Mask filter = right::accessControl;
+inline constexpr Mask attributes = right::modify;
+inline constexpr Mask owner = right::supervisor;
+inline constexpr Mask directoryQuota = right::supervisor;
+inline constexpr Mask userQuotas = right::supervisor; ///< at the root of the volume
+} // namespace neededFor
+
 /// What a parent's rights are worth below a path with this filter: supervisor passes every filter.
 constexpr Mask throughFilter(Mask rights, Mask filter) {
     return static_cast<Mask>(rights & (filter | right::supervisor));

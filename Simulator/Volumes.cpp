@@ -81,10 +81,35 @@ Mask effectiveRights(const Node& node, const Identity& identity) {
     return expanded(rights);
 }
 
+std::string ownerOf(const Node& node) {
+    const Node* at = &node;
+    while (at->owner.empty() && at->parent != nullptr)
+        at = at->parent;
+    return at->owner;
+}
+
+std::string pathOf(const Node& node) {
+    if (node.parent == nullptr)
+        return node.name + ":\\";
+    std::string path = pathOf(*node.parent);
+    if (path.back() != '\\')
+        path += '\\';
+    return path + node.name;
+}
+
+UserQuota& UserQuotas::of(const Identity& user) {
+    UserQuota*& quota = byUser_[&user];
+    if (quota == nullptr) {
+        quota = &entries_.emplace_back();
+        quota->user = &user;
+    }
+    return *quota;
+}
+
 Node* Volumes::make(std::string_view path) {
     Node* node = nullptr;
     for (const std::string_view part : pathParts(path)) {
-        auto& slot = (node == nullptr ? roots_ : node->children)[fold(part)];
+        auto& slot = node == nullptr ? volumes_[fold(part)].root : node->children[fold(part)];
         if (!slot) {
             slot = std::make_unique<Node>();
             slot->name = part;
@@ -95,16 +120,39 @@ Node* Volumes::make(std::string_view path) {
     return node;
 }
 
+/// The volume of that name, or the child of `from`; null when there is none.
+const Node* Volumes::step(const Node* from, std::string_view part) const {
+    if (from == nullptr) {
+        const auto volume = volumes_.find(fold(part));
+        return volume == volumes_.end() ? nullptr : volume->second.root.get();
+    }
+    const auto child = from->children.find(fold(part));
+    return child == from->children.end() ? nullptr : child->second.get();
+}
+
 const Node* Volumes::find(std::string_view path) const {
     const Node* node = nullptr;
     for (const std::string_view part : pathParts(path)) {
-        const auto& among = node == nullptr ? roots_ : node->children;
-        const auto found = among.find(fold(part));
-        if (found == among.end())
-            return nullptr;
-        node = found->second.get();
+        node = step(node, part);
+        if (node == nullptr)
+            break;
     }
     return node;
+}
+
+const Node* Volumes::firstLink(std::string_view path) const {
+    const Node* node = nullptr;
+    for (const std::string_view part : pathParts(path)) {
+        node = step(node, part);
+        if (node == nullptr || node->link)
+            return node;
+    }
+    return nullptr;
+}
+
+UserQuotas* Volumes::userQuotas(std::string_view volume) {
+    const auto found = volumes_.find(fold(volume));
+    return found == volumes_.end() ? nullptr : &found->second.userQuotas;
 }
 
 Node* Volumes::find(std::string_view path) {

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Simulator/Attributes.h"
 #include "Simulator/Identities.h"
 #include "Simulator/Rights.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -37,13 +41,60 @@ private:
     std::unordered_map<const Identity*, std::size_t> positions_;
 };
 
-/// A file or folder; the root folder of a volume has no parent.
+/// Amounts of space are in bytes. Removing a limit sets it to `unlimited`.
+inline constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
+
+/// How much space the files below a folder may take up.
+struct DirectoryQuota {
+    static constexpr std::int64_t notSet = -1; ///< a limit that nobody has ever set
+    std::int64_t limit = notSet;
+    std::int64_t used = 0;
+};
+
+/// Where a link leads, on this server or on another one.
+struct Link {
+    std::string server; ///< its host name, which may be fully qualified
+    std::string volume; ///< without colon
+    std::string path;   ///< below the volume, without backslash in front; "" for the whole volume
+};
+
+/// A file, a folder or a link; the root folder of a volume has no parent.
 struct Node {
     std::string name;
     Node* parent = nullptr;
     std::map<std::string, std::unique_ptr<Node>> children; ///< by folded name
     TrusteeList trustees;
     Mask filter = right::all; ///< inherited rights filter
+    AttributeSet attributes = 0;
+    std::string owner; ///< id of an identity, which may be gone; "" for the parent's owner
+    DirectoryQuota quota;
+    std::optional<Link> link; ///< set: what is asked about here and below is answered where it leads
+};
+
+/// The id of the owner of a node, or of the nearest folder above that has one; "" when none has.
+std::string ownerOf(const Node& node);
+
+/// The path by which the server calls a node: VOL1:\ for a root, VOL1:\dir\file otherwise.
+std::string pathOf(const Node& node);
+
+/// How much space of a volume a user may take up.
+struct UserQuota {
+    const Identity* user = nullptr;
+    std::int64_t limit = unlimited;
+    std::int64_t used = 0;
+};
+
+/// The quotas of a volume's users in the order in which they were set up.
+class UserQuotas {
+public:
+    /// The user's quota, made when there is none yet.
+    UserQuota& of(const Identity& user);
+
+    const std::deque<UserQuota>& entries() const { return entries_; }
+
+private:
+    std::deque<UserQuota> entries_;
+    std::unordered_map<const Identity*, UserQuota*> byUser_;
 };
 
 /// The rights that the identity has at a node by itself, groups not counted: its entry there, or
@@ -65,8 +116,20 @@ public:
     Node* find(std::string_view path);
     const Node* find(std::string_view path) const;
 
+    /// The first link on the way to `path`, which may be the node there; null when there is none.
+    const Node* firstLink(std::string_view path) const;
+
+    /// Null when there is no volume of that name (VOL1, without colon).
+    UserQuotas* userQuotas(std::string_view volume);
+
 private:
-    std::map<std::string, std::unique_ptr<Node>> roots_; ///< by folded volume name
+    struct Volume {
+        std::unique_ptr<Node> root;
+        UserQuotas userQuotas;
+    };
+    const Node* step(const Node* from, std::string_view part) const;
+
+    std::map<std::string, Volume> volumes_; ///< by folded name
 };
 
 } // namespace quorvan::simulator

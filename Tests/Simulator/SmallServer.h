@@ -3,7 +3,9 @@
 
 #include "Simulator/KelpServer.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace quorvan::simulator {
 
@@ -80,6 +82,102 @@ inline std::string listInTree() {
         "</fileName><symLink/><nameSpace>LONG</nameSpace><typeOfInfo><rightsInfo/><objectClass/></typeOfInfo>"
         "</getFileInfo></fileInfo></fileRequest>");
 }
+
+inline std::string fileInfo(const std::string& operation) {
+    return admin("<fileRequest><fileInfo>" + operation + "</fileInfo></fileRequest>");
+}
+
+/// Owner ("idInfo"), attributes ("standardInfo") or quota ("directoryQuotaInfo") of a path.
+inline std::string getInfo(const std::string& type, bool inDomain = true,
+                           const std::string& path = SmallServer::folder) {
+    return fileInfo(std::string("<getFileInfo>") + (inDomain ? "<adOnly/>" : "") + "<idOnly/><fileName>" +
+                    path + "</fileName><symLink/><nameSpace>LONG</nameSpace><typeOfInfo><" + type +
+                    "/></typeOfInfo></getFileInfo>");
+}
+
+inline std::string setInfo(const std::string& change) {
+    return fileInfo(std::string("<setFileInfo><nameSpace>LONG</nameSpace><fileName>") + SmallServer::folder +
+                    "</fileName><symLink/>" + change + "</setFileInfo>");
+}
+
+inline std::string setOwner(const std::string& id, bool inDomain = true) {
+    return setInfo(std::string("<idInfo><creatorID") + (inDomain ? " type = \"adID\"" : "") + ">" + id +
+                   "</creatorID></idInfo>");
+}
+
+/// Switches on these of the eight attributes, and announces them in front of all.
+inline std::string setAttributes(const std::vector<std::string>& on) {
+    std::string tags;
+    for (const std::string& name : on)
+        tags += "<" + name + " enabled=\"yes\"/>";
+    for (const char* name : {"readOnly", "hidden", "archive", "immediatePurge", "renameInhibit",
+                             "deleteInhibit", "compressImmediate", "doNotCompress"}) {
+        const bool isOn = std::find(on.begin(), on.end(), name) != on.end();
+        tags.append("<").append(name).append(isOn ? " enabled=\"yes\"/>" : " enabled=\"no\"/>");
+    }
+    return setInfo("<attributes>" + tags + "</attributes>");
+}
+
+inline std::string setDirectoryQuota(const std::string& amount) {
+    return admin(std::string("<fileRequest><directoryQuotas><addQuota><fileName>") + SmallServer::folder +
+                 "</fileName><quotaAmount>" + amount +
+                 "</quotaAmount></addQuota></directoryQuotas></fileRequest>");
+}
+
+inline std::string allEffectiveRights(bool inDomain) {
+    return fileInfo(std::string("<getAllEffectiveRights>") + (inDomain ? "<adOnly/>" : "") + "<fileName>" +
+                    SmallServer::folder + "</fileName><symLink/>" + (inDomain ? "" : "<objectClass/>") +
+                    "</getAllEffectiveRights>");
+}
+
+inline std::string effectiveRightsOf(const std::string& id, bool inDomain = true) {
+    return admin(commandStream + "<fileRequest><fileInfo><getEffectiveRightsByID" +
+                 (inDomain ? " type=\"adID\"><adOnly/><idOnly/>" : ">") + "<userID>" + id +
+                 "</userID><fileName>" + SmallServer::folder +
+                 "</fileName><nameSpace>LONG</nameSpace><symLink/></getEffectiveRightsByID></fileInfo>"
+                 "</fileRequest>");
+}
+
+inline std::string rightsOfAllPaths(const std::string& path, bool inDomain = true) {
+    return admin(std::string("<rightsRequest>") + (inDomain ? "<adOnly/>" : "") + "<fileName>" + path +
+                 "</fileName><sharePath>ss</sharePath><shareName>ss</shareName><allPaths/>"
+                 "<nameSpace>LONG</nameSpace><typeOfInfo><rightsInfo/><standardInfo/>" +
+                 (inDomain ? "" : "<objectClass/>") + "</typeOfInfo></rightsRequest>");
+}
+
+inline std::string userQuotaRequest(const std::string& inner) {
+    return admin("<userRequest><userQuota>" + inner + "</userQuota></userRequest>");
+}
+
+inline std::string browseQuotas(bool inDomain, const std::string& volume = "VOL1") {
+    return userQuotaRequest(std::string("<browse>") + (inDomain ? "<adOnly/><idOnly/>" : "") +
+                            "<volumeName>" + volume + "</volumeName></browse>");
+}
+
+inline std::string setQuota(const std::string& id, const std::string& amount, bool inDomain = true,
+                            const std::string& volume = "VOL1") {
+    return std::string("<set") + (inDomain ? " type=\"adID\"" : "") + "><volumeName>" + volume +
+           "</volumeName><id>" + id + "</id><quota>" + amount + "</quota></set>";
+}
+
+inline std::string searchTree(const std::string& base) {
+    return commandStream + "<trellRequest><trellObject><trellSearch><trellBaseDN>" + base +
+           "</trellBaseDN></trellSearch></trellObject></trellRequest>";
+}
+
+inline std::string getAttribute(const std::string& name, const std::string& context,
+                                const std::string& attribute) {
+    return admin("<trellRequest><trellObject><getAttribute><name>" + name + "</name><context>" + context +
+                 "</context><attributeName>" + attribute +
+                 "</attributeName></getAttribute></trellObject></trellRequest>");
+}
+
+inline std::string readLink(const std::string& path) {
+    return "<zelSmbGetInfo><readLink><pathName>" + path + "</pathName></readLink></zelSmbGetInfo>";
+}
+
+inline constexpr const char* treePipe = "/Manage_KELP/TRELL.cmd";
+inline constexpr const char* quotaPipe = "/Manage_KELP/user.cmd";
 
 inline const std::string userTypeRequest = "<zelSmbGetInfo><userType/></zelSmbGetInfo>";
 
