@@ -32,11 +32,11 @@ void fillIn(char* target, int size, std::string_view text) {
 
 } // namespace
 
-SmbSession::SmbSession(SmbUrl share, std::string user, std::string password,
+SmbSession::SmbSession(SmbUrl share, std::string user, const std::string& password,
                        std::chrono::milliseconds timeLimit)
     : share_(std::move(share))
     , user_(std::move(user))
-    , password_(std::move(password))
+    , password_(password)
     , timeLimit_(timeLimit) {}
 
 SmbSession::~SmbSession() {
@@ -79,7 +79,7 @@ int SmbSession::connect() {
     // look at in the root of a share for pipes.
     if (stat("") == 0 || connection_ != nullptr)
         return 0;
-    return errno;
+    return errno != 0 ? errno : EIO;
 }
 
 int SmbSession::stat(const std::string& path) {

@@ -14,7 +14,8 @@ namespace quorvan::platform {
 /// One authenticated connection to one share. Functions fail with -1 or null, and errno.
 class SmbSession {
 public:
-    SmbSession(SmbUrl share, std::string user, std::string password, std::chrono::milliseconds timeLimit);
+    SmbSession(SmbUrl share, std::string user, const std::string& password,
+               std::chrono::milliseconds timeLimit);
     ~SmbSession();
     SmbSession(const SmbSession&) = delete;
     SmbSession& operator=(const SmbSession&) = delete;
