@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Simulator/Conversation.h"
 
-#include "Simulator/DemoData.h"
 #include "Simulator/Text.h"
 
-#include <algorithm>
 #include <cerrno>
-#include <charconv>
 #include <chrono>
 #include <map>
 #include <thread>
@@ -15,33 +12,11 @@ namespace quorvan::simulator {
 
 namespace {
 
-constexpr std::size_t mostManyTrustees = 1000000;
-
 ProtocolAnswer failure(int error) {
     return {error, {}, false};
 }
 ProtocolAnswer success(std::string payload = {}) {
     return {0, std::move(payload), false};
-}
-
-/// A decimal number, or with 0x a hexadecimal one.
-template <class Number>
-std::optional<Number> number(std::string_view text) {
-    const bool hexadecimal = text.substr(0, 2) == "0x";
-    if (hexadecimal)
-        text.remove_prefix(2);
-    Number value = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, value, hexadecimal ? 16 : 10);
-    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
-}
-
-std::string maskText(Mask mask) {
-    constexpr const char* digits = "0123456789ABCDEF";
-    std::string text = "0x";
-    for (int shift = 12; shift >= 0; shift -= 4)
-        text += digits[(mask >> shift) & 0xF];
-    return text;
 }
 
 template <class Number, class Field>
@@ -78,23 +53,10 @@ bool setMisbehaviour(Misbehaviour& wrong, std::string_view name, std::string_vie
 
 const std::vector<Conversation::Command>& Conversation::commands() {
     static const std::vector<Command> table{
-        {"open", 3, &Conversation::open},
-        {"write", 2, &Conversation::write},
-        {"read", 1, &Conversation::read},
-        {"close", 0, &Conversation::close},
-        {"mount", 3, &Conversation::mount},
-        {"accounts", 0, &Conversation::accounts},
-        {"trustees", 1, &Conversation::trustees},
-        {"rights", 2, &Conversation::rights},
-        {"filter", 1, &Conversation::filter},
-        {"set-trustee", 3, &Conversation::setTrustee},
-        {"remove-trustee", 2, &Conversation::removeTrustee},
-        {"set-filter", 2, &Conversation::setFilter},
-        {"add-many", 2, &Conversation::addMany},
-        {"requests", 0, &Conversation::requests},
-        {"last-request", 0, &Conversation::lastRequest},
-        {"misbehave", 2, &Conversation::misbehave},
-        {"behave", 0, &Conversation::behave},
+        {"open", 3, &Conversation::open},           {"write", 2, &Conversation::write},
+        {"read", 1, &Conversation::read},           {"close", 0, &Conversation::close},
+        {"mount", 3, &Conversation::mount},         {"accounts", 0, &Conversation::accounts},
+        {"misbehave", 2, &Conversation::misbehave}, {"behave", 0, &Conversation::behave},
         {"quit", 0, &Conversation::quit},
     };
     return table;
@@ -115,13 +77,12 @@ ProtocolAnswer Conversation::handle(std::string_view line, std::string_view payl
     Arguments words = split(line, '\t');
     const std::string_view name = words.front();
     words.erase(words.begin());
+    const std::lock_guard lock(host_.mutex);
     for (const Command& command : commands()) {
-        if (command.name == name && command.arguments == words.size()) {
-            const std::lock_guard lock(host_.mutex);
+        if (command.name == name && command.arguments == words.size())
             return (this->*command.run)(words, payload);
-        }
     }
-    return failure(EINVAL);
+    return runModelCommand(host_.server, name, words).value_or(failure(EINVAL));
 }
 
 // Pipe files
@@ -191,74 +152,7 @@ ProtocolAnswer Conversation::accounts(const Arguments&, std::string_view) {
     return success(text);
 }
 
-// The model
-
-ProtocolAnswer Conversation::trustees(const Arguments& arguments, std::string_view) {
-    if (host_.server.volumes().find(arguments[0]) == nullptr)
-        return failure(ENOENT);
-    std::string text;
-    for (const TrusteeEntry& entry : host_.server.trustees(arguments[0]))
-        text += entry.identity->id + "\t" + maskText(entry.rights) + "\t" + entry.identity->name + "\n";
-    return success(text);
-}
-
-ProtocolAnswer Conversation::rights(const Arguments& arguments, std::string_view) {
-    const Identity* identity = host_.server.identities().findById(arguments[1]);
-    if (identity == nullptr || host_.server.volumes().find(arguments[0]) == nullptr)
-        return failure(ENOENT);
-    const Mask mask = host_.server.rightsOf(arguments[0], *identity);
-    return success(maskText(mask) + " " + rightNames(mask));
-}
-
-ProtocolAnswer Conversation::filter(const Arguments& arguments, std::string_view) {
-    if (host_.server.volumes().find(arguments[0]) == nullptr)
-        return failure(ENOENT);
-    const Mask mask = host_.server.filter(arguments[0]);
-    return success(maskText(mask) + " " + rightNames(mask));
-}
-
-ProtocolAnswer Conversation::setTrustee(const Arguments& arguments, std::string_view) {
-    const Identity* identity = host_.server.identities().findById(arguments[1]);
-    const auto mask = number<Mask>(arguments[2]);
-    if (!mask || host_.server.volumes().make(arguments[0]) == nullptr)
-        return failure(EINVAL);
-    if (identity == nullptr)
-        return failure(ENOENT);
-    host_.server.setTrustee(arguments[0], *identity, *mask);
-    return success();
-}
-
-ProtocolAnswer Conversation::removeTrustee(const Arguments& arguments, std::string_view) {
-    const Identity* identity = host_.server.identities().findById(arguments[1]);
-    Node* node = host_.server.volumes().find(arguments[0]);
-    if (identity == nullptr || node == nullptr || !node->trustees.remove(*identity))
-        return failure(ENOENT);
-    return success();
-}
-
-ProtocolAnswer Conversation::setFilter(const Arguments& arguments, std::string_view) {
-    const auto mask = number<Mask>(arguments[1]);
-    if (!mask || host_.server.volumes().make(arguments[0]) == nullptr)
-        return failure(EINVAL);
-    host_.server.setFilter(arguments[0], *mask);
-    return success();
-}
-
-ProtocolAnswer Conversation::addMany(const Arguments& arguments, std::string_view) {
-    const auto count = number<std::size_t>(arguments[1]);
-    if (!count || *count > mostManyTrustees || host_.server.volumes().make(arguments[0]) == nullptr)
-        return failure(EINVAL);
-    addManyTrustees(host_.server, arguments[0], *count);
-    return success();
-}
-
-ProtocolAnswer Conversation::requests(const Arguments&, std::string_view) {
-    return success(std::to_string(host_.server.requestCount()));
-}
-
-ProtocolAnswer Conversation::lastRequest(const Arguments&, std::string_view) {
-    return success(host_.server.lastRequest());
-}
+// The server as a whole
 
 ProtocolAnswer Conversation::misbehave(const Arguments& arguments, std::string_view) {
     return failure(setMisbehaviour(host_.server.misbehaviour, arguments[0], arguments[1]) ? 0 : EINVAL);

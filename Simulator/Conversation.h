@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Simulator/ModelCommands.h"
 #include "Simulator/PipeSession.h"
 
 #include <functional>
@@ -19,12 +20,6 @@ struct ConversationHost {
     std::mutex mutex{};         ///< held while the server is used
 };
 
-struct ProtocolAnswer {
-    int error = 0; ///< an errno value, or 0
-    std::string payload;
-    bool hangUp = false; ///< close the connection instead of answering
-};
-
 /// One client's side of the line protocol (PROTOCOL.md), without its transport.
 class Conversation {
 public:
@@ -40,7 +35,6 @@ public:
     static std::string format(const ProtocolAnswer& answer);
 
 private:
-    using Arguments = std::vector<std::string_view>;
     struct Command {
         std::string_view name;
         std::size_t arguments;
@@ -54,15 +48,6 @@ private:
     ProtocolAnswer close(const Arguments& arguments, std::string_view payload);
     ProtocolAnswer mount(const Arguments& arguments, std::string_view payload);
     ProtocolAnswer accounts(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer trustees(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer rights(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer filter(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer setTrustee(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer removeTrustee(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer setFilter(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer addMany(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer requests(const Arguments& arguments, std::string_view payload);
-    ProtocolAnswer lastRequest(const Arguments& arguments, std::string_view payload);
     ProtocolAnswer misbehave(const Arguments& arguments, std::string_view payload);
     ProtocolAnswer behave(const Arguments& arguments, std::string_view payload);
     ProtocolAnswer quit(const Arguments& arguments, std::string_view payload);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Simulator/DemoData.h"
 
-#include <map>
+#include "Simulator/DemoIdentities.h"
 
 namespace quorvan::simulator {
 
@@ -13,66 +13,11 @@ constexpr Mask author = reader | right::write | right::create;
 constexpr Mask editor = author | right::modify | right::erase;
 constexpr Mask keeper = editor | right::accessControl;
 
-struct DemoIdentity {
-    const char* name;
-    const char* unit;   ///< container in the tree; null in Active Directory
-    const char* groups; ///< names separated by ", "; "" for none
-};
-
-constexpr DemoIdentity demoGroups[] = {
-    {"Festival Team", nullptr, ""},
-    {"Stage & Lighting", nullptr, "Festival Team"},
-    {"Ticketing", nullptr, "Festival Team"},
-    {"Finance", nullptr, ""},
-    {"Auditors", nullptr, ""},
-    {"Print Production", nullptr, ""},
-    {"Works Council", nullptr, ""},
-    {"External Partners", nullptr, ""},
-    {"Redaktion", "Verlag", ""},
-    {"Lektorat", "Verlag", "Redaktion"},
-    {"Archivare", "Archiv", ""},
-    {"Förderverein", "Gäste", ""},
-    {"Praktikanten", "Verlag", ""},
-    {"Hausmeister", "Gebäude", ""},
-};
-
-constexpr DemoIdentity demoUsers[] = {
-    {demo::supervisor, nullptr, ""},
-    {demo::accessControl, nullptr, "Festival Team"},
-    {demo::readOnly, nullptr, ""},
-    {"jürgen.weißmann", nullptr, "Stage & Lighting"},
-    {"anaïs.delorme", nullptr, "Ticketing"},
-    {"søren.kjærholt", nullptr, "Stage & Lighting, Works Council"},
-    {"maría.quintanar", nullptr, "Finance"},
-    {"łukasz.wronka", nullptr, "Print Production"},
-    {"oliver.pembrook", nullptr, "Finance, Auditors"},
-    {"priya.ramanath", nullptr, "Ticketing, Works Council"},
-    {"noémie.valcourt", nullptr, "Print Production"},
-    {"björn.åkesund", nullptr, "Auditors"},
-    {"çağla.demirsoy", nullptr, "External Partners"},
-    {"eoghan.ó-murchú", nullptr, "Stage & Lighting"},
-    {"hana.dvořáčková", nullptr, "Finance"},
-    {"Renate Vogt", "Leitung", ""},
-    {"Pavel Novák", "Leitung", "Redaktion"},
-    {"Zoë Marchetti", "Archiv", "Archivare"},
-    {"Käthe Brüning", "Verlag", "Lektorat"},
-    {"Étienne Marchand", "Verlag", "Redaktion"},
-    {"Ingeborg Ødemark", "Archiv", "Archivare"},
-    {"Jörg Süßkind", "Gebäude", "Hausmeister"},
-    {"Ana Lúcia Teixeira", "Verlag", "Lektorat, Förderverein"},
-    {"Mikołaj Żuraw", "Verlag", "Praktikanten"},
-    {"Ümit Yıldız", "Gebäude", "Hausmeister"},
-    {"Françoise d'Aubigny", "Gäste", "Förderverein"},
-    {"Tōru Shirakawa", "Archiv", "Archivare, Praktikanten"},
-};
-
 struct DemoTrustee {
     const char* path;
     const char* name;
     Mask rights;
 };
-
-constexpr const char* everyone = "Everyone";
 
 constexpr DemoTrustee demoTrustees[] = {
     {"VOL1:\\Projects", "Festival Team", reader},
@@ -83,7 +28,7 @@ constexpr DemoTrustee demoTrustees[] = {
     {demo::selection, "Finance", reader},
     {demo::selection, "Auditors", right::read | right::fileScan | right::accessControl},
     {demo::selection, "External Partners", dropBox},
-    {demo::selection, everyone, right::fileScan},
+    {demo::selection, demoEveryone, right::fileScan},
     {demo::selection, "jürgen.weißmann", keeper},
     {demo::selection, "søren.kjærholt", right::supervisor},
     {demo::selection, "anaïs.delorme", author},
@@ -111,10 +56,23 @@ constexpr DemoTrustee demoTrustees[] = {
     {"VOL1:\\Personnel", "Renate Vogt", right::supervisor},
     {"VOL1:\\Archiv", "Archivare", editor},
     {"VOL1:\\Archiv", "Ingeborg Ødemark", keeper},
-    {"VOL1:\\Public", everyone, reader},
+    {"VOL1:\\Public", demoEveryone, reader},
     {"VOL1:\\Public", "Förderverein", reader},
-    {"VOL1:\\Public\\Briefkasten", everyone, dropBox},
+    {"VOL1:\\Public\\Briefkasten", demoEveryone, dropBox},
     {"VOL1:\\Public\\Briefkasten", "Hausmeister", editor},
+};
+
+constexpr DemoTrustee secondTrustees[] = {
+    {demo::linkTarget, "External Partners", author},
+    {demo::linkTarget, "Festival Team", reader},
+    {demo::linkTarget, "çağla.demirsoy", editor},
+    {demo::linkTarget, "noémie.valcourt", keeper},
+    {demo::linkTarget, "Förderverein", reader},
+    {demo::linkTarget, "Ana Lúcia Teixeira", right::supervisor},
+    {"DATA:\\Festival Partners\\Contracts", "Finance", editor},
+    {"DATA:\\Festival Partners\\Contracts", "External Partners", right::fileScan},
+    {"DATA:\\Festival Partners\\Plakatentwürfe", "Print Production", editor},
+    {"DATA:\\Backup", "Auditors", reader},
 };
 
 struct DemoFilter {
@@ -142,52 +100,12 @@ constexpr const char* demoPaths[] = {
     "VOL1:\\Home\\jürgen.weißmann",
 };
 
-std::string sid(std::size_t relative) {
-    return "S-1-5-21-1794301120-902745313-2650418877-" + std::to_string(relative);
-}
-
-/// A GUID that ends in a number.
-std::string guid(std::size_t number) {
-    const std::string digits = std::to_string(number);
-    return "7c1e5a40-93d2-4b6f-8e21-" + std::string(12 - digits.size(), '0') + digits;
-}
-
-using ByName = std::map<std::string, Identity*>;
-
-void addMembership(Identity& member, std::string names, const ByName& known) {
-    while (!names.empty()) {
-        const std::size_t comma = names.find(", ");
-        member.groups.push_back(known.at(names.substr(0, comma)));
-        names.erase(0, comma == std::string::npos ? comma : comma + 2);
-    }
-}
-
-ByName addDemoIdentities(Identities& store) {
-    ByName known;
-    std::size_t number = 1100;
-    for (const DemoIdentity& each : demoGroups) {
-        ++number;
-        known[each.name] = each.unit == nullptr ? &store.addDomainGroup(each.name, sid(number))
-                                                : &store.addTreeGroup(each.name, each.unit, guid(number));
-        addMembership(*known[each.name], each.groups, known);
-    }
-    known[everyone] = &store.addDomainGroup(everyone, "S-1-1-0");
-    for (const DemoIdentity& each : demoUsers) {
-        ++number;
-        known[each.name] = each.unit == nullptr ? &store.addDomainUser(each.name, sid(number))
-                                                : &store.addTreeUser(each.name, each.unit, guid(number));
-        addMembership(*known[each.name], each.groups, known);
-        if (each.unit == nullptr)
-            known[each.name]->groups.push_back(known[everyone]);
-    }
-    return known;
-}
-
-ByName addIdentitiesAndAccounts(KelpServer& server) {
-    ByName known = addDemoIdentities(server.identities());
+/// The accounts have the same rights on the root of every volume.
+DemoNames addIdentitiesAndAccounts(KelpServer& server, const char* root = "VOL1:\\") {
+    DemoNames known = addDemoIdentities(server.identities());
     const auto logIn = [&](const char* user, const char* name, Mask rights) {
         server.addAccount(user, demo::password, *known.at(name));
-        server.setTrustee("VOL1:\\", *known.at(name), rights);
+        server.setTrustee(root, *known.at(name), rights);
     };
     logIn(demo::supervisor, demo::supervisor, right::supervisor);
     logIn(demo::accessControl, demo::accessControl, keeper);
@@ -221,7 +139,7 @@ void addDemoAccounts(KelpServer& server) {
 }
 
 void addDemoData(KelpServer& server) {
-    const ByName known = addIdentitiesAndAccounts(server);
+    const DemoNames known = addIdentitiesAndAccounts(server);
     for (const DemoTrustee& each : demoTrustees)
         server.setTrustee(each.path, *known.at(each.name), each.rights);
     for (const DemoFilter& each : demoFilters)
@@ -230,6 +148,14 @@ void addDemoData(KelpServer& server) {
         server.addPath(path);
     addManyTrustees(server, demo::crowded, 200, IdentityKind::activeDirectory);
     addManyTrustees(server, demo::crowded, 200, IdentityKind::morvane);
+    addDemoProperties(server, known);
+}
+
+void addSecondDemoData(KelpServer& server) {
+    const DemoNames known = addIdentitiesAndAccounts(server, "DATA:\\");
+    for (const DemoTrustee& each : secondTrustees)
+        server.setTrustee(each.path, *known.at(each.name), each.rights);
+    addSecondDemoProperties(server, known);
 }
 
 void addManyTrustees(KelpServer& server, std::string_view path, std::size_t count, IdentityKind kind) {
@@ -245,10 +171,10 @@ void addManyTrustees(KelpServer& server, std::string_view path, std::size_t coun
         name.append(inDomain && !isGroup ? "." : " ").append(pick(familyNames, i)).append(" ");
         name += std::to_string(i);
         const std::size_t number = 100000 + i;
-        const Identity& identity = inDomain ? (isGroup ? store.addDomainGroup(name, sid(number))
-                                                       : store.addDomainUser(name, sid(number)))
-                                            : (isGroup ? store.addTreeGroup(name, "Gäste", guid(number))
-                                                       : store.addTreeUser(name, "Gäste", guid(number)));
+        const Identity& identity = inDomain ? (isGroup ? store.addDomainGroup(name, demoSid(number))
+                                                       : store.addDomainUser(name, demoSid(number)))
+                                            : (isGroup ? store.addTreeGroup(name, "Gäste", demoGuid(number))
+                                                       : store.addTreeUser(name, "Gäste", demoGuid(number)));
         node->trustees.set(identity, manyRights[i % std::size(manyRights)]);
     }
 }

@@ -33,6 +33,23 @@ inline constexpr std::array<const char*, 6> accounts{supervisor,     accessContr
 inline constexpr const char* selection = "VOL1:\\Projects\\Aurora"; ///< a dozen trustees of both kinds
 inline constexpr const char* crowded = "VOL1:\\Projects\\Harbour Festival"; ///< two hundred of either kind
 
+// A second server with the same identities and accounts and a volume DATA. Links of both are named by the
+// path where they lie.
+inline constexpr const char* secondHost = "files2.meridal.example";
+inline constexpr const char* secondAddress = "192.0.2.12";
+inline constexpr const char* link = "VOL1:\\Partners"; ///< leads to the second server
+inline constexpr const char* linkTarget = "DATA:\\Festival Partners";
+inline constexpr const char* linkOnLink = "DATA:\\Festival Partners\\Archive"; ///< leads back to VOL1:\Archiv
+inline constexpr const char* linkOnSameServer = "VOL1:\\Current Project";      ///< leads to the selection
+
+// Folders by their quota, and a file by its owner.
+inline constexpr const char* limitedFolder = selection;
+inline constexpr const char* unlimitedFolder = "VOL1:\\Archiv";
+inline constexpr const char* folderWithoutQuota = "VOL1:\\Projects";
+inline constexpr const char* compressedFile = "VOL1:\\Projects\\Aurora\\Drawings\\Stage plan A0.pdf";
+inline constexpr const char* fileOfNobody = "VOL1:\\Projects\\Aurora\\Concept.odt"; ///< its owner is gone
+inline constexpr std::size_t usersWithQuota = 150; ///< of VOL1, half of them in either directory
+
 // Beside the volume's own domain the directory knows a second forest, and a domain out of reach.
 inline constexpr const char* secondForest = "NORDHAVN";
 inline constexpr std::size_t secondForestUsers = 105;
@@ -45,6 +62,9 @@ inline constexpr const char* unreachableDomain = "FJERNØY";
 /// Fills an empty server with the volume VOL1, the users and groups of both directories, and the
 /// accounts above.
 void addDemoData(KelpServer& server);
+
+/// Fills the second server; it may share the identities of the first.
+void addSecondDemoData(KelpServer& server);
 
 /// The same identities and accounts on a volume VOL1 with no folders, where only the accounts above
 /// are trustees.

@@ -36,6 +36,9 @@ Embedded::Embedded(std::string serverHost, std::string serverAddress)
 Embedded Embedded::demo(const std::string& user, const std::string& path) {
     Embedded world;
     addDemoData(*world.server);
+    world.secondServer = std::make_shared<KelpServer>(world.identities);
+    addSecondDemoData(*world.secondServer);
+    world.network->addServer(world.secondServer, demo::secondHost, demo::secondAddress);
     addDemoForest(*world.identities);
     world.directory->state().unreachable = {demo::unreachableDomain};
     world.logIn(user, demo::password);

@@ -28,8 +28,8 @@ public:
     /// keychain item.
     explicit Embedded(std::string host = demo::host, std::string address = demo::address);
 
-    /// The demo data, `user` (one of demo::accounts) with the mounted volume VOL1, and `path` of it
-    /// (VOL1:\dir\file) selected.
+    /// The demo data on two servers, `user` (one of demo::accounts) with the mounted volume VOL1, and `path`
+    /// of it (VOL1:\dir\file) selected.
     static Embedded demo(const std::string& user = demo::supervisor,
                          const std::string& path = demo::selection);
 
@@ -47,6 +47,7 @@ public:
     std::string address;
     std::shared_ptr<Identities> identities;
     std::shared_ptr<KelpServer> server;
+    std::shared_ptr<KelpServer> secondServer; ///< where links of the demo data lead; null without it
     std::shared_ptr<SimulatedFileSystem> network;
     std::shared_ptr<MemorySharedDefaults> sharedDefaults;
     std::shared_ptr<MemoryKeychain> keychain;

@@ -29,6 +29,11 @@ bool Identity::isGroup() const {
     return folded == "group" || folded == "groupofnames";
 }
 
+bool Identity::isUser() const {
+    const std::string folded = fold(objectClass);
+    return folded == "user" || folded == "inetorgperson";
+}
+
 Identity& Identities::add(Identity identity) {
     const auto known = byId_.find(identity.id);
     if (known != byId_.end())

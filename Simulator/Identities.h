@@ -24,6 +24,7 @@ struct Identity {
     const Identity* container = nullptr; ///< where it lies in the tree; null at the top of it
 
     bool isGroup() const;
+    bool isUser() const;
 };
 
 /// The users and groups of both directories; servers and MemoryDirectory share one.

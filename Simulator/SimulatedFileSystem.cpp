@@ -36,9 +36,11 @@ void SimulatedFileSystem::addServer(std::shared_ptr<KelpServer> server, const st
     servers_.push_back({std::move(server), host, address});
 }
 
-const SimulatedFileSystem::Server* SimulatedFileSystem::findServer(std::string_view hostOrAddress) const {
+const SimulatedFileSystem::Server* SimulatedFileSystem::findServer(std::string_view name) const {
+    const std::string folded = fold(name);
     for (const Server& each : servers_) {
-        if (each.address == hostOrAddress || fold(each.host) == fold(hostOrAddress))
+        const std::string host = fold(each.host);
+        if (each.address == name || host == folded || host.substr(0, host.find('.')) == folded)
             return &each;
     }
     return nullptr;

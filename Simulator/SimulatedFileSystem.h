@@ -20,8 +20,8 @@ namespace quorvan::simulator {
 /// EHOSTUNREACH, unknown shares and files ENOENT, closed descriptors EBADF.
 class SimulatedFileSystem : public platform::NetworkFileSystem {
 public:
-    /// Makes a server known under a host name and a dotted address (case does not count); either
-    /// serves in URLs.
+    /// Makes a server known under a host name, the first label of that name, and a dotted address (case does
+    /// not count); any of them serves in URLs.
     void addServer(std::shared_ptr<KelpServer> server, const std::string& host, const std::string& address);
 
     std::string resolve(const std::string& host) override;
@@ -76,7 +76,7 @@ private:
         off_t offset = 0;
     };
 
-    const Server* findServer(std::string_view hostOrAddress) const;
+    const Server* findServer(std::string_view name) const;
     std::string freeMountPoint(const std::string& share) const;
     const Mount* findMount(const std::string& path, std::string& rest) const;
     OpenFile* findFile(int descriptor);

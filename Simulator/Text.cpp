@@ -3,7 +3,6 @@
 
 #include <cstdlib>
 #include <memory>
-#include <optional>
 
 #include <utf8proc.h>
 

@@ -15,16 +15,27 @@
 namespace {
 
 struct Options {
-    bool empty = false;
+    void (*addData)(quorvan::simulator::KelpServer&) = quorvan::simulator::addDemoData;
     std::uint16_t port = 0;
 };
+
+/// Null for a name that is none of the three.
+auto dataNamed(std::string_view name) -> decltype(Options::addData) {
+    if (name == "demo")
+        return quorvan::simulator::addDemoData;
+    if (name == "second")
+        return quorvan::simulator::addSecondDemoData;
+    return name == "accounts" ? quorvan::simulator::addDemoAccounts : nullptr;
+}
 
 std::optional<Options> parse(int count, char** arguments) {
     Options options;
     for (int i = 1; i < count; ++i) {
         const std::string_view argument = arguments[i];
-        if (argument == "--empty") {
-            options.empty = true;
+        if (argument == "--data" && i + 1 < count) {
+            options.addData = dataNamed(arguments[++i]);
+            if (options.addData == nullptr)
+                return std::nullopt;
         } else if (argument == "--port" && i + 1 < count) {
             const std::string_view text = arguments[++i];
             const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), options.port);
@@ -42,7 +53,7 @@ std::optional<Options> parse(int count, char** arguments) {
 int main(int argc, char** argv) {
     const auto options = parse(argc, argv);
     if (!options) {
-        std::fprintf(stderr, "usage: kelp-server [--empty] [--port N]\n");
+        std::fprintf(stderr, "usage: kelp-server [--data demo|second|accounts] [--port N]\n");
         return 2;
     }
     // Blocked before any thread starts, so that only the sigwait below sees them.
@@ -53,10 +64,7 @@ int main(int argc, char** argv) {
     pthread_sigmask(SIG_BLOCK, &ending, nullptr);
 
     quorvan::simulator::KelpServer server;
-    if (options->empty)
-        addDemoAccounts(server);
-    else
-        addDemoData(server);
+    options->addData(server);
     quorvan::simulator::SocketServer sockets(server, [] { ::kill(::getpid(), SIGTERM); });
     if (!sockets.start(options->port)) {
         std::fprintf(stderr, "kelp-server: cannot listen on 127.0.0.1 port %u: %s\n", unsigned{options->port},

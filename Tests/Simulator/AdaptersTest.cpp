@@ -177,6 +177,20 @@ TEST(SimulatedFileSystem, TellsServersApart) {
     EXPECT_EQ(world.server->requestCount(), 0U);
 }
 
+TEST(SimulatedFileSystem, FindsServersByTheFirstLabelOfTheirName) {
+    Embedded world = Embedded::demo();
+    EXPECT_EQ(world.network->resolve("files2"), demo::secondAddress);
+    EXPECT_EQ(world.network->resolve("FILES"), demo::address);
+    for (const char* none : {"192", "meridal", "files3", ""})
+        EXPECT_EQ(world.network->resolve(none), "") << none;
+    EXPECT_EQ(world.network->mount("smb://files2/IPC$", demo::supervisor, demo::password, {}).error, 0);
+    const int pipe = world.network->open("/Volumes/IPC$/ZelSmbPipe");
+    EXPECT_GT(world.network->write(pipe, userTypeRequest.data(), userTypeRequest.size()), 0);
+    char buffer[4096];
+    EXPECT_GT(world.network->read(pipe, buffer, sizeof buffer), 0);
+    EXPECT_EQ(world.secondServer->requestCount(), 1U);
+}
+
 TEST(Embedded, HandsOverSelectionAndCredentials) {
     Embedded world = Embedded::demo(demo::readOnlyTree, "VOL1:\\Archiv\\Größere Formate");
     const platform::Services services = world.services();
@@ -214,10 +228,54 @@ TEST(DemoData, GivesItsAccountsWhatTheirNamesSay) {
                 << path << user;
     }
     EXPECT_EQ(world.server->trustees(demo::crowded).size(), 400U);
+    EXPECT_EQ(world.secondServer->rightsOf(demo::linkTarget,
+                                           *world.secondServer->findAccount(demo::readOnly)->identity),
+              0x041);
     addManyTrustees(*world.server, "VOL1:\\Many", 100000);
     const std::string many = "VOL1:\\Many";
     EXPECT_EQ(world.server->trustees(many).size(), 100000U);
     EXPECT_NE(world.server->trustees(many)[99999].identity->id, world.server->trustees(many)[0].identity->id);
+}
+
+TEST(DemoData, HasLinksThatLeadSomewhere) {
+    Embedded world = Embedded::demo();
+    const struct {
+        KelpServer& server;
+        const char* path;
+        KelpServer& target;
+    } links[] = {{*world.server, demo::link, *world.secondServer},
+                 {*world.server, demo::linkOnSameServer, *world.server},
+                 {*world.secondServer, demo::linkOnLink, *world.server}};
+    for (const auto& [server, path, target] : links) {
+        const Link link = server.volumes().find(path)->link.value();
+        EXPECT_NE(target.volumes().find(link.volume + ":\\" + link.path), nullptr) << path;
+        EXPECT_EQ(target.volumes().firstLink(link.volume + ":\\" + link.path), nullptr) << path;
+        EXPECT_EQ(link.server, &target == world.server.get() ? demo::host : demo::secondHost);
+    }
+}
+
+TEST(DemoData, HasEveryKindOfOwnerAttributeAndQuota) {
+    Embedded world = Embedded::demo();
+    Volumes& volumes = world.server->volumes();
+    EXPECT_EQ(world.identities->findById(ownerOf(*volumes.find(demo::fileOfNobody))), nullptr);
+    EXPECT_EQ(ownerOf(*volumes.find("VOL1:\\Public")),
+              world.server->findAccount(demo::supervisor)->identity->id);
+    EXPECT_NE(volumes.find(demo::compressedFile)->attributes & attribute::compressed, 0);
+    const DirectoryQuota& limited = volumes.find(demo::limitedFolder)->quota;
+    EXPECT_GT(limited.limit, limited.used);
+    EXPECT_EQ(volumes.find(demo::unlimitedFolder)->quota.limit, unlimited);
+    EXPECT_EQ(volumes.find(demo::folderWithoutQuota)->quota.limit, DirectoryQuota::notSet);
+
+    const auto& quotas = volumes.userQuotas("VOL1")->entries();
+    const auto count = [&](auto&& matches) { return std::count_if(quotas.begin(), quotas.end(), matches); };
+    EXPECT_EQ(count([](const UserQuota& each) { return each.limit != unlimited; }), 150);
+    EXPECT_EQ(count([](const UserQuota& each) { return each.user->kind == IdentityKind::morvane; }), 75);
+    EXPECT_GE(count([](const UserQuota& each) { return each.used > each.limit; }), 10);
+
+    KelpServer alone; // the second server by itself has the same identities
+    addSecondDemoData(alone);
+    for (const Identity& each : alone.identities().all())
+        EXPECT_EQ(world.identities->findById(each.id)->groups.size(), each.groups.size()) << each.name;
 }
 
 } // namespace

@@ -115,6 +115,22 @@ TEST(Protocol, ShowsAndChangesTheModel) {
     EXPECT_EQ(client.ask("rights|VOL1:\\New Folder|" + sid), "0x0000 ");
     EXPECT_EQ(client.ask("add-many|VOL1:\\New Folder|3"), "");
     EXPECT_EQ(served.server.trustees("VOL1:\\New Folder").size(), 3U);
+    const std::pair<std::string, std::string> properties[] = {
+        {"set-owner|VOL1:\\Extra|S-1-5-21-9", ""},
+        {"owner|VOL1:\\Extra", "S-1-5-21-9"},
+        {"set-attributes|VOL1:\\Extra|hidden archive", ""},
+        {"attributes|VOL1:\\Extra", "hidden archive"},
+        {"set-attributes|VOL1:\\Extra|", ""},
+        {"attributes|VOL1:\\Extra", ""},
+        {"quota|VOL1:\\Extra", "-1 0"},
+        {"set-quota|VOL1:\\Extra|9223372036854775807|512", ""},
+        {"quota|VOL1:\\Extra", "9223372036854775807 512"},
+        {"set-user-quota|VOL1|" + sid + "|5|7", ""},
+        {"set-link|VOL1:\\Away|localhost|DATA|a\\b", ""}};
+    for (const auto& [line, expected] : properties)
+        EXPECT_EQ(client.ask(line), expected) << line;
+    EXPECT_THAT(client.ask("user-quotas|VOL1"), HasSubstr(sid + "\t5\t7\tlea.fournier\n"));
+    EXPECT_EQ(served.server.volumes().find("VOL1:\\Away")->link.value().path, "a\\b");
     EXPECT_THAT(client.ask("accounts"), HasSubstr("rvogt\tkelp\tMorvane\n"));
     EXPECT_EQ(client.ask("mount|rvogt|kelp|IPC$"), "");
     EXPECT_EQ(client.ask("mount|rvogt|x|IPC$"), "error 13\n");
@@ -136,6 +152,10 @@ TEST(Protocol, RefusesWhatItDoesNotKnow) {
         {"set-trustee|no path|S-0|1", "error 22\n"},
         {"set-filter|VOL1:\\|65536", "error 22\n"},
         {"misbehave|delay|soon", "error 22\n"},
+        {"set-attributes|VOL1:\\|visible", "error 22\n"},
+        {"set-quota|VOL1:\\|1|x", "error 22\n"},
+        {"quota|VOL1:\\nowhere", "error 2\n"},
+        {"user-quotas|VOL9", "error 2\n"},
     };
     for (const auto& [line, expected] : cases)
         EXPECT_EQ(client.ask(line), expected) << line;
