@@ -38,7 +38,6 @@ void RightsTabViewController::buildControls() {
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
 
-    addBtn->setToolTip(L("Add_Tip_Label"));
     removeBtn->setToolTip(L("Remove_Tip_Label"));
     revertBtn->setToolTip(L("Revert_Tip_Label"));
     applyBtn->setToolTip(L("Apply_Tip_Label"));

@@ -147,6 +147,7 @@ void RightsTabViewController::setTabState() {
 
 void RightsTabViewController::setAddEnabled(bool enabled) {
     addBtn->setEnabled(enabled && identityBrowsersExist());
+    addBtn->setToolTip(L(identityBrowsersExist() ? "Add_Tip_Label" : "Add_Follows_Label"));
 }
 
 void RightsTabViewController::setChangesEnabled(bool enabled) {

@@ -287,6 +287,10 @@
     <source></source>
     <translation>Choose users and groups that become trustees of this path</translation>
   </message>
+  <message id="Add_Follows_Label">
+    <source></source>
+    <translation>Choosing users and groups follows in a later version</translation>
+  </message>
   <message id="Remove_title">
     <source></source>
     <translation>Re&amp;move</translation>

@@ -17,6 +17,7 @@ public:
     static QRect boxArea(const QRect& cell, const QWidget* widget);
 
     bool isPressed() const { return pressed_.isValid(); }
+    void forgetPress() { pressed_ = QPersistentModelIndex(); }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;

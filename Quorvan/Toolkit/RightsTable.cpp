@@ -187,6 +187,13 @@ void RightsTable::mouseMoveEvent(QMouseEvent* event) {
         QTableView::mouseMoveEvent(event);
 }
 
+/// A button that is let go beside its box clicks nothing, and no box hears of it.
+void RightsTable::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    boxes_->forgetPress();
+    viewport()->update();
+}
+
 void RightsTable::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     if (model_->rowCount() > 0 || emptyText_.isEmpty())
