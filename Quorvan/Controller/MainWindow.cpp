@@ -3,6 +3,8 @@
 
 #include "Quorvan/Controller/ContainerViewController.h"
 
+#include <QScreen>
+
 namespace quorvan {
 
 MainWindow::MainWindow()
@@ -16,7 +18,7 @@ void MainWindow::load() {
 
 void MainWindow::present() {
     container->beginAppearing();
-    resize(sizeHint());
+    resize(sizeHint().boundedTo(screen()->availableSize()));
     show();
     container->endAppearing();
 }

@@ -307,6 +307,10 @@ TEST_F(MainWindowTest, KeepsAPageThatIsTooLargeOnTheScreen) {
     click(options().SettingView);
     EXPECT_EQ(window->frameGeometry().width(), room.width());
     EXPECT_TRUE(room.contains(window->frameGeometry()));
+
+    Storyboard::named("Main").add("optionsViewController", [] { return new HugePage; });
+    openWindow();
+    EXPECT_LE(window->width(), room.width());
 }
 
 } // namespace
