@@ -100,7 +100,7 @@ std::string ServerDetails::getFormattedPath(const std::string& path) {
     if (formatted.find('/') == std::string::npos)
         return formatted + ":\\";
     std::replace(formatted.begin(), formatted.end(), '/', '\\');
-    return formatted.insert(formatted.find('\\'), ":");
+    return formatted.insert(formatted.find('\\'), 1, ':');
 }
 
 void ServerDetails::getKeychainCred() {

@@ -11,13 +11,19 @@ constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
 
 /// How many bytes at the start of `bytes` are ASCII.
 std::size_t asciiPrefix(std::string_view bytes) {
-    constexpr std::size_t stride = 4 * sizeof(std::uint64_t);
+    constexpr std::size_t wordSize = sizeof(std::uint64_t);
+    constexpr std::size_t stride = 4 * wordSize;
     constexpr std::uint64_t highBits = 0x8080808080808080U;
+    std::uint64_t words[4] = {};
     std::size_t at = 0;
     for (; at + stride <= bytes.size(); at += stride) {
-        std::uint64_t words[4];
         std::memcpy(words, bytes.data() + at, stride);
         if (((words[0] | words[1] | words[2] | words[3]) & highBits) != 0)
+            break;
+    }
+    for (; at + wordSize <= bytes.size(); at += wordSize) {
+        std::memcpy(words, bytes.data() + at, wordSize);
+        if ((words[0] & highBits) != 0)
             break;
     }
     while (at < bytes.size() && static_cast<unsigned char>(bytes[at]) < 0x80)

@@ -17,7 +17,7 @@ void prefetchTypes(const ReplyEntries& entries) {
     sids.reserve(entries.size());
     for (const auto& entry : entries) {
         if (entry->trusteeID)
-            sids.push_back(*entry->trusteeID);
+            sids.emplace_back(*entry->trusteeID);
     }
     platform::services().directory->prefetch(sids);
 }
@@ -33,17 +33,16 @@ TrusteeReader::TrusteeReader(const ReplyEntries& entries, std::string identityTy
 
 std::shared_ptr<Trustees> TrusteeReader::read(const ReplyEntry& entry) {
     if (entry.trusteeName)
-        name_ = &*entry.trusteeName;
+        name_ = entry.trusteeName;
     if (entry.trusteeType)
         type_ = *entry.trusteeType;
     if (entry.rights)
         rights_ = entry.rights;
     if (!entry.trusteeID)
         return nullptr;
-    require(name_ != nullptr && rights_, "The trustee \"%@\" of the reply has no name or no rights",
-            *entry.trusteeID);
-    auto trustee =
-        std::make_shared<Trustees>(*name_, *entry.trusteeID, *rights_, "", std::string(type_), identityType_);
+    require(name_ && rights_, "The trustee \"%@\" of the reply has no name or no rights", *entry.trusteeID);
+    auto trustee = std::make_shared<Trustees>(std::string(*name_), std::string(*entry.trusteeID), *rights_,
+                                              "", std::string(type_), identityType_);
     if (typesFromDirectory_)
         lookup_.setTrusteeTypeforTrustee(*trustee);
     return trustee;

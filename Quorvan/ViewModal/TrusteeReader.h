@@ -28,7 +28,7 @@ private:
     std::string identityType_;
     bool typesFromDirectory_;
     DirectoryLookup lookup_;
-    const std::string* name_ = nullptr;
+    std::optional<std::string_view> name_;
     std::string_view type_;
     std::optional<std::uint16_t> rights_;
 };

@@ -2,18 +2,23 @@
 #include "Quorvan/ViewModal/UsersViewModal.h"
 
 #include "Common/Error.h"
-#include "Common/Features.h"
+#include "Common/FeatureFlags.h"
 #include "Common/Log.h"
 #include "Platform/Services.h"
 
 #include <map>
 
 namespace quorvan {
+namespace {
+
+const std::vector<std::string> usersAndGroups = {"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
+
+} // namespace
 
 struct DirectoryLookup::Surroundings {
     std::optional<std::map<std::string, std::string>> state =
         platform::services().directory->activeDirectoryState();
-    bool multiForest = featureEnabled("multiForest");
+    bool multiForest = featureFlag(readFeatureFlags(), "multiForest");
 
     /// Where to search. A node that could not be opened is tried again by the next look-up.
     platform::DirectoryNode* node() {
@@ -23,6 +28,12 @@ struct DirectoryLookup::Surroundings {
                                 : directory.openNode((*state)["NodeName"] + "/All Domains");
         return node_.get();
     }
+
+    platform::DirectoryQuery query; ///< kept for its memory
+
+    // The records of the ID that was looked up last: a list asks for one attribute after the other.
+    std::optional<std::string> lastID;
+    platform::DirectoryRecords recordsOfLastID;
 
 private:
     std::shared_ptr<platform::DirectoryNode> node_;
@@ -40,12 +51,13 @@ DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::opti
         Log("Could not find a Active Directory on the server");
         return {};
     }
-    platform::DirectoryQuery query;
-    query.recordTypes = recType
-                            ? std::vector{*recType}
-                            : std::vector<std::string>{"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
-    query.attribute = attribute.value_or("dsAttrTypeStandard:RecordName");
-    query.values = {strToQuery};
+    platform::DirectoryQuery& query = surroundings_->query;
+    if (recType)
+        query.recordTypes = {*recType};
+    else
+        query.recordTypes = usersAndGroups;
+    query.attribute = attribute ? *attribute : "dsAttrTypeStandard:RecordName";
+    query.values.assign(1, strToQuery);
     platform::DirectoryNode* node = surroundings_->node();
     auto records = node != nullptr ? node->query(query) : std::nullopt;
     if (!records) {
@@ -56,10 +68,21 @@ DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::opti
     return *std::move(records);
 }
 
+const platform::DirectoryRecords& DirectoryLookup::recordsOfID(const std::string& objectID) const {
+    if (!surroundings_ || surroundings_->lastID != objectID) {
+        auto records = getUserGroupInfo(objectID, {}, kODAttributeTypeSMBSID);
+        surroundings_->lastID.reset(); // an empty answer may be a failure, which the next look-up meets anew
+        if (!records.empty())
+            surroundings_->lastID = objectID;
+        surroundings_->recordsOfLastID = std::move(records);
+    }
+    return surroundings_->recordsOfLastID;
+}
+
 std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
                                                    const std::string& attributeType) const {
     std::string result = "Unknown";
-    for (const auto& record : getUserGroupInfo(objectID, {}, kODAttributeTypeSMBSID)) {
+    for (const auto& record : recordsOfID(objectID)) {
         const auto values = record->values(attributeType);
         if (!values) {
             Log("Error in Opening Session");
@@ -74,7 +97,7 @@ std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
 }
 
 void DirectoryLookup::setTrusteeTypeforTrustee(Trustees& trustee) const {
-    for (const auto& record : getUserGroupInfo(trustee.trusteeID, {}, kODAttributeTypeSMBSID)) {
+    for (const auto& record : recordsOfID(trustee.trusteeID)) {
         const auto values = record->values("dsAttrTypeStandard:RecordType");
         if (!values || values->empty()) {
             Log("Error in Open Directory Session");

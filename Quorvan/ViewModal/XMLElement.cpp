@@ -58,7 +58,7 @@ std::optional<XMLElement> XMLElement::firstChild(std::string_view name) const {
     return std::nullopt;
 }
 
-XMLDocument::XMLDocument(std::string_view text)
+XMLDocument::XMLDocument(const std::string& text)
     : tree_(std::make_unique<XMLTree>()) {
     TreeBuilder builder(*tree_);
     error_ = XMLEventParser::parse(text, builder);

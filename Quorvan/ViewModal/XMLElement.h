@@ -77,7 +77,7 @@ private:
 /// A reply as a tree, for decoders that walk it.
 class XMLDocument {
 public:
-    explicit XMLDocument(std::string_view text);
+    explicit XMLDocument(const std::string& text);
     XMLDocument(XMLDocument&&) noexcept;
     XMLDocument& operator=(XMLDocument&&) noexcept;
     ~XMLDocument();

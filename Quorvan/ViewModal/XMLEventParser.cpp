@@ -70,14 +70,18 @@ void freeContext(xmlParserCtxtPtr context) {
 
 } // namespace
 
-std::optional<XMLError> XMLEventParser::parse(std::string_view document, XMLEventHandler& delegate) {
+std::optional<XMLError> XMLEventParser::parse(const std::string& document, XMLEventHandler& delegate) {
     if (document.empty())
         return XMLError{XML_ERR_DOCUMENT_EMPTY, "the document is empty"};
     if (document.size() > INT_MAX)
         return XMLError{XML_ERR_DOCUMENT_END, "the document is too long"};
-    const std::unique_ptr<xmlParserCtxt, decltype(&freeContext)> context(
-        xmlCreateMemoryParserCtxt(document.data(), static_cast<int>(document.size())), &freeContext);
-    if (!context)
+    if (document.find('\0') != std::string::npos)
+        return XMLError{XML_ERR_INVALID_CHAR, "the document holds a NUL"};
+    const std::unique_ptr<xmlParserCtxt, decltype(&freeContext)> context(xmlNewParserCtxt(), &freeContext);
+    const auto* bytes = reinterpret_cast<const xmlChar*>(document.c_str());
+    const xmlParserInputPtr input =
+        context ? xmlNewStringInputStream(context.get(), bytes) : nullptr; // no copy
+    if (input == nullptr || inputPush(context.get(), input) < 0)
         return XMLError{XML_ERR_NO_MEMORY, "out of memory"};
 
     // The first version of the SAX interface: faster, and names come as they are written. Callbacks

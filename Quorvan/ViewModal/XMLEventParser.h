@@ -79,7 +79,7 @@ class XMLEventParser {
 public:
     /// Tells `delegate` about the document up to its end or its first error. Returns that error, or
     /// nothing for a well-formed document.
-    static std::optional<XMLError> parse(std::string_view document, XMLEventHandler& delegate);
+    static std::optional<XMLError> parse(const std::string& document, XMLEventHandler& delegate);
 };
 
 } // namespace quorvan

@@ -293,6 +293,8 @@ public:
 private:
     struct SelectionRequest;
 
+    /// What the event pass learned about a reply; its entries have moved on into dictResponse.
+    XMLResponseParser parse(const std::string& reply, const ElementPath& resultPath = {});
     std::string statusOf(const XMLResponseParser& parsed) const;
     std::string setOneTrustee(const std::string& element, const ElementPath& resultPath,
                               const ExchangeLog& log);

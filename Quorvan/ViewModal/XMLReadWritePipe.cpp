@@ -39,6 +39,14 @@ void logMountError(int error, const std::string& mountUrl) {
         Log("Error mounting virtual volume due to error code %d", error);
 }
 
+/// Lets a reply grow by leaps. Memory that is reserved and never touched costs nothing, whereas copying a
+/// long reply from one place to the next costs as much as reading it.
+void makeRoom(std::string& reply) {
+    constexpr std::size_t room = 3 * XMLReadWriteController::MEM_SIZE; // a piece of nothing but invalid bytes
+    if (reply.capacity() - reply.size() < room)
+        reply.reserve(16 * reply.size() + room);
+}
+
 } // namespace
 
 DictionaryForMountedPIPE& DictionaryForMountedPIPE::mountDict() {
@@ -188,6 +196,7 @@ std::string XMLReadWriteController::exchangeRequest(const std::string& request, 
         files.seek(descriptor, 0);
         length = files.read(descriptor, buffer.data(), buffer.size());
         const std::string_view piece(buffer.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+        makeRoom(reply);
         appendRepairedUtf8(reply, piece.substr(0, piece.find('\0')));
     } while (length != 0);
     Log(log.completion);
@@ -196,9 +205,14 @@ std::string XMLReadWriteController::exchangeRequest(const std::string& request, 
 }
 
 std::string XMLReadWriteController::getResultValue(const std::string& reply, const ElementPath& resultPath) {
+    return statusOf(parse(reply, resultPath));
+}
+
+XMLResponseParser XMLReadWriteController::parse(const std::string& reply, const ElementPath& resultPath) {
     XMLResponseParser parser(resultPath);
-    dictResponse = parser.getdictionaryfromXMLData(reply);
-    return statusOf(parser);
+    parser.getdictionaryfromXMLData(reply);
+    dictResponse = std::move(parser.arrStack);
+    return parser;
 }
 
 std::string XMLReadWriteController::statusOf(const XMLResponseParser& parsed) const {

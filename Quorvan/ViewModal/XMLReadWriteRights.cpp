@@ -76,9 +76,7 @@ std::int64_t XMLReadWriteController::setInheritedRights(std::uint16_t irf, const
 }
 
 std::int64_t XMLReadWriteController::parseSetInheritedRights(const std::string& xml) {
-    XMLResponseParser parser;
-    dictResponse = parser.getdictionaryfromXMLData(xml);
-    return parser.xmlReqStatus;
+    return parse(xml).xmlReqStatus;
 }
 
 void XMLReadWriteController::loadIRFRights(Rights& irf) const {
@@ -120,7 +118,7 @@ std::string XMLReadWriteController::getEffectiveRightsforUserOnPath(const std::s
                                               {"Get effective rights for user on path Request : %@",
                                                "response.deinitialize getEffectiveRightsforUserOnPath",
                                                "Get effective rights for user on path Response: %@"});
-    dictResponse = XMLResponseParser().getdictionaryfromXMLData(reply);
+    parse(reply);
     loadEffRights(rights);
     return "0";
 }
@@ -182,7 +180,7 @@ void XMLReadWriteController::loadDirectoryRights(std::vector<DirectoryRights>& d
         if (!entry->path)
             continue;
         for (auto& trustee : pending)
-            dirTrustee.push_back({std::move(trustee), *entry->path});
+            dirTrustee.push_back({std::move(trustee), std::string(*entry->path)});
         pending.clear();
     }
 }
@@ -194,7 +192,7 @@ std::string XMLReadWriteController::getFSRights(const std::string& path,
     const std::string reply = exchangeRequest(
         createGetIRRequest(path, ctx),
         {"Get FSR Request : %@", "response.deinitialize getIRRequest", "Get FSR Response: %@"});
-    dictResponse = XMLResponseParser().getdictionaryfromXMLData(reply);
+    parse(reply);
     decodeFSRInfo(reply, userID, grpRights);
     return "0";
 }

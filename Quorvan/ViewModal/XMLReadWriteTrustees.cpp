@@ -169,11 +169,10 @@ std::string XMLReadWriteController::setOneTrustee(const std::string& element, co
                                                   const ExchangeLog& log) {
     const std::string reply =
         exchangeRequest(adminRequest(element.empty() ? "" : trusteesRequest(element)), log);
-    XMLResponseParser parser(resultPath);
-    dictResponse = parser.getdictionaryfromXMLData(reply);
-    const std::string result = statusOf(parser);
-    if (parser.xmlReqStatus >= 1 || parser.nAddFailed >= 1 || parser.nRemFailed >= 1)
-        Log("Failed to process SetTrustees response %d", parser.xmlReqStatus);
+    const XMLResponseParser parsed = parse(reply, resultPath);
+    const std::string result = statusOf(parsed);
+    if (parsed.xmlReqStatus >= 1 || parsed.nAddFailed >= 1 || parsed.nRemFailed >= 1)
+        Log("Failed to process SetTrustees response %d", parsed.xmlReqStatus);
     return result;
 }
 
@@ -198,11 +197,10 @@ std::int64_t XMLReadWriteController::setTrusteeforDir(const std::vector<Director
 
 void XMLReadWriteController::parseSetTrusteeResp(const std::string& xml, std::int64_t& nAddFailed,
                                                  std::int64_t& nRemFailed, std::int64_t& status) {
-    XMLResponseParser parser;
-    dictResponse = parser.getdictionaryfromXMLData(xml);
-    nAddFailed = parser.nAddFailed;
-    nRemFailed = parser.nRemFailed;
-    status = parser.xmlReqStatus;
+    const XMLResponseParser parsed = parse(xml);
+    nAddFailed = parsed.nAddFailed;
+    nRemFailed = parsed.nRemFailed;
+    status = parsed.xmlReqStatus;
 }
 
 } // namespace quorvan

@@ -2,83 +2,13 @@
 #include "Quorvan/ViewModal/XMLResponseParse.h"
 
 #include "Common/Fatal.h"
-#include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/Utils.h"
 
-#include <array>
+#include <cstring>
 #include <utility>
 
 namespace quorvan {
 namespace {
-
-/// The elements that mean something to the event pass.
-enum class Tag {
-    other,
-    trusteeInfo,
-    trustee,
-    inheritedRightsFilter,
-    effectiveRights,
-    file,
-    path,
-    id,
-    rights,
-    right,
-    addTrustee,
-    removeTrustee,
-    result
-};
-
-struct TagName {
-    std::string_view name;
-    Tag tag = Tag::other;
-    std::uint16_t bit = 0;
-};
-
-/// Every known name, the short ones first, so that a name is only compared with those of its length.
-constexpr std::array tagNames = {
-    TagName{"id", Tag::id},
-    TagName{"name", Tag::trustee},
-    TagName{"read", Tag::right, KelpRights::read},
-    TagName{"file", Tag::file},
-    TagName{"path", Tag::path},
-    TagName{"write", Tag::right, KelpRights::write},
-    TagName{"erase", Tag::right, KelpRights::erase},
-    TagName{"rights", Tag::rights},
-    TagName{"create", Tag::right, KelpRights::create},
-    TagName{"modify", Tag::right, KelpRights::modify},
-    TagName{"result", Tag::result},
-    TagName{"trustee", Tag::trustee},
-    TagName{"fileScan", Tag::right, KelpRights::fileScan},
-    TagName{"supervisor", Tag::right, KelpRights::supervisor},
-    TagName{"addTrustee", Tag::addTrustee},
-    TagName{"trusteeInfo", Tag::trusteeInfo},
-    TagName{"accessRights", Tag::trusteeInfo},
-    TagName{"accessControl", Tag::right, KelpRights::accessControl},
-    TagName{"removeTrustee", Tag::removeTrustee},
-    TagName{"effectiveRights", Tag::effectiveRights},
-    TagName{"inheritedRightsFilter", Tag::inheritedRightsFilter},
-};
-constexpr std::size_t longestName = tagNames.back().name.size();
-
-/// Where the names of each length begin in tagNames.
-constexpr auto firstOfLength = [] {
-    std::array<std::uint8_t, longestName + 2> first{};
-    for (std::size_t length = 0; length < first.size(); ++length) {
-        for (const TagName& known : tagNames)
-            first[length] = static_cast<std::uint8_t>(first[length] + (known.name.size() < length ? 1 : 0));
-    }
-    return first;
-}();
-
-TagName tagNamed(std::string_view name) {
-    if (name.size() > longestName)
-        return {};
-    for (std::size_t at = firstOfLength[name.size()]; at < firstOfLength[name.size() + 1]; ++at) {
-        if (tagNames[at].name == name)
-            return tagNames[at];
-    }
-    return {};
-}
 
 void close(ReplyEntries& entries, const std::shared_ptr<ReplyEntry>& entry, std::string_view name) {
     require(entry != nullptr, "\"%@\" ended in the reply and never began", name);
@@ -100,32 +30,44 @@ std::string ResultElement::status() const {
     return value_;
 }
 
-const ReplyEntries& XMLResponseParser::getdictionaryfromXMLData(std::string_view reply) {
+const ReplyEntries& XMLResponseParser::getdictionaryfromXMLData(const std::string& reply) {
     error = parser.parse(reply, *this);
     return arrStack;
+}
+
+std::shared_ptr<ReplyEntry> XMLResponseParser::makeEntry() {
+    return {storage_, &storage_->entries.emplace_back()};
+}
+
+std::string_view XMLResponseParser::keep(std::string_view text) {
+    auto* copy = static_cast<char*>(storage_->memory.allocate(text.size() + 1, 1));
+    std::memcpy(copy, text.data(), text.size());
+    return {copy, text.size()};
 }
 
 void XMLResponseParser::didStartElement(std::string_view name, XMLAttributes attributes) {
     result.didStartElement(name, attributes);
     currentElement = name;
-    switch (tagNamed(name).tag) {
-    case Tag::trusteeInfo:
-        dictForTrustees = std::make_shared<ReplyEntry>();
+    const ReplyTag& tag = ReplyTag::named(name);
+    open_.push_back(&tag);
+    switch (tag.kind) {
+    case ReplyTag::Kind::trusteeInfo:
+        dictForTrustees = makeEntry();
         break;
-    case Tag::trustee:
+    case ReplyTag::Kind::trusteeName:
         if (const auto objectClass = attributes.value("objectClass"); objectClass && dictForTrustees)
-            dictForTrustees->trusteeType = *objectClass;
+            dictForTrustees->trusteeType = keep(*objectClass);
         break;
-    case Tag::inheritedRightsFilter:
-        dictForIRF = std::make_shared<ReplyEntry>();
+    case ReplyTag::Kind::inheritedRightsFilter:
+        dictForIRF = makeEntry();
         break;
-    case Tag::effectiveRights:
-        dictForEffRights = std::make_shared<ReplyEntry>();
+    case ReplyTag::Kind::effectiveRights:
+        dictForEffRights = makeEntry();
         break;
-    case Tag::file:
-        dictForDir = std::make_shared<ReplyEntry>();
+    case ReplyTag::Kind::file:
+        dictForDir = makeEntry();
         break;
-    case Tag::result:
+    case ReplyTag::Kind::result:
         if (const auto value = attributes.value("value"))
             resValue = *value;
         break;
@@ -143,53 +85,54 @@ void XMLResponseParser::foundCharacters(std::string_view text) {
 
 void XMLResponseParser::didEndElement(std::string_view name) {
     result.didEndElement();
-    const TagName known = tagNamed(name);
-    switch (known.tag) {
-    case Tag::trusteeInfo:
+    const ReplyTag& tag = *open_.back(); // of the start tag: the parser sees to it that they match
+    open_.pop_back();
+    switch (tag.kind) {
+    case ReplyTag::Kind::trusteeInfo:
         close(arrStack, dictForTrustees, name);
         break;
-    case Tag::inheritedRightsFilter:
+    case ReplyTag::Kind::inheritedRightsFilter:
         close(arrStack, dictForIRF, name);
         dictForIRF->inheritedRightsFilter = std::exchange(rightsBit, std::uint16_t{0});
         break;
-    case Tag::effectiveRights:
+    case ReplyTag::Kind::effectiveRights:
         close(arrStack, dictForEffRights, name);
         dictForEffRights->effectiveRights = std::exchange(rightsBit, std::uint16_t{0});
         break;
-    case Tag::file:
+    case ReplyTag::Kind::file:
         close(arrStack, dictForDir, name);
         break;
-    case Tag::path:
+    case ReplyTag::Kind::path:
         if (dictForDir && !dictForDir->path)
-            dictForDir->path = textInProgress;
+            dictForDir->path = keep(textInProgress);
         break;
-    case Tag::trustee:
+    case ReplyTag::Kind::trusteeName:
         if (dictForTrustees)
-            dictForTrustees->trusteeName = textInProgress;
+            dictForTrustees->trusteeName = keep(textInProgress);
         break;
-    case Tag::id:
+    case ReplyTag::Kind::trusteeID:
         if (dictForTrustees && !dictForTrustees->trusteeID)
-            dictForTrustees->trusteeID = textInProgress;
+            dictForTrustees->trusteeID = keep(textInProgress);
         break;
-    case Tag::rights:
+    case ReplyTag::Kind::rights:
         if (dictForTrustees)
             dictForTrustees->rights = rightsBit;
         rightsBit = 0;
         break;
-    case Tag::right:
-        rightsBit |= known.bit;
+    case ReplyTag::Kind::right:
+        rightsBit |= tag.bit;
         break;
-    case Tag::addTrustee:
+    case ReplyTag::Kind::addTrustee:
         nAddFailed += resValue != "0" ? 1 : 0;
         break;
-    case Tag::removeTrustee:
+    case ReplyTag::Kind::removeTrustee:
         nRemFailed += resValue != "0" ? 1 : 0;
         break;
-    case Tag::result:
+    case ReplyTag::Kind::result:
         if (resValue != "0")
             xmlReqStatus = unwrap(decimalNumber(resValue), "The result \"%@\" is not a number", resValue);
         break;
-    case Tag::other:
+    case ReplyTag::Kind::other:
         break;
     }
     textInProgress.clear();

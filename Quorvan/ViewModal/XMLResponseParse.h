@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/ViewModal/ReplyTags.h"
 #include "Quorvan/ViewModal/XMLElementSearch.h"
 #include "Quorvan/ViewModal/XMLEventParser.h"
 
 #include <cstdint>
+#include <deque>
 #include <memory>
+#include <memory_resource>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,12 +19,13 @@ namespace quorvan {
 /// What the event pass gathered about one entry of a reply; a key that the reply did not give is absent.
 ///
 /// Entries "trusteeInfo" and "accessRights" carry the trustee keys, "inheritedRightsFilter" and
-/// "effectiveRights" their mask, "file" its path.
+/// "effectiveRights" their mask, "file" its path. The texts are valid as long as any entry of the same
+/// reply is.
 struct ReplyEntry {
-    std::optional<std::string> trusteeName;
-    std::optional<std::string> trusteeID;
-    std::optional<std::string> trusteeType;
-    std::optional<std::string> path;
+    std::optional<std::string_view> trusteeName;
+    std::optional<std::string_view> trusteeID;
+    std::optional<std::string_view> trusteeType;
+    std::optional<std::string_view> path;
     std::optional<std::uint16_t> rights;
     std::optional<std::uint16_t> inheritedRightsFilter;
     std::optional<std::uint16_t> effectiveRights;
@@ -60,7 +64,7 @@ public:
 
     /// Parses a reply and returns the entries in the order in which their elements closed. A parse
     /// error stops the events early; what was gathered until then is returned.
-    const ReplyEntries& getdictionaryfromXMLData(std::string_view reply);
+    const ReplyEntries& getdictionaryfromXMLData(const std::string& reply);
 
     void didStartElement(std::string_view name, XMLAttributes attributes) override;
     void didEndElement(std::string_view name) override;
@@ -83,6 +87,19 @@ public:
 
     std::optional<XMLError> error; ///< why the reply is not XML; nothing when it is
     ResultElement result;
+
+private:
+    /// Everything that a reply's entries consist of. They live and die together, so it is taken in large
+    /// pieces and given back at once; every entry shares its ownership.
+    struct Storage {
+        std::pmr::monotonic_buffer_resource memory;
+        std::pmr::deque<ReplyEntry> entries{&memory};
+    };
+    std::shared_ptr<ReplyEntry> makeEntry();
+    std::string_view keep(std::string_view text);
+
+    std::shared_ptr<Storage> storage_ = std::make_shared<Storage>();
+    std::vector<const ReplyTag*> open_; ///< what the elements are that are open now
 };
 
 } // namespace quorvan

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/Error.h"
 #include "Common/Fatal.h"
-#include "Common/Features.h"
+#include "Common/FeatureFlags.h"
 #include "Common/Format.h"
 #include "Common/Log.h"
 #include "Common/Utf8.h"
@@ -99,13 +99,13 @@ TEST(Features, AreFatalWhenMissing) {
     const FakeWorld world;
     const LogRecorder log;
     (*world.bundle->features)["multiForest"] = false;
-    EXPECT_FALSE(featureEnabled("multiForest"));
-    EXPECT_TRUE(featureEnabled("MorvaneSupport"));
-    EXPECT_DEATH(featureEnabled("unheardOf"), "unheardOf");
+    EXPECT_FALSE(featureFlag(readFeatureFlags(), "multiForest"));
+    EXPECT_TRUE(featureFlag(readFeatureFlags(), "MorvaneSupport"));
+    EXPECT_DEATH(featureFlag(readFeatureFlags(), "unheardOf"), "unheardOf");
     (*world.bundle->features)["multiForest"] = std::nullopt;
-    EXPECT_DEATH(featureEnabled("multiForest"), "not a Boolean");
+    EXPECT_DEATH(featureFlag(readFeatureFlags(), "multiForest"), "not a Boolean");
     world.bundle->features.reset();
-    EXPECT_DEATH(featureEnabled("MorvaneSupport"), "missing");
+    EXPECT_DEATH(featureFlag(readFeatureFlags(), "MorvaneSupport"), "missing");
 }
 
 } // namespace

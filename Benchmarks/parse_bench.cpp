@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// How much reading a trustee list adds to what libxml2 itself needs: parsing, status and records against
+// one bare event pass over the same bytes whose callbacks do nothing. They take turns in one run.
+#include "Benchmarks/BareEventPass.h"
+#include "Benchmarks/Measure.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
+#include "Tests/Support/Fakes.h"
+
+#include <cstdlib>
+#include <malloc.h>
+
+namespace quorvan {
+namespace {
+
+const ElementPath listResult = {"fileInfo", "getFileInfo", "result"};
+
+/// A reply as a server with both kinds of identities writes it, some 225 bytes for each trustee.
+std::string trusteeReply(std::int64_t trustees) {
+    std::string reply = "<fileReply><fileInfo><getFileInfo><trusteeList>";
+    for (std::int64_t number = 0; number < trustees; ++number) {
+        const std::string text = std::to_string(100'000 + number);
+        reply += "<trusteeInfo><name objectClass=\"Users\">user" + text +
+                 ".department.company</name><id>S-1-5-21-1004336348-1177238915-682003330-" + text +
+                 "</id><rights><read/><write/><create/><erase/><accessControl/><fileScan/><modify/></rights>"
+                 "</trusteeInfo>";
+    }
+    return reply +
+           "</trusteeList><inheritedRightsFilter><read/></inheritedRightsFilter><effectiveRights><read/>"
+           "</effectiveRights><result value=\"0\"/></getFileInfo></fileInfo></fileReply>";
+}
+
+/// What initializeTrustees does with a reply.
+void load(XMLReadWriteController& controller, const std::string& reply, const char* identityType,
+          TrusteeList& trustees) {
+    Rights rights;
+    if (controller.getResultValue(reply, listResult) != "0")
+        std::abort();
+    controller.loadTrusteeDataFromServer(trustees, identityType);
+    controller.loadIRFRights(rights);
+    controller.loadEffRights(rights);
+}
+
+void compareLoading(benchmark::State& state, const char* identityType) {
+    const test::FakeWorld world;
+    const benchmarks::QuietLog quiet;
+    const std::string reply = trusteeReply(state.range(0));
+    XMLReadWriteController controller;
+    benchmarks::compare(
+        state, reply.size(), [&] { benchmarks::bareEventPass(reply); },
+        [&] {
+            TrusteeList trustees;
+            load(controller, reply, identityType, trustees);
+            if (trustees.size() != static_cast<std::size_t>(state.range(0)))
+                std::abort();
+        });
+    state.SetComplexityN(state.range(0));
+}
+
+void ParseAndDecode(benchmark::State& state) {
+    compareLoading(state, "Morvane");
+}
+BENCHMARK(ParseAndDecode)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->Complexity();
+
+/// The tree that some decoders walk, against the same pass.
+void BuildTree(benchmark::State& state) {
+    const std::string reply = trusteeReply(state.range(0));
+    benchmarks::compare(
+        state, reply.size(), [&] { benchmarks::bareEventPass(reply); },
+        [&] {
+            const XMLDocument document(reply);
+            if (document.error())
+                std::abort();
+        });
+}
+BENCHMARK(BuildTree)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+/// What stays allocated, by the records that a view keeps and by the reply's entries in the controller.
+void Memory(benchmark::State& state) {
+    const test::FakeWorld world;
+    const benchmarks::QuietLog quiet;
+    const std::string reply = trusteeReply(state.range(0));
+    XMLReadWriteController controller;
+    const auto allocated = [] {
+        const struct mallinfo2 info = mallinfo2();
+        return static_cast<double>(info.uordblks + info.hblkhd);
+    };
+    for ([[maybe_unused]] auto _ : state) {
+        TrusteeList trustees;
+        controller.dictResponse.reset();
+        const double before = allocated();
+        load(controller, reply, "Morvane", trustees);
+        const double with = allocated();
+        controller.dictResponse.reset();
+        const double after = allocated();
+        const auto rows = static_cast<double>(trustees.size());
+        state.counters["bytes_per_row"] = (after - before) / rows;
+        state.counters["bytes_per_entry"] = (with - after) / rows;
+    }
+}
+BENCHMARK(Memory)->Arg(100'000)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace quorvan
+
+BENCHMARK_MAIN();
