@@ -30,6 +30,7 @@ public:
 
 private:
     struct Surroundings;
+    const platform::DirectoryRecords& recordsOfID(const std::string& objectID) const;
     mutable std::unique_ptr<Surroundings> surroundings_; ///< read by the first look-up
 };
 
