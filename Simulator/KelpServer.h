@@ -85,6 +85,7 @@ public:
     Identities& identities() { return *identities_; }
     std::shared_ptr<Identities> sharedIdentities() { return identities_; }
     Volumes& volumes() { return volumes_; }
+    const Volumes& volumes() const { return volumes_; }
     void addPath(std::string_view path) { volumes_.make(path); }
     void setTrustee(std::string_view path, const Identity& identity, Mask rights);
     void setFilter(std::string_view path, Mask filter);
