@@ -71,7 +71,6 @@ void RightsTabViewController::layOutControls() {
         setTabOrder(previous, next);
         previous = next;
     }
-    setFocusProxy(rightsTable);
 }
 
 void RightsTabViewController::connectControls() {

@@ -100,6 +100,9 @@ void RightsTabViewController::viewWillAppear() {
 
 void RightsTabViewController::viewDidAppear() {
     rightsTable->scrollToTop();
+    const QWidget* focus = window()->focusWidget();
+    if (focus == nullptr || !focus->isVisible()) // it went with the page before
+        rightsTable->setFocus();
 }
 
 void RightsTabViewController::load(TrusteeList& trustees, const std::string& identityType) {

@@ -177,6 +177,7 @@ TEST_F(MainWindowTest, LeadsToTheTrusteesAndBackAskingAnew) {
     auto* rights = dynamic_cast<RightsTabViewController*>(tabs.childControllers().front());
     ASSERT_NE(rights, nullptr);
     EXPECT_FALSE(rights->trusteeList.empty());
+    EXPECT_TRUE(rights->rightsTable->hasFocus());
     EXPECT_EQ(window->size(), window->sizeHint());
 
     const std::size_t loads = requestsTo("/FilesCmdPipe");
