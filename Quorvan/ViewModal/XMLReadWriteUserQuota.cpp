@@ -53,10 +53,12 @@ void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
     std::vector<std::string> sids;
     sids.reserve(users.size());
     for (const auto& user : users)
-        sids.push_back(*user->SID);
+        sids.push_back(std::move(*user->SID)); // lent: copies would be almost as large as the reply
     platform::services().directory->prefetch(sids);
     const DirectoryLookup lookup;
+    auto sid = sids.begin();
     for (const auto& user : users) {
+        user->SID = std::move(*sid++);
         const std::string domain = lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypePrimaryNTDomain);
         const std::string name = lookup.lookupAttrValueFromID(*user->SID, "dsAttrTypeStandard:RecordName");
         user->displayName = domain + "\\" + name;

@@ -61,6 +61,7 @@ TEST_F(UserQuota, TakesNamesFromActiveDirectory) {
                 ElementsAre("KELP\\bob|S-1|Users|NONE|9223372036854775807|-5|0|ActiveDirectory",
                             "Unknown\\Unknown||Users|NONE|0|0|0|ActiveDirectory"));
     EXPECT_THAT(world.directory->prefetches, ElementsAre(ElementsAre("S-1", "")));
+    EXPECT_EQ(world.directory->queries.size(), 3U) << "one for a user who is known";
     EXPECT_EQ(world.directory->stateReads, 1);
     EXPECT_EQ(world.bundle->featureReads, 1);
 }

@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the large replies and requests cost: reading the rights of all paths and the quotas of all users, and
+// writing quota changes. Each is compared with one bare event pass over the same bytes. "memory" is the
+// most that the reply and everything made of it take at once, in sizes of the reply.
+#include "Benchmarks/BareEventPass.h"
+#include "Benchmarks/Measure.h"
+#include "Benchmarks/PeakMemory.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
+#include "Tests/Support/Fakes.h"
+
+#include <unordered_map>
+
+namespace quorvan {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+std::string sid(std::int64_t number) {
+    return "S-1-5-21-1794301120-902745313-2650418877-" + std::to_string(100'000 + number);
+}
+
+/// Compares `work` on a reply with a bare pass over it, and measures the memory of one more run.
+template <class Work>
+void compareOn(benchmark::State& state, const std::string& reply, Work&& work) {
+    benchmarks::compare(
+        state, reply.size(), [&] { benchmarks::bareEventPass(reply); }, work);
+    const auto size = static_cast<double>(reply.size());
+    state.counters["memory"] = (size + static_cast<double>(benchmarks::peakGrowth(work))) / size;
+    state.SetComplexityN(state.range(0));
+}
+
+/// Files with five trustees each, out of a thousand identities.
+std::string allPathsReply(std::int64_t files) {
+    std::string reply = R"(<adminReply><result value="0"><description>success</description></result>)";
+    for (std::int64_t file = 0; file < files; ++file) {
+        reply += "<file><rightsInfo><trusteeList>";
+        for (std::int64_t trustee = 0; trustee < 5; ++trustee) {
+            const std::int64_t identity = (file * 7 + trustee * 211) % 1000;
+            reply += "<trusteeInfo><name>user" + std::to_string(identity) + "</name><id>" + sid(identity) +
+                     "</id><rights><read/><write/><fileScan/></rights></trusteeInfo>";
+        }
+        reply += "</trusteeList></rightsInfo><standardInfo><attributes></attributes></standardInfo>"
+                 "<path>VOL1:\\Projects\\Aurora\\Drawings\\file" +
+                 std::to_string(file) + "</path></file>";
+    }
+    return reply + "</adminReply>";
+}
+
+Texts identities(std::int64_t count) {
+    Texts ids;
+    for (std::int64_t number = 0; number < count; ++number)
+        ids.push_back(sid(number * 1000 / count));
+    return ids;
+}
+
+/// Arguments: files, identities.
+void FindPathsOfIdentities(benchmark::State& state) {
+    const std::string reply = allPathsReply(state.range(0));
+    const Texts wanted = identities(state.range(1));
+    compareOn(state, reply, [&] {
+        std::vector<IdentityFileRights> rows;
+        XMLReadWriteController::decodeFSRInfo(reply, wanted, rows);
+        if (rows.empty())
+            std::abort();
+    });
+}
+BENCHMARK(FindPathsOfIdentities)
+    ->Args({10'000, 1})
+    ->Args({50'000, 1})
+    ->Args({10'000, 50})
+    ->Args({50'000, 50})
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
+
+/// The same reply for a view that shows every trustee: status, entries and records.
+void ListDirectoryTrustees(benchmark::State& state) {
+    const test::FakeWorld world;
+    const benchmarks::QuietLog quiet;
+    const std::string reply = allPathsReply(state.range(0));
+    XMLReadWriteController controller;
+    compareOn(state, reply, [&] {
+        std::vector<DirectoryRights> rows;
+        if (controller.getResultValue(reply, {"result"}) != "0")
+            std::abort();
+        controller.loadDirectoryRights(rows, "Morvane");
+        controller.dictResponse.reset();
+    });
+}
+BENCHMARK(ListDirectoryTrustees)->Arg(10'000)->Arg(50'000)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+/// A directory that answers from a hash map.
+class MapDirectory final : public platform::DirectoryServices, public platform::DirectoryNode {
+public:
+    explicit MapDirectory(std::int64_t users) {
+        for (std::int64_t user = 0; user < users; ++user)
+            records_[sid(user)] = std::make_shared<Record>("user" + std::to_string(user));
+    }
+    std::optional<std::map<std::string, std::string>> activeDirectoryState() override {
+        return std::map<std::string, std::string>{{"NodeName", "/Active Directory/KELP"}};
+    }
+    std::optional<Texts> nodeNames() override { return Texts{}; }
+    std::shared_ptr<DirectoryNode> openNode(const std::string&) override { return openNetworkNode(); }
+    std::shared_ptr<DirectoryNode> openNetworkNode() override {
+        return std::shared_ptr<DirectoryNode>(std::shared_ptr<void>(), this);
+    }
+    std::optional<std::vector<platform::ManagedIdentity>>
+    managedIdentities(platform::IdentityClass) override {
+        return std::nullopt;
+    }
+    void prefetch(const Texts&) override {}
+    std::optional<platform::DirectoryRecords> query(const platform::DirectoryQuery& query) override {
+        const auto record = records_.find(query.values.front());
+        return record == records_.end() ? platform::DirectoryRecords{}
+                                        : platform::DirectoryRecords{record->second};
+    }
+
+private:
+    struct Record final : platform::DirectoryRecord {
+        explicit Record(std::string name)
+            : name_(std::move(name)) {}
+        std::optional<Texts> values(const std::string& attribute) override {
+            return Texts{attribute == "dsAttrTypeStandard:PrimaryNTDomain" ? "KELP" : name_};
+        }
+        std::string name_;
+    };
+    std::unordered_map<std::string, std::shared_ptr<platform::DirectoryRecord>> records_;
+};
+
+std::string quotaReply(std::int64_t users, bool named) {
+    std::string reply =
+        R"(<adminReply><userQuota><browse><result value="0"><description>success</description>)"
+        "</result><userList>";
+    for (std::int64_t user = 0; user < users; ++user) {
+        reply += "<user>";
+        if (named)
+            reply += "<userName>CN=user" + std::to_string(user) + ".OU=unit.O=org</userName>";
+        reply += "<id>" + sid(user) + "</id><quota>53687091200</quota><spaceUsed>" +
+                 std::to_string(9'000'000'000 + user * 4096) + "</spaceUsed></user>";
+    }
+    return reply + "</userList></browse></userQuota></adminReply>";
+}
+
+void listQuotas(benchmark::State& state, const char* identityType) {
+    const std::string reply = quotaReply(state.range(0), identityType == identityMorvane);
+    compareOn(state, reply, [&] {
+        UserQuotaList rows;
+        XMLReadWriteController::decodeUserQuotaInfo(reply, rows, identityType);
+        if (rows.size() != static_cast<std::size_t>(state.range(0)))
+            std::abort();
+    });
+}
+
+void ListQuotas(benchmark::State& state) {
+    listQuotas(state, "Morvane");
+}
+BENCHMARK(ListQuotas)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+/// The same with names from Active Directory. "directory" is what the directory alone takes to answer for
+/// every user, in bare event passes.
+void ListQuotasNamedByDirectory(benchmark::State& state) {
+    const test::FakeWorld world;
+    platform::Services services = platform::services();
+    const auto directory = std::make_shared<MapDirectory>(state.range(0));
+    services.directory = directory;
+    const platform::ScopedServices installed(services);
+    listQuotas(state, "ActiveDirectory");
+
+    const double begin = benchmarks::threadSeconds();
+    platform::DirectoryQuery query;
+    for (std::int64_t user = 0; user < state.range(0); ++user) {
+        query.values = {sid(user)};
+        const auto records = directory->query(query);
+        for (const char* attribute : {"dsAttrTypeStandard:PrimaryNTDomain", "dsAttrTypeStandard:RecordName"})
+            benchmark::DoNotOptimize(records->front()->values(attribute));
+    }
+    state.counters["directory"] = 1e3 * (benchmarks::threadSeconds() - begin) / state.counters["baseline_ms"];
+}
+BENCHMARK(ListQuotasNamedByDirectory)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
+
+/// Writing the requests for changed quotas, against a bare pass over them.
+void BuildQuotaChanges(benchmark::State& state) {
+    UserQuotaList rows;
+    for (std::int64_t user = 0; user < state.range(0); ++user) {
+        rows.push_back(
+            std::make_shared<UserQuotaData>("", sid(user), "Users", user * 4096, 0, "ActiveDirectory"));
+        rows.back()->action = "MODIFY";
+    }
+    const std::string text = XMLReadWriteController::createSetUserQuotaRequest("VOL1", rows, "");
+    compareOn(state, text, [&] {
+        for (std::size_t begin = 0; begin < rows.size(); begin += 300) {
+            const auto batch =
+                std::span(rows).subspan(begin, std::min<std::size_t>(300, rows.size() - begin));
+            benchmark::DoNotOptimize(XMLReadWriteController::createSetUserQuotaRequest("VOL1", batch, ""));
+        }
+    });
+}
+BENCHMARK(BuildQuotaChanges)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+} // namespace
+} // namespace quorvan
+
+BENCHMARK_MAIN();
