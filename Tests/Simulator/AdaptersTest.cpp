@@ -183,12 +183,6 @@ TEST(SimulatedFileSystem, FindsServersByTheFirstLabelOfTheirName) {
     EXPECT_EQ(world.network->resolve("FILES"), demo::address);
     for (const char* none : {"192", "meridal", "files3", ""})
         EXPECT_EQ(world.network->resolve(none), "") << none;
-    EXPECT_EQ(world.network->mount("smb://files2/IPC$", demo::supervisor, demo::password, {}).error, 0);
-    const int pipe = world.network->open("/Volumes/IPC$/ZelSmbPipe");
-    EXPECT_GT(world.network->write(pipe, userTypeRequest.data(), userTypeRequest.size()), 0);
-    char buffer[4096];
-    EXPECT_GT(world.network->read(pipe, buffer, sizeof buffer), 0);
-    EXPECT_EQ(world.secondServer->requestCount(), 1U);
 }
 
 TEST(Embedded, HandsOverSelectionAndCredentials) {
@@ -235,23 +229,6 @@ TEST(DemoData, GivesItsAccountsWhatTheirNamesSay) {
     const std::string many = "VOL1:\\Many";
     EXPECT_EQ(world.server->trustees(many).size(), 100000U);
     EXPECT_NE(world.server->trustees(many)[99999].identity->id, world.server->trustees(many)[0].identity->id);
-}
-
-TEST(DemoData, HasLinksThatLeadSomewhere) {
-    Embedded world = Embedded::demo();
-    const struct {
-        KelpServer& server;
-        const char* path;
-        KelpServer& target;
-    } links[] = {{*world.server, demo::link, *world.secondServer},
-                 {*world.server, demo::linkOnSameServer, *world.server},
-                 {*world.secondServer, demo::linkOnLink, *world.server}};
-    for (const auto& [server, path, target] : links) {
-        const Link link = server.volumes().find(path)->link.value();
-        EXPECT_NE(target.volumes().find(link.volume + ":\\" + link.path), nullptr) << path;
-        EXPECT_EQ(target.volumes().firstLink(link.volume + ":\\" + link.path), nullptr) << path;
-        EXPECT_EQ(link.server, &target == world.server.get() ? demo::host : demo::secondHost);
-    }
 }
 
 TEST(DemoData, HasEveryKindOfOwnerAttributeAndQuota) {
