@@ -9,12 +9,24 @@ namespace quorvan {
 namespace {
 
 constexpr std::array<const char*, 17> messageKeys = {
-    "Err_Msg_Duplicate_Trustee", "Err_No_Object",          "Err_MI_Create_Failed",
-    "Err_Fail_SalvagePurge",     "Err_Invalid_FileName",   "Err_Duplicate_FileName",
-    "Err_Invalid_FilePath",      "Err_Empty_FileName",     "Err_NIT_Down",
-    "Err_No_Privilege",          "Err_Purge_Warning",      "Err_CancelAll_Warning",
-    "Err_Keychain_Not_Found",    "Err_Pipe_Open_Failed",   "Err_Operation_Failed",
-    "Err_AD_Connect",            "Err_Logged_User_Morvane"};
+    "Err_Msg_Duplicate_Trustee",
+    "Err_No_Object",
+    "Err_MI_Create_Failed",
+    "Err_Fail_SalvagePurge",
+    "Err_Invalid_FileName",
+    "Err_Duplicate_FileName",
+    "Err_Invalid_FilePath",
+    "Err_Empty_FileName",
+    "Err_NIT_Down",
+    "Err_No_Privilege",
+    "Err_Purge_Warning",
+    "Err_CancelAll_Warning",
+    "Err_Keychain_Not_Found",
+    "Err_Pipe_Open_Failed",
+    "Err_Operation_Failed",
+    "Err_AD_Connect",
+    "Err_Logged_User_Morvane",
+};
 
 void display(errorCode code, const char* titleKey, platform::AlertStyle style) {
     platform::Services& services = platform::services();

@@ -14,11 +14,15 @@ namespace quorvan {
 /// The argument only refers to the text it is made from, so it is built in the call that uses it.
 class FormatArgument {
 public:
-    FormatArgument(std::string_view value) : text_(value) {}
-    FormatArgument(const std::string& value) : text_(value) {}
-    FormatArgument(const char* value) : text_(value) {}
+    FormatArgument(std::string_view value)
+        : text_(value) {}
+    FormatArgument(const std::string& value)
+        : text_(value) {}
+    FormatArgument(const char* value)
+        : text_(value) {}
     FormatArgument(std::integral auto value) {
-        length_ = static_cast<std::size_t>(std::to_chars(digits_, digits_ + sizeof digits_, value).ptr - digits_);
+        length_ =
+            static_cast<std::size_t>(std::to_chars(digits_, digits_ + sizeof digits_, value).ptr - digits_);
     }
 
     std::string_view text() const { return length_ > 0 ? std::string_view(digits_, length_) : text_; }
@@ -36,7 +40,8 @@ template <class Piece>
 void forEachPiece(std::string_view format, std::initializer_list<FormatArgument> arguments, Piece&& piece) {
     auto argument = arguments.begin();
     std::size_t from = 0;
-    for (std::size_t at = 0; argument != arguments.end() && (at = format.find('%', at)) != std::string_view::npos;) {
+    for (std::size_t at = 0;
+         argument != arguments.end() && (at = format.find('%', at)) != std::string_view::npos;) {
         if (at + 1 < format.size() && (format[at + 1] == '@' || format[at + 1] == 'd')) {
             piece(format.substr(from, at - from));
             piece((argument++)->text());

@@ -30,9 +30,9 @@ std::string linePrefix() {
     std::strftime(date, sizeof date, "%Y-%m-%d %H:%M:%S", &local);
     std::strftime(zone, sizeof zone, "%z", &local);
     char prefix[160];
-    const int length = std::snprintf(prefix, sizeof prefix, "%s.%06ld%s %.64s[%ld:%ld] ", date, now.tv_nsec / 1000,
-                                     zone, program_invocation_short_name, static_cast<long>(getpid()),
-                                     static_cast<long>(syscall(SYS_gettid)));
+    const int length = std::snprintf(prefix, sizeof prefix, "%s.%06ld%s %.64s[%ld:%ld] ", date,
+                                     now.tv_nsec / 1000, zone, program_invocation_short_name,
+                                     static_cast<long>(getpid()), static_cast<long>(syscall(SYS_gettid)));
     return {prefix, static_cast<std::size_t>(length)};
 }
 
@@ -41,7 +41,8 @@ std::string linePrefix() {
 void writeAll(std::vector<iovec> pieces) {
     std::size_t first = 0;
     while (first < pieces.size()) {
-        const ssize_t written = writev(STDERR_FILENO, &pieces[first], static_cast<int>(pieces.size() - first));
+        const ssize_t written =
+            writev(STDERR_FILENO, &pieces[first], static_cast<int>(pieces.size() - first));
         if (written < 0) {
             if (errno == EINTR)
                 continue;

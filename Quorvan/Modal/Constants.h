@@ -59,14 +59,15 @@ struct FileAttributes {
          {"immediatePurge", R"(<immediatePurge enabled="yes"/>)", R"(<immediatePurge enabled="no"/>)"},
          {"renameInhibit", R"(<renameInhibit enabled="yes"/>)", R"(<renameInhibit enabled="no"/>)"},
          {"deleteInhibit", R"(<deleteInhibit enabled="yes"/>)", R"(<deleteInhibit enabled="no"/>)"},
-         {"compressImmediate", R"(<compressImmediate enabled="yes"/>)", R"(<compressImmediate enabled="no"/>)"},
+         {"compressImmediate", R"(<compressImmediate enabled="yes"/>)",
+          R"(<compressImmediate enabled="no"/>)"},
          {"doNotCompress", R"(<doNotCompress enabled="yes"/>)", R"(<doNotCompress enabled="no"/>)"}}};
 };
 
 /// Object classes (lower case, as the server reports them) that sort directory-tree entries.
 struct MorvaneObjectTypes {
-    static constexpr std::array<std::string_view, 4> USERS = {"inetorgperson", "person", "organizationalperson",
-                                                              "user"};
+    static constexpr std::array<std::string_view, 4> USERS = {"inetorgperson", "person",
+                                                              "organizationalperson", "user"};
     static constexpr std::array<std::string_view, 3> GROUPS = {"top", "groupofnames", "group"};
     static constexpr std::array<std::string_view, 6> CONTAINERS = {
         "country", "locality", "domain", "organization", "organizational unit", "container"};

@@ -7,7 +7,11 @@ namespace quorvan {
 
 UserQuotaData::UserQuotaData(std::string name, std::string id, std::string type, std::int64_t limit,
                              std::int64_t used, std::string identity)
-    : displayName(std::move(name)), SID(std::move(id)), userType(std::move(type)), quotaLimit(limit),
-      quotaUsed(used), domainIdentity(std::move(identity)) {}
+    : displayName(std::move(name))
+    , SID(std::move(id))
+    , userType(std::move(type))
+    , quotaLimit(limit)
+    , quotaUsed(used)
+    , domainIdentity(std::move(identity)) {}
 
 } // namespace quorvan

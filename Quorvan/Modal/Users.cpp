@@ -6,17 +6,24 @@
 namespace quorvan {
 
 User::User(std::string name, std::string type, std::string id)
-    : trusteeName(std::move(name)), trusteeType(std::move(type)), trusteeID(std::move(id)) {}
+    : trusteeName(std::move(name))
+    , trusteeType(std::move(type))
+    , trusteeID(std::move(id)) {}
 
-Trustees::Trustees(std::string name, std::string id, std::uint16_t mask, std::string pendingStatus, std::string type,
-                   std::string domain)
-    : User(std::move(name), std::move(type), std::move(id)), rights(mask), status(std::move(pendingStatus)),
-      domainType(std::move(domain)) {
+Trustees::Trustees(std::string name, std::string id, std::uint16_t mask, std::string pendingStatus,
+                   std::string type, std::string domain)
+    : User(std::move(name), std::move(type), std::move(id))
+    , rights(mask)
+    , status(std::move(pendingStatus))
+    , domainType(std::move(domain)) {
     nameTheTypeOfEveryone();
 }
 
 Trustees::Trustees(const Trustees& other)
-    : User(other), rights(other.rights), status(other.status), domainType(other.domainType) {
+    : User(other)
+    , rights(other.rights)
+    , status(other.status)
+    , domainType(other.domainType) {
     nameTheTypeOfEveryone();
 }
 

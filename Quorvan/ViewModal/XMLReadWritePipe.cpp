@@ -43,8 +43,9 @@ void logMountError(int error, const std::string& mountUrl) {
 /// long reply from one place to the next costs as much as reading it.
 void makeRoom(std::string& reply) {
     constexpr std::size_t room = 3 * XMLReadWriteController::MEM_SIZE; // a piece of nothing but invalid bytes
+    constexpr std::size_t leap = 1U << 20U;
     if (reply.capacity() - reply.size() < room)
-        reply.reserve(16 * reply.size() + room);
+        reply.reserve(4 * reply.size() + leap);
 }
 
 } // namespace

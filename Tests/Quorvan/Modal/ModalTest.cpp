@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Modal/Constants.h"
-#include "Quorvan/Modal/UserQuotaData.h"
 #include "Quorvan/Modal/Users.h"
 #include "Quorvan/Modal/Utils.h"
 
@@ -38,16 +37,6 @@ TEST(KelpRights, ChangeOneBitOnly) {
     EXPECT_EQ(withRight(0x01FB, KelpRights::modify, false), 0x017B);
     EXPECT_EQ(withRight(0x0000, KelpRights::supervisor, true), 0x0100);
     EXPECT_EQ(withRight(0xF004, KelpRights::read, true), 0xF005);
-}
-
-TEST(UserQuotaData, StartsWithValuesThatArePresent) {
-    const UserQuotaData data;
-    EXPECT_EQ(data.action, "NONE");
-    EXPECT_EQ(data.userType, "Users");
-    EXPECT_EQ(data.quotaLimit, 0);
-    EXPECT_EQ(data.quotaUsed, 0);
-    EXPECT_EQ(data.quotaAvailable, 0);
-    EXPECT_FALSE(data.domainIdentity);
 }
 
 TEST(Utils, NormaliseLowerAndFold) {
