@@ -41,7 +41,8 @@ inline Services& services() {
 class ScopedServices {
 public:
     explicit ScopedServices(Services services)
-        : services_(std::move(services)), previous_(std::exchange(detail::installedServices, &services_)) {}
+        : services_(std::move(services))
+        , previous_(std::exchange(detail::installedServices, &services_)) {}
     ~ScopedServices() { detail::installedServices = previous_; }
     ScopedServices(const ScopedServices&) = delete;
     ScopedServices& operator=(const ScopedServices&) = delete;

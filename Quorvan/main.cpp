@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/Log.h"
+#include "Platform/Linux/LdapDirectory.h"
 #include "Platform/Linux/PlistSharedDefaults.h"
 #include "Platform/Linux/SecretServiceKeychain.h"
 #include "Platform/Linux/SmbClientFileSystem.h"
-#include "Platform/Linux/UnboundDirectory.h"
 #include "Platform/Qt/QtAlerts.h"
 #include "Platform/Qt/QtBundle.h"
 #include "Platform/Qt/QtWaitCursor.h"
@@ -56,7 +56,7 @@ quorvan::platform::Services platformServices() {
     services.sharedDefaults = std::make_shared<PlistSharedDefaults>(log);
     services.keychain = std::make_shared<SecretServiceKeychain>();
     services.network = std::make_shared<SmbClientFileSystem>(log);
-    services.directory = std::make_shared<UnboundDirectory>();
+    services.directory = std::make_shared<LdapDirectory>(services.keychain, log);
     services.bundle = std::make_shared<QtBundle>();
     services.alerts = std::make_shared<QtAlerts>();
     services.busy = std::make_shared<QtWaitCursor>();

@@ -1,0 +1,404 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/LdapSession.h"
+
+#include <cerrno>
+#include <condition_variable>
+#include <cstring>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+#include <netinet/in.h>
+#include <sasl/sasl.h>
+#include <sys/socket.h>
+
+namespace quorvan::platform {
+namespace {
+
+constexpr ber_int_t pageSize = 1000; ///< a domain controller gives no more at once
+
+template <class Type, void (*release)(Type*)>
+struct Release {
+    void operator()(Type* object) const { release(object); }
+};
+using Url = std::unique_ptr<LDAPURLDesc, Release<LDAPURLDesc, ldap_free_urldesc>>;
+using Control = std::unique_ptr<LDAPControl, Release<LDAPControl, ldap_control_free>>;
+using Controls = std::unique_ptr<LDAPControl*, Release<LDAPControl*, ldap_controls_free>>;
+using Values = std::unique_ptr<berval*, Release<berval*, ldap_value_free_len>>;
+struct FreeText {
+    void operator()(char* text) const { ldap_memfree(text); }
+};
+using Text = std::unique_ptr<char, FreeText>;
+
+timeval timevalOf(std::chrono::milliseconds duration) {
+    timeval value{};
+    value.tv_sec = static_cast<time_t>(duration.count() / 1000);
+    value.tv_usec = static_cast<suseconds_t>(duration.count() % 1000 * 1000);
+    return value;
+}
+
+int socketOf(LDAP* handle) {
+    int descriptor = -1;
+    ldap_get_option(handle, LDAP_OPT_DESC, &descriptor);
+    return descriptor;
+}
+
+/// Ends a connection when it outlives a time limit within this object's lifetime. The beginning of TLS
+/// needs it: libldap waits for a silent server there without end, whatever limits it was given.
+class Watchdog {
+public:
+    Watchdog(LDAP* handle, std::chrono::milliseconds limit)
+        : thread_([this, descriptor = socketOf(handle), limit](const std::stop_token& stop) {
+            std::unique_lock lock(mutex_);
+            changed_.wait_for(lock, stop, limit, [] { return false; });
+            if (!stop.stop_requested()) {
+                hasBitten_ = true;
+                ::shutdown(descriptor, SHUT_RDWR);
+            }
+        }) {}
+
+    /// Calls it off; whether it has ended the connection by then.
+    bool stop() {
+        thread_.request_stop();
+        thread_.join();
+        return hasBitten_;
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable_any changed_;
+    bool hasBitten_ = false;
+    std::jthread thread_;
+};
+
+/// What libldap says beyond a code; "" when it says nothing.
+std::string diagnosis(LDAP* handle) {
+    char* text = nullptr;
+    ldap_get_option(handle, LDAP_OPT_DIAGNOSTIC_MESSAGE, &text);
+    const Text owner(text);
+    return text == nullptr ? "" : text;
+}
+
+/// Gives a connection the TLS settings of ldap.conf, except that certificates are verified whatever that
+/// says. A connection inherits none of the former once it has any of its own.
+bool prepareTls(LDAP* handle) {
+    for (const int option : {LDAP_OPT_X_TLS_CACERTFILE, LDAP_OPT_X_TLS_CACERTDIR, LDAP_OPT_X_TLS_CERTFILE,
+                             LDAP_OPT_X_TLS_KEYFILE, LDAP_OPT_X_TLS_CRLFILE, LDAP_OPT_X_TLS_CIPHER_SUITE}) {
+        char* value = nullptr;
+        ldap_get_option(nullptr, option, &value);
+        const Text owner(value);
+        if (value != nullptr)
+            ldap_set_option(handle, option, value);
+    }
+    int oldest = 0;
+    ldap_get_option(nullptr, LDAP_OPT_X_TLS_PROTOCOL_MIN, &oldest);
+    ldap_set_option(handle, LDAP_OPT_X_TLS_PROTOCOL_MIN, &oldest);
+    const int demand = LDAP_OPT_X_TLS_DEMAND;
+    ldap_set_option(handle, LDAP_OPT_X_TLS_REQUIRE_CERT, &demand);
+    const int forClient = 0;
+    return ldap_set_option(handle, LDAP_OPT_X_TLS_NEWCTX, &forClient) == LDAP_SUCCESS;
+}
+
+/// libldap has no code of its own for this. Its GnuTLS build leaves the error text of the library unknown
+/// only when it has rejected the certificate itself.
+bool isCertificateTrouble(const std::string& diagnosis) {
+    const auto says = [&](const char* word) { return diagnosis.find(word) != std::string::npos; };
+    return says("certificate") || says("hostname") || says("unknown error code");
+}
+
+/// Answers the questions of a SASL mechanism with its own proposals: the ticket says all there is to say.
+int acceptProposals(LDAP*, unsigned, void*, void* questions) {
+    for (auto* each = static_cast<sasl_interact_t*>(questions); each->id != SASL_CB_LIST_END; ++each) {
+        each->result = each->defresult == nullptr ? "" : each->defresult;
+        each->len = static_cast<unsigned>(std::strlen(static_cast<const char*>(each->result)));
+    }
+    return LDAP_SUCCESS;
+}
+
+/// Domain controllers know an account in a simple bind by name@domain, DOMAIN\name or distinguished name.
+std::string withDomain(const std::string& account, const std::string& base) {
+    if (account.find_first_of("@\\=") != std::string::npos)
+        return account;
+    char* domain = nullptr;
+    ldap_dn2domain(base.c_str(), &domain);
+    const Text owner(domain);
+    return domain == nullptr ? account : account + "@" + domain;
+}
+
+/// A keychain item whose secret goes with it.
+struct Credentials {
+    explicit Credentials(KeychainResult found)
+        : result(std::move(found)) {}
+    ~Credentials() {
+        if (areComplete())
+            ::explicit_bzero(&result.item->data->front(), result.item->data->size());
+    }
+    Credentials(const Credentials&) = delete;
+    Credentials& operator=(const Credentials&) = delete;
+
+    /// Logging in with no password would succeed, as nobody.
+    bool areComplete() const {
+        return result.status == 0 && result.item && result.item->account && !result.item->account->empty() &&
+               result.item->data && !result.item->data->empty();
+    }
+
+    KeychainResult result;
+};
+
+std::vector<std::string> valuesOf(LDAP* handle, LDAPMessage* entry, const std::string& attribute) {
+    std::vector<std::string> found;
+    const Values values(ldap_get_values_len(handle, entry, attribute.c_str()));
+    for (berval** at = values.get(); at != nullptr && *at != nullptr; ++at)
+        found.emplace_back((*at)->bv_val, (*at)->bv_len);
+    return found;
+}
+
+} // namespace
+
+const std::string* LdapEntry::first(const std::string& attribute) const {
+    const auto found = attributes.find(attribute);
+    return found == attributes.end() || found->second.empty() ? nullptr : &found->second.front();
+}
+
+LdapSession::LdapSession(std::string uri, std::chrono::milliseconds timeLimit)
+    : uri_(std::move(uri))
+    , timeLimit_(timeLimit) {}
+
+LdapFailure LdapSession::failure(int error, const std::string& text) const {
+    return {error, "The directory server " + uri_ + " " + text};
+}
+
+LdapFailure LdapSession::answer(int code) const {
+    if (code == LDAP_SERVER_DOWN || code == LDAP_CONNECT_ERROR || code == LDAP_UNAVAILABLE)
+        return failure(ECONNRESET, "has closed the connection");
+    if (code == LDAP_TIMEOUT)
+        return failure(ETIMEDOUT, "does not answer within the time limit");
+    return failure(EIO, std::string("answers: ") + ldap_err2string(code));
+}
+
+LdapFailure LdapSession::open(const std::string& uri, const std::string& base, Keychain& keychain,
+                              std::chrono::milliseconds timeLimit, std::unique_ptr<LdapSession>& session) {
+    std::unique_ptr<LdapSession> opened(new LdapSession(uri, timeLimit));
+    LdapFailure failure = opened->connect();
+    if (!failure && opened->scheme_ == "ldaps")
+        failure = opened->startTls(false);
+    if (!failure)
+        failure = opened->logIn(base, keychain);
+    if (!failure)
+        session = std::move(opened);
+    return failure;
+}
+
+LdapFailure LdapSession::connect() {
+    LDAPURLDesc* parts = nullptr;
+    if (ldap_url_parse(uri_.c_str(), &parts) != LDAP_URL_SUCCESS)
+        return failure(EINVAL, "has no such address");
+    const Url owner(parts);
+    scheme_ = parts->lud_scheme;
+    host_ = parts->lud_host == nullptr || *parts->lud_host == '\0' ? "localhost" : parts->lud_host;
+    port_ = parts->lud_port;
+    // TLS is begun by hand, so that a certificate that is not trusted can be told from a server that is not
+    // there.
+    std::string address = uri_;
+    if (scheme_ != "ldapi") {
+        const std::string host = host_.find(':') == std::string::npos ? host_ : "[" + host_ + "]";
+        address = "ldap://" + host + ":" + std::to_string(port_);
+    }
+    LDAP* handle = nullptr;
+    if (ldap_initialize(&handle, address.c_str()) != LDAP_SUCCESS)
+        return failure(EINVAL, "has no such address");
+    handle_.reset(handle);
+    const int version = LDAP_VERSION3;
+    const timeval limit = timevalOf(timeLimit_);
+    ldap_set_option(handle, LDAP_OPT_PROTOCOL_VERSION, &version);
+    ldap_set_option(handle, LDAP_OPT_REFERRALS, LDAP_OPT_OFF);
+    ldap_set_option(handle, LDAP_OPT_RESTART, LDAP_OPT_ON);
+    ldap_set_option(handle, LDAP_OPT_NETWORK_TIMEOUT, &limit);
+    ldap_set_option(handle, LDAP_OPT_TIMEOUT, &limit);
+    if (ldap_connect(handle) != LDAP_SUCCESS)
+        return failure(EHOSTUNREACH, "cannot be reached");
+    // libldap's own limits hold until an answer begins; these hold when it stops halfway.
+    ::setsockopt(socketOf(handle), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+    ::setsockopt(socketOf(handle), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
+    return {};
+}
+
+LdapFailure LdapSession::startTls(bool byRequest) {
+    LDAP* const handle = handle_.get();
+    if (!prepareTls(handle))
+        return failure(EKEYREJECTED, "cannot be verified: the TLS files of ldap.conf are not usable");
+    Watchdog watchdog(handle, timeLimit_);
+    ldap_set_option(handle, LDAP_OPT_NETWORK_TIMEOUT, nullptr); // with a limit it would poll all the time
+    int code = byRequest ? ldap_start_tls_s(handle, nullptr, nullptr) : ldap_install_tls(handle);
+    if (watchdog.stop())
+        code = LDAP_TIMEOUT;
+    if (code == LDAP_SUCCESS)
+        return {};
+    if (code == LDAP_CONNECT_ERROR && isCertificateTrouble(diagnosis(handle)))
+        return failure(EKEYREJECTED, "has a certificate that is not trusted");
+    if (code == LDAP_TIMEOUT || code == LDAP_SERVER_DOWN)
+        return answer(code);
+    if (code == LDAP_CONNECT_ERROR || !byRequest)
+        return failure(ECONNRESET, "breaks off the beginning of TLS");
+    return failure(EPROTONOSUPPORT, "does not offer TLS, and no password is sent without");
+}
+
+LdapFailure LdapSession::logIn(const std::string& base, Keychain& keychain) {
+    const int code = logInWithTicket();
+    if (code == LDAP_SUCCESS)
+        return {};
+    if (code == LDAP_SERVER_DOWN || code == LDAP_TIMEOUT)
+        return answer(code);
+    const Credentials credentials(keychain.findInternetPassword(host_));
+    if (!credentials.areComplete())
+        return failure(EACCES,
+                       "lets nobody in: there is neither a valid ticket nor a keyring item for " + host_);
+    const KeychainItem& item = *credentials.result.item;
+    return logInWithPassword(withDomain(*item.account, base), *item.data);
+}
+
+int LdapSession::logInWithTicket() {
+    LDAP* const handle = handle_.get();
+    // A ticket encrypts what follows, but not once more within TLS.
+    const bool tls = ldap_tls_inplace(handle) != 0;
+    const ber_len_t strength = tls ? 0 : 56;
+    ldap_set_option(handle, tls ? LDAP_OPT_X_SASL_SSF_MAX : LDAP_OPT_X_SASL_SSF_MIN, &strength);
+    if (tls) {
+        const int endpoint = LDAP_OPT_X_SASL_CBINDING_TLS_ENDPOINT;
+        ldap_set_option(handle, LDAP_OPT_X_SASL_CBINDING, &endpoint);
+    }
+    return ldap_sasl_interactive_bind_s(handle, nullptr, "GSSAPI", nullptr, nullptr, LDAP_SASL_QUIET,
+                                        acceptProposals, nullptr);
+}
+
+LdapFailure LdapSession::logInWithPassword(const std::string& account, const std::string& password) {
+    LDAP* const handle = handle_.get();
+    berval secret{static_cast<ber_len_t>(password.size()), const_cast<char*>(password.data())};
+    const auto bind = [&] {
+        return ldap_sasl_bind_s(handle, account.c_str(), LDAP_SASL_SIMPLE, &secret, nullptr, nullptr,
+                                nullptr);
+    };
+    const auto needsTls = [](int code) {
+        return code == LDAP_STRONG_AUTH_REQUIRED || code == LDAP_CONFIDENTIALITY_REQUIRED;
+    };
+    int code = LDAP_CONFIDENTIALITY_REQUIRED;
+    if (ldap_tls_inplace(handle) != 0 || reachesThisMachine())
+        code = bind();
+    if (needsTls(code) && ldap_tls_inplace(handle) == 0) {
+        if (LdapFailure tls = startTls(true))
+            return tls;
+        code = bind();
+    }
+    if (code == LDAP_SUCCESS)
+        return {};
+    if (code == LDAP_INVALID_CREDENTIALS)
+        return failure(EACCES, "refuses the keyring's password of " + account);
+    return answer(code);
+}
+
+bool LdapSession::reachesThisMachine() const {
+    sockaddr_storage peer{};
+    socklen_t size = sizeof peer;
+    if (::getpeername(socketOf(handle_.get()), reinterpret_cast<sockaddr*>(&peer), &size) != 0)
+        return false;
+    in_addr_t v4 = 0;
+    in6_addr v6{};
+    if (peer.ss_family == AF_INET) {
+        v4 = reinterpret_cast<const sockaddr_in&>(peer).sin_addr.s_addr;
+    } else if (peer.ss_family == AF_INET6) {
+        v6 = reinterpret_cast<const sockaddr_in6&>(peer).sin6_addr;
+        if (IN6_IS_ADDR_V4MAPPED(&v6))
+            std::memcpy(&v4, &v6.s6_addr[12], sizeof v4);
+    }
+    return peer.ss_family == AF_UNIX || IN6_IS_ADDR_LOOPBACK(&v6) || ntohl(v4) >> 24U == IN_LOOPBACKNET;
+}
+
+/// Where a search stands between two pages.
+struct LdapSession::Page {
+    berval cookie{0, nullptr}; ///< empty before the first page and after the last
+    Page() = default;
+    ~Page() { ldap_memfree(cookie.bv_val); }
+    Page(const Page&) = delete;
+    Page& operator=(const Page&) = delete;
+};
+
+LdapFailure LdapSession::search(const LdapSearch& search, std::vector<LdapEntry>& found) {
+    using Clock = std::chrono::steady_clock;
+    Page page;
+    Clock::time_point lastProgress = Clock::now();
+    do {
+        const std::size_t before = found.size();
+        if (LdapFailure failure = readPage(search, page, found))
+            return failure;
+        if (found.size() > before)
+            lastProgress = Clock::now();
+        else if (Clock::now() - lastProgress > timeLimit_) // one empty page after the other
+            return answer(LDAP_TIMEOUT);
+    } while (page.cookie.bv_len > 0 && (search.limit == 0 || found.size() < search.limit));
+    if (search.limit != 0 && found.size() > search.limit)
+        found.resize(search.limit);
+    return {};
+}
+
+LdapFailure LdapSession::readPage(const LdapSearch& search, Page& page, std::vector<LdapEntry>& found) {
+    LDAP* const handle = handle_.get();
+    Message message;
+    if (LdapFailure failure = exchange(search, page.cookie, message))
+        return failure;
+    int code = LDAP_SUCCESS;
+    LDAPControl** answered = nullptr;
+    const int parsed =
+        ldap_parse_result(handle, message.get(), &code, nullptr, nullptr, nullptr, &answered, 0);
+    const Controls controls(answered);
+    if (parsed != LDAP_SUCCESS || code != LDAP_SUCCESS)
+        return answer(parsed != LDAP_SUCCESS ? parsed : code);
+    for (LDAPMessage* entry = ldap_first_entry(handle, message.get()); entry != nullptr;
+         entry = ldap_next_entry(handle, entry)) {
+        const Text name(ldap_get_dn(handle, entry));
+        LdapEntry& each = found.emplace_back();
+        each.distinguishedName = name ? name.get() : "";
+        for (const std::string& attribute : search.attributes)
+            each.attributes[attribute] = valuesOf(handle, entry, attribute);
+    }
+    ldap_memfree(page.cookie.bv_val);
+    page.cookie = {0, nullptr};
+    ber_int_t estimate = 0;
+    if (LDAPControl* control = ldap_control_find(LDAP_CONTROL_PAGEDRESULTS, answered, nullptr))
+        ldap_parse_pageresponse_control(handle, control, &estimate, &page.cookie);
+    return {};
+}
+
+/// Asks for the page at a cookie and waits for all of it.
+LdapFailure LdapSession::exchange(const LdapSearch& search, berval& cookie, Message& message) {
+    LDAP* const handle = handle_.get();
+    std::vector<char*> attributes;
+    for (const std::string& name : search.attributes)
+        attributes.push_back(const_cast<char*>(name.c_str()));
+    attributes.push_back(nullptr);
+    LDAPControl* paging = nullptr;
+    if (ldap_create_page_control(handle, pageSize, &cookie, 1, &paging) != LDAP_SUCCESS)
+        return answer(LDAP_NO_MEMORY);
+    const Control owner(paging);
+    LDAPControl* controls[] = {search.scope == LDAP_SCOPE_BASE ? nullptr : paging, nullptr};
+    timeval limit = timevalOf(timeLimit_);
+    int id = 0;
+    int code = ldap_search_ext(handle, search.base.c_str(), search.scope, search.filter.c_str(),
+                               attributes.data(), 0, controls, nullptr, &limit, LDAP_NO_LIMIT, &id);
+    if (code != LDAP_SUCCESS)
+        return answer(code);
+    LDAPMessage* received = nullptr;
+    const int kind = ldap_result(handle, id, LDAP_MSG_ALL, &limit, &received);
+    message.reset(received);
+    if (kind > 0)
+        return {};
+    code = LDAP_TIMEOUT;
+    if (kind < 0)
+        ldap_get_option(handle, LDAP_OPT_RESULT_CODE, &code);
+    return answer(code);
+}
+
+bool LdapSession::isGlobalCatalogue() const {
+    return port_ == 3268 || port_ == 3269;
+}
+
+} // namespace quorvan::platform

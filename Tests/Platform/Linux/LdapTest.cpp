@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/LdapDirectory.h"
+#include "Platform/Linux/LdapFilter.h"
+#include "Tests/Support/LdapSetting.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <thread>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace quorvan::platform {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using Texts = std::vector<std::string>;
+
+const Texts users{"dsRecTypeStandard:Users"};
+const Texts both{"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
+
+TEST(LdapFilter, TurnsIdentifiersIntoBytesAndBack) {
+    using std::string_literals::operator""s;
+    const std::pair<const char*, std::string> pairs[] = {
+        {"S-1-1-0", "\1\1\0\0\0\0\0\1\0\0\0\0"s},
+        {"S-1-5", "\1\0\0\0\0\0\0\5"s},
+        {"S-1-5-32-4294967295", "\1\2\0\0\0\0\0\5\x20\0\0\0\xff\xff\xff\xff"s},
+        {"S-255-281474976710655", "\xff\0\xff\xff\xff\xff\xff\xff"s},
+    };
+    for (const auto& [text, bytes] : pairs) {
+        EXPECT_EQ(sidBytes(text), bytes);
+        EXPECT_EQ(sidText(bytes), text);
+        EXPECT_EQ(sidText(bytes + '\0'), std::nullopt);
+        EXPECT_EQ(sidText(std::string_view(bytes).substr(1)), std::nullopt);
+    }
+    for (const char* text :
+         {"", "S", "S-", "S-1", "S-1-", "S-1-5-", "S-1-5-x", "S-1-5-1 ", "S-1-5--1", "S-1-5-+1", "S-256-5",
+          "S-1-281474976710656", "S-1-5-4294967296", "T-1-5", "S-1-5-1-2-3-4-5-6-7-8-9-10-11-12-13-14-15-16"})
+        EXPECT_EQ(sidBytes(text), std::nullopt) << text;
+}
+
+TEST(LdapFilter, KeepsValuesFromMeaningAnything) {
+    const std::string name = "dsAttrTypeStandard:RecordName";
+    const struct {
+        DirectoryQuery query;
+        std::optional<std::string> filter;
+    } cases[] = {
+        {{users, name, DirectoryMatch::any, {}}, "(&(objectCategory=person)(objectClass=user))"},
+        {{both, name, DirectoryMatch::equalTo, {std::string("a*(\\)\0é", 8)}},
+         "(&(|(&(objectCategory=person)(objectClass=user))(objectClass=group))"
+         "(sAMAccountName=a\\2a\\28\\5c\\29\\00\\c3\\a9))"},
+        {{users, name, DirectoryMatch::contains, {"x)(cn=*", ""}},
+         "(&(&(objectCategory=person)(objectClass=user))"
+         "(|(sAMAccountName=*x\\29\\28cn\\3d\\2a*)(sAMAccountName=*)))"},
+        {{{"dsRecTypeStandard:Groups"}, "dsAttrTypeStandard:SMBSID", DirectoryMatch::equalTo, {"x", "S-1-5"}},
+         "(&(objectClass=group)(objectSid=\\01\\00\\00\\00\\00\\00\\00\\05))"},
+        {{users, "dsAttrTypeNative:cn=*)(cn", DirectoryMatch::equalTo, {"x"}}, std::nullopt},
+        {{users, "dsAttrTypeStandard:SMBSID", DirectoryMatch::equalTo, {"*"}}, std::nullopt},
+        {{users, "dsAttrTypeStandard:SMBSID", DirectoryMatch::contains, {"S-1-5"}}, std::nullopt},
+        {{users, name, DirectoryMatch::equalTo, {}}, std::nullopt},
+        {{users, name, DirectoryMatch::equalTo, {""}}, std::nullopt},
+        {{{"dsRecTypeStandard:Computers"}, name, DirectoryMatch::any, {}}, std::nullopt},
+    };
+    for (const auto& each : cases)
+        EXPECT_EQ(ldapFilter(each.query), each.filter);
+    EXPECT_TRUE(isBelow("CN=a,DC=B,DC=c", "dc=b,dc=c"));
+    EXPECT_FALSE(isBelow("DC=ab,DC=c", "DC=b,DC=c"));
+}
+
+/// One element of an LDAP message.
+std::string element(int tag, const std::string& content) {
+    std::string text{static_cast<char>(tag), '\x82', static_cast<char>(content.size() >> 8U),
+                     static_cast<char>(content.size() & 0xFFU)};
+    return text + content;
+}
+
+std::string message(int id, const std::string& operation, const std::string& controls = "") {
+    return element(0x30, std::string("\2\1") + static_cast<char>(id) + operation + controls);
+}
+
+std::string entry(int id, const std::vector<std::pair<std::string, std::string>>& attributes) {
+    std::string list;
+    for (const auto& [name, value] : attributes)
+        list += element(0x30, element(4, name) + element(0x31, element(4, value)));
+    return message(id, element(0x64, element(4, "CN=x,DC=a") + element(0x30, list)));
+}
+
+const std::string success("\x0a\1\0\4\0\4\0", 7);
+
+std::string done(int id, const std::string& cookie = "") {
+    const std::string paging = element(0x30, std::string("\2\1\0", 3) + element(4, cookie));
+    return message(id, element(0x65, success),
+                   element(0xA0, element(0x30, element(4, "1.2.840.113556.1.4.319") + element(4, paging))));
+}
+
+/// A server without manners: answers each request with the next of some texts, the last one again and
+/// again, and none at all when there are none. `requests` counts from 1, as a client's message numbers do.
+class RudeServer {
+public:
+    explicit RudeServer(std::function<std::string(int request)> answer) {
+        sockaddr_in address{};
+        socklen_t size = sizeof address;
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
+        ::bind(listener_, reinterpret_cast<const sockaddr*>(&address), size);
+        ::listen(listener_, 8);
+        ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
+        port = std::to_string(::ntohs(address.sin_port));
+        thread_ = std::thread([this, answer = std::move(answer)] {
+            for (int client = 0; (client = ::accept(listener_, nullptr, nullptr)) >= 0; ::close(client)) {
+                char request[4096];
+                for (int number = 1; ::recv(client, request, sizeof request, 0) > 0; ++number) {
+                    const std::string text = answer(number);
+                    ::send(client, text.data(), text.size(), MSG_NOSIGNAL);
+                }
+            }
+        });
+    }
+    ~RudeServer() {
+        ::shutdown(listener_, SHUT_RDWR);
+        thread_.join();
+        ::close(listener_);
+    }
+    RudeServer(const RudeServer&) = delete;
+    RudeServer& operator=(const RudeServer&) = delete;
+
+    std::string port;
+
+private:
+    int listener_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    std::thread thread_;
+};
+
+struct SameItem : Keychain {
+    KeychainResult findInternetPassword(const std::string&) override {
+        return {0, KeychainItem{"u", "s3cret"}};
+    }
+};
+
+struct Client {
+    Texts log;
+    LdapDirectory directory{std::make_shared<SameItem>(),
+                            [this](std::string_view line) { log.emplace_back(line); },
+                            std::chrono::milliseconds(300)};
+};
+
+TEST(LdapDirectory, IsUnboundWithoutBase) {
+    const test::LdapSetting base(LDAP_OPT_DEFBASE, "");
+    Client client;
+    EXPECT_EQ(client.directory.activeDirectoryState(), std::nullopt);
+    EXPECT_THAT(client.directory.nodeNames().value(), IsEmpty());
+    EXPECT_EQ(client.directory.openNetworkNode(), nullptr);
+    EXPECT_EQ(client.directory.openNode("/Active Directory/A"), nullptr);
+    client.directory.prefetch({"S-1-5"});
+    EXPECT_FALSE(client.directory.managedIdentities(IdentityClass::user).has_value());
+    EXPECT_THAT(client.log, IsEmpty());
+}
+
+TEST(LdapDirectory, SurvivesRudeServers) {
+    const test::LdapSetting base(LDAP_OPT_DEFBASE, "dc=north,dc=example");
+    const std::string bound = message(1, element(0x61, success));
+    const std::string root =
+        entry(2, {{"configurationNamingContext", "CN=C"}, {"namingContexts", "DC=a"}}) + done(2);
+    const std::string domains = entry(3, {{"nETBIOSName", "A"}, {"nCName", "DC=a"}}) + done(3);
+    using Answers = std::vector<std::string>;
+    const struct {
+        const char* scheme;
+        Answers answers;
+        const char* line;
+    } cases[] = {
+        {"ldap", {""}, "does not answer within the time limit"},
+        {"ldaps", {""}, "does not answer within the time limit"},
+        {"ldaps", {"no TLS at all"}, "beginning of TLS"},
+        {"ldap", {std::string("\x30\x84\xff\xff\xff\xff", 6)}, "time limit"},
+        {"ldap", {bound, done(2)}, "is no Active Directory"},
+        {"ldap", {bound, root, domains, "garbage"}, "time limit"},
+        {"ldap", {bound, root, domains, "endless"}, "time limit"},
+    };
+    for (const auto& each : cases) {
+        const RudeServer server([&](int request) {
+            const std::string& answer =
+                each.answers[std::min(each.answers.size(), static_cast<std::size_t>(request)) - 1];
+            return answer == "endless" ? done(request, "more") : answer;
+        });
+        const test::LdapSetting uri(LDAP_OPT_URI, std::string(each.scheme) + "://127.0.0.1:" + server.port);
+        Client client;
+        const auto node = client.directory.openNetworkNode();
+        if (node) {
+            EXPECT_EQ(node->query({users, "", DirectoryMatch::any, {}}), std::nullopt);
+        }
+        EXPECT_EQ(client.directory.openNetworkNode(), nullptr); // at once, and in silence
+        EXPECT_THAT(client.log, ElementsAre(HasSubstr(each.line))) << each.answers.back();
+        EXPECT_EQ(client.directory.activeDirectoryState().value().at("NodeName"), "/Active Directory/NORTH");
+    }
+}
+
+TEST(LdapDirectory, TakesBrokenEntriesAsTheyAre) {
+    const test::LdapSetting base(LDAP_OPT_DEFBASE, "dc=a");
+    const RudeServer server([](int request) {
+        const Texts answers{message(1, element(0x61, success)),
+                            entry(2, {{"configurationNamingContext", "CN=C"}, {"namingContexts", "DC=a"}}) +
+                                done(2),
+                            entry(3, {{"nETBIOSName", "A"}, {"nCName", "DC=a"}}) + done(3)};
+        return request <= 3 ? answers[static_cast<std::size_t>(request) - 1]
+                            : entry(request, {{"objectSid", "\1\5"}}) + done(request);
+    });
+    const test::LdapSetting uri(LDAP_OPT_URI, "ldap://127.0.0.1:" + server.port);
+    Client client;
+    const auto found =
+        client.directory.openNode("/Active Directory/A")->query({users, "", DirectoryMatch::any, {}});
+    ASSERT_EQ(found.value().size(), 1U);
+    EXPECT_THAT(found->front()->values("dsAttrTypeStandard:RecordName").value(), IsEmpty());
+    EXPECT_THAT(found->front()->values("dsAttrTypeStandard:SMBSID").value(), IsEmpty());
+    EXPECT_THAT(client.directory.managedIdentities(IdentityClass::user).value(), IsEmpty());
+    EXPECT_THAT(client.log, IsEmpty());
+}
+
+} // namespace
+} // namespace quorvan::platform

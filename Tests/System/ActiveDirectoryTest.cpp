@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/LdapDirectory.h"
+#include "Tests/System/ActiveDirectoryServer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <set>
+
+namespace quorvan::test {
+namespace {
+
+using namespace platform;
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::UnorderedElementsAre;
+using Texts = std::vector<std::string>;
+
+const std::string recordName = "dsAttrTypeStandard:RecordName";
+const std::string smbSid = "dsAttrTypeStandard:SMBSID";
+const Texts users{"dsRecTypeStandard:Users"};
+const Texts groups{"dsRecTypeStandard:Groups"};
+const Texts both{"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
+const std::string domainNode = "/Active Directory/QUORVAN/All Domains";
+const std::string odd = "Zoë (q*x\\y)";
+
+struct OneItem : Keychain {
+    std::string server, account = DomainController::administrator, data = DomainController::password;
+    KeychainResult findInternetPassword(const std::string& wanted) override {
+        if (wanted != server)
+            return {-25300, std::nullopt};
+        return {0, KeychainItem{account, data}};
+    }
+};
+
+/// A client of the domain controller that all tests share.
+class ActiveDirectory : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        if (DomainController::obstacle().empty())
+            controller = std::make_unique<DomainController>();
+    }
+    static void TearDownTestSuite() { controller.reset(); }
+    void SetUp() override {
+        if (!controller)
+            GTEST_SKIP() << DomainController::obstacle();
+        keychain->server = controller->address;
+    }
+
+    std::unique_ptr<LdapDirectory> client(std::chrono::milliseconds timeLimit = std::chrono::seconds(20)) {
+        return std::make_unique<LdapDirectory>(
+            keychain, [this](std::string_view line) { log.emplace_back(line); }, timeLimit);
+    }
+    static Texts namesOf(const std::optional<DirectoryRecords>& records) {
+        Texts names;
+        for (const auto& record : records.value())
+            names.push_back(record->values(recordName).value().at(0));
+        return names;
+    }
+    Texts find(const DirectoryQuery& query) {
+        const auto node = client()->openNode(domainNode);
+        return node ? namesOf(node->query(query)) : Texts{"no node"};
+    }
+    static std::shared_ptr<DirectoryRecord> one(DirectoryNode& node, const Texts& types,
+                                                const std::string& attribute, const std::string& value) {
+        const auto found = node.query({types, attribute, DirectoryMatch::equalTo, {value}});
+        return found && found->size() == 1 ? found->front() : nullptr;
+    }
+
+    static inline std::unique_ptr<DomainController> controller;
+    std::shared_ptr<OneItem> keychain = std::make_shared<OneItem>();
+    Texts log;
+};
+
+TEST_F(ActiveDirectory, ListsMoreThanOnePageOfUsersAndGroupsButNoComputers) {
+    const auto directory = client();
+    EXPECT_EQ(directory->activeDirectoryState().value().at("NodeName"), "/Active Directory/QUORVAN");
+    EXPECT_THAT(directory->nodeNames().value(), ElementsAre("/Active Directory/QUORVAN", domainNode));
+    EXPECT_EQ(directory->openNode("/Active Directory/OTHER"), nullptr);
+    EXPECT_EQ(errno, EHOSTUNREACH);
+    const auto node = directory->openNode(domainNode);
+    const Texts names = namesOf(node->query({users, recordName, DirectoryMatch::any, {}}));
+    EXPECT_GT(names.size(), 2500U); // Administrator, Guest and so on are there as well
+    EXPECT_EQ(std::set<std::string>(names.begin(), names.end()).size(), names.size());
+    EXPECT_THAT(names,
+                AllOf(Contains("user0000"), Contains("user2499"), Contains(odd), Not(Contains("DC1$"))));
+    const auto all = node->query({groups, recordName, DirectoryMatch::any, {}});
+    EXPECT_THAT(namesOf(all),
+                AllOf(Contains("group199"), Contains("Domain Users"), Not(Contains("user0000"))));
+    for (const auto& group : *all)
+        EXPECT_THAT(group->values(smbSid).value(), ElementsAre(testing::StartsWith("S-1-5-")));
+    EXPECT_EQ(node->query({both, recordName, DirectoryMatch::any, {}, 1234}).value().size(), 1234U);
+    const auto managed = directory->managedIdentities(IdentityClass::group);
+    EXPECT_EQ(managed.value().size(), all->size());
+    EXPECT_EQ(directory->managedIdentities(IdentityClass::user).value().size(), names.size());
+    EXPECT_THAT(log, ElementsAre("The directory server of ldap.conf does not hold /Active Directory/OTHER"));
+}
+
+TEST_F(ActiveDirectory, NeverInterpretsWhatItSearchesFor) {
+    EXPECT_THAT(find({users, recordName, DirectoryMatch::equalTo, {odd}}), ElementsAre(odd));
+    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"ZOË ("}}), ElementsAre(odd));
+    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"*"}}), ElementsAre(odd));
+    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"\\"}}), ElementsAre(odd));
+    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"ser000", "P199"}}),
+                UnorderedElementsAre("group199", "user0000", "user0001", "user0002", "user0003", "user0004",
+                                     "user0005", "user0006", "user0007", "user0008", "user0009"));
+    for (const char* text : {"user0000)(|(objectClass=*", "*)(sAMAccountName=*", "\\2a", "user*", "*)", ""})
+        EXPECT_THAT(find({both, recordName, DirectoryMatch::equalTo, {text}}), IsEmpty()) << text;
+    EXPECT_THAT(find({both, "dsAttrTypeNative:cn=*)(cn", DirectoryMatch::equalTo, {"user0000"}}), IsEmpty());
+    EXPECT_THAT(find({both, smbSid, DirectoryMatch::equalTo, {"*", "S-1-5-21", ""}}), IsEmpty());
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(ActiveDirectory, KnowsAccountsByIdentifierAndTheirGroups) {
+    const auto directory = client();
+    const auto network = directory->openNetworkNode();
+    const auto user = one(*network, users, recordName, "user0007");
+    ASSERT_NE(user, nullptr);
+    const std::string sid = user->values(smbSid).value().at(0);
+    directory->prefetch({sid, "no identifier", "S-1-5-21-1-2-3-4"});
+    for (const auto& node : {network, directory->openNode(domainNode)}) {
+        const auto same = one(*node, both, smbSid, sid);
+        ASSERT_NE(same, nullptr);
+        EXPECT_THAT(same->values(recordName).value(), ElementsAre("user0007"));
+        EXPECT_THAT(same->values("dsAttrTypeStandard:RecordType").value(),
+                    ElementsAre("dsRecTypeStandard:Users"));
+        EXPECT_THAT(same->values("dsAttrTypeStandard:PrimaryNTDomain").value(), ElementsAre("QUORVAN"));
+        EXPECT_EQ(one(*node, groups, smbSid, sid), nullptr);
+    }
+    const Texts memberOf = user->values("dsAttrTypeNative:memberOf").value();
+    EXPECT_THAT(memberOf, UnorderedElementsAre("CN=group000,CN=Users,DC=quorvan,DC=test",
+                                               "CN=group001,CN=Users,DC=quorvan,DC=test"));
+    const auto group = one(*network, groups, "dsAttrTypeNative:distinguishedName", memberOf[0]);
+    ASSERT_NE(group, nullptr);
+    EXPECT_THAT(group->values("dsAttrTypeStandard:RecordType").value(),
+                ElementsAre("dsRecTypeStandard:Groups"));
+    EXPECT_THAT(group->values("dsAttrTypeNative:no=such").value(), IsEmpty());
+    const auto oddUser = one(*network, users, "dsAttrTypeNative:cn", odd);
+    ASSERT_NE(oddUser, nullptr);
+    EXPECT_THAT(oddUser->values("dsAttrTypeNative:displayName").value(), IsEmpty());
+    EXPECT_THAT(oddUser->values("dsAttrTypeNative:name").value(), ElementsAre(odd));
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(ActiveDirectory, SaysWhyItIsNotLetIn) {
+    const std::string ldaps = controller->uri("ldaps");
+    const struct {
+        std::string uri, authority, account, password;
+        int error;
+        std::string line;
+    } cases[] = {
+        {ldaps, "ca.pem", "administrator", "wrong-secret", EACCES,
+         "refuses the keyring's password of administrator@quorvan.test"},
+        {ldaps, "ca.pem", "QUORVAN\\administrator", DomainController::password, 0, ""},
+        {ldaps, "ca.pem", "administrator", "", EACCES, "neither a valid ticket nor a keyring item"},
+        {ldaps, "other.pem", "administrator", "s3cret", EKEYREJECTED, "a certificate that is not trusted"},
+        {controller->uri("ldap"), "other.pem", "administrator", "s3cret", EKEYREJECTED,
+         "a certificate that is not trusted"},
+        {controller->uri("ldap"), "ca.pem", "administrator", DomainController::password, 0, ""},
+        {ldaps + ":88", "ca.pem", "administrator", "s3cret", ECONNRESET, "breaks off the beginning of TLS"},
+        {ldaps + ":1", "ca.pem", "administrator", "s3cret", EHOSTUNREACH, "cannot be reached"},
+    };
+    for (const auto& each : cases) {
+        const LdapSetting uri(LDAP_OPT_URI, each.uri);
+        const LdapSetting authority(LDAP_OPT_X_TLS_CACERTFILE, controller->file(each.authority.c_str()));
+        keychain->account = each.account;
+        keychain->data = each.password;
+        log.clear();
+        const auto directory = client(std::chrono::seconds(5));
+        errno = 0;
+        EXPECT_EQ(directory->openNode(domainNode) != nullptr, each.error == 0) << each.line;
+        EXPECT_EQ(directory->openNetworkNode() != nullptr, each.error == 0);
+        EXPECT_EQ(directory->activeDirectoryState().value().at("NodeName"), "/Active Directory/QUORVAN");
+        EXPECT_EQ(directory->nodeNames().has_value(), each.error == 0);
+        if (each.error == 0) {
+            EXPECT_THAT(log, IsEmpty());
+        } else {
+            EXPECT_EQ(errno, each.error);
+            EXPECT_THAT(
+                log, ElementsAre(AllOf(HasSubstr(each.uri), HasSubstr(each.line), Not(HasSubstr("cret")))));
+        }
+    }
+}
+
+TEST_F(ActiveDirectory, LetsTheTicketInWithoutPassword) {
+    const std::string tickets = controller->file("administrator");
+    ASSERT_EQ(run({"kinit", "-c", tickets, std::string(DomainController::administrator) + "@QUORVAN.TEST"},
+                  DomainController::password),
+              0);
+    ::setenv("KRB5CCNAME", tickets.c_str(), 1);
+    keychain->server = "";
+    const LdapSetting uri(LDAP_OPT_URI, controller->uri("ldap"));
+    EXPECT_EQ(find({users, recordName, DirectoryMatch::any, {}, 1001}).size(), 1001U);
+    ::setenv("KRB5CCNAME", controller->file("tickets").c_str(), 1);
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(ActiveDirectory, OpensDroppedConnectionsAnew) {
+    Relay relay(controller->address, 636);
+    const LdapSetting uri(LDAP_OPT_URI, relay.uri("ldaps"));
+    const auto directory = client();
+    const auto node = directory->openNode(domainNode);
+    ASSERT_NE(node, nullptr);
+    const auto user = one(*node, users, recordName, "user0001");
+    for (const char* value : {"user0002", "user0003"}) {
+        relay.drop();
+        EXPECT_NE(one(*node, users, recordName, value), nullptr);
+    }
+    relay.drop();
+    EXPECT_EQ(user->values("dsAttrTypeNative:memberOf").value().size(), 2U);
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(ActiveDirectory, EndsFetchWhenTheServerStopsInItsMiddle) {
+    const DirectoryQuery everybody{users, recordName, DirectoryMatch::any, {}};
+    Relay relay(controller->address, 636);
+    const LdapSetting uri(LDAP_OPT_URI, relay.uri("ldaps"));
+    const auto directory = client(std::chrono::seconds(20));
+    const auto node = directory->openNode(domainNode);
+    ASSERT_NE(node, nullptr);
+    std::size_t before = relay.received;
+    ASSERT_TRUE(node->query(everybody));
+    std::size_t size = relay.received - before;
+    relay.atLimit = [&] {
+        relay.refuse();
+        controller->server.reset();
+    };
+    relay.limit = relay.received + size / 2;
+    EXPECT_EQ(node->query(everybody), std::nullopt);
+    EXPECT_EQ(node->query(everybody), std::nullopt);
+    EXPECT_EQ(directory->openNode(domainNode), nullptr);
+    EXPECT_THAT(log, ElementsAre(HasSubstr("cannot be reached")));
+    controller->start();
+}
+
+double seconds(const std::function<void()>& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+double median(std::vector<double> values) {
+    std::nth_element(values.begin(), values.begin() + 1, values.end());
+    return values.at(1);
+}
+
+TEST_F(ActiveDirectory, ListsUsersAsFastAsTheCommandLine) {
+    const std::string command =
+        "ldapsearch -x -LLL -o ldif-wrap=no -E pr=1000/noprompt -D administrator@quorvan.test -w " +
+        std::string(DomainController::password) +
+        " '(&(objectCategory=person)(objectClass=user))' sAMAccountName objectSid objectClass > /dev/null";
+    std::vector<double> theirs;
+    std::vector<double> ours;
+    for (int round = 0; round < 3; ++round) {
+        theirs.push_back(seconds([&] { EXPECT_EQ(run({"sh", "-c", command}), 0); }));
+        ours.push_back(seconds([&] { find({users, recordName, DirectoryMatch::any, {}}); }));
+    }
+    std::printf("listing 2500 users: %.0f ms, ldapsearch %.0f ms, ratio %.2f\n", 1e3 * median(ours),
+                1e3 * median(theirs), median(ours) / median(theirs));
+}
+
+TEST_F(ActiveDirectory, ResolvesManyIdentifiersAtOnce) {
+    Texts sids;
+    const auto records =
+        client()->openNetworkNode()->query({users, recordName, DirectoryMatch::any, {}, 1000});
+    for (const auto& record : records.value())
+        sids.push_back(record->values(smbSid).value().at(0));
+    Relay relay(controller->address, 636);
+    const LdapSetting uri(LDAP_OPT_URI, relay.uri("ldaps"));
+    ASSERT_EQ(sids.size(), 1000U);
+    const auto resolve = [&](bool atOnce) {
+        const auto directory = client();
+        const auto node = directory->openNetworkNode();
+        if (atOnce)
+            directory->prefetch(sids);
+        const std::size_t received = relay.received;
+        for (const std::string& sid : sids)
+            EXPECT_NE(one(*node, both, smbSid, sid), nullptr);
+        EXPECT_EQ(relay.received == received, atOnce);
+    };
+    for (const unsigned delay : {0U, 5000U}) {
+        relay.delay = delay;
+        const double together = seconds([&] { resolve(true); });
+        const double oneByOne = seconds([&] { resolve(false); });
+        std::printf(
+            "resolving 1000 identifiers over a line of %u ms: %.0f ms, one by one %.0f ms, %.1f times "
+            "faster\n",
+            delay / 1000, 1e3 * together, 1e3 * oneByOne, oneByOne / together);
+    }
+    EXPECT_THAT(log, IsEmpty());
+}
+
+} // namespace
+} // namespace quorvan::test
