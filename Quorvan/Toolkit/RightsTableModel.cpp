@@ -9,21 +9,14 @@
 namespace quorvan {
 
 RightsTableModel::RightsTableModel(std::vector<RightsTextColumn> textColumns,
-                                   std::unique_ptr<RightsRowSource> rows, QObject* parent)
-    : QAbstractTableModel(parent)
-    , textColumns_(std::move(textColumns))
+                                   std::unique_ptr<RightsRowSource> rows)
+    : textColumns_(std::move(textColumns))
     , rows_(std::move(rows))
     , tickedText_(L("Right_Ticked_Label"))
-    , untickedText_(L("Right_Unticked_Label"))
-    , shownRows_(rows_->rowCount()) {
+    , untickedText_(L("Right_Unticked_Label")) {
+    reload();
     std::transform(rightsColumns.begin(), rightsColumns.end(), rightNames_.begin(),
                    [](const RightsColumn& column) { return plainL(column.nameKey); });
-}
-
-void RightsTableModel::reload() {
-    beginResetModel();
-    shownRows_ = rows_->rowCount();
-    endResetModel();
 }
 
 const RightsColumn* RightsTableModel::right(int column) const {
@@ -50,10 +43,6 @@ int RightsTableModel::columnOf(const std::string& identifier) const {
 void RightsTableModel::setHeader(int textColumn, const QString& header) {
     textColumns_[static_cast<std::size_t>(textColumn)].header = header;
     emit headerDataChanged(Qt::Horizontal, textColumn, textColumn);
-}
-
-int RightsTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : shownRows_;
 }
 
 int RightsTableModel::columnCount(const QModelIndex& parent) const {

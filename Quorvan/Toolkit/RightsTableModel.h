@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Toolkit/ListModel.h"
 #include "Quorvan/Toolkit/RightsColumns.h"
 
-#include <QAbstractTableModel>
 #include <QIcon>
 #include <QString>
 
@@ -44,34 +44,32 @@ struct RightsCheckBox {
 };
 
 /// Text columns and eight check-box columns over a row source.
-class RightsTableModel : public QAbstractTableModel {
+class RightsTableModel : public ListModel {
 public:
     using EnablingRule = std::function<bool(std::uint16_t bit)>;
     using ClickHandler = std::function<void(const RightsCheckBox&)>;
 
-    RightsTableModel(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
-                     QObject* parent);
+    RightsTableModel(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows);
 
     EnablingRule isEnabled; ///< which rights may be clicked; none without a rule
     ClickHandler onClick;   ///< puts a click into the rows; they are asked again afterwards
-
-    /// Takes over that the rows have changed. Until then the table shows as many as before, at most.
-    void reload();
 
     int textColumnCount() const { return static_cast<int>(textColumns_.size()); }
     /// The right of a column; null for a text column.
     const RightsColumn* right(int column) const;
     int columnOf(const std::string& identifier) const; ///< -1 when there is none
     void setHeader(int textColumn, const QString& header);
-    const RightsRowSource& rows() const { return *rows_; }
 
-    int rowCount(const QModelIndex& parent = {}) const override;
+    const void* object(int row) const override { return rows_->object(row); }
     int columnCount(const QModelIndex& parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     /// The check state of a right is the only thing that can be set: it is a click on its box.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+protected:
+    int listedRows() const override { return rows_->rowCount(); }
 
 private:
     QVariant textData(const QModelIndex& index, int role) const;
@@ -83,7 +81,6 @@ private:
     std::array<QString, rightsColumns.size()> rightNames_;
     QString tickedText_;
     QString untickedText_;
-    int shownRows_ = 0;
 };
 
 } // namespace quorvan

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTableView>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvan {
+
+class ListModel;
+
+struct SortDescriptor {
+    std::string key;
+    bool ascending;
+};
+
+/// A table of rows that the user selects and sorts: rows of one height, a text when there are none, and a
+/// tool tip for each text that its column cuts off. Tab leaves it.
+class ListTable : public QTableView {
+public:
+    /// Takes the model.
+    explicit ListTable(ListModel* model, QWidget* parent = nullptr);
+
+    /// Shows the rows as they are now. The keyboard stays where it was, nothing is selected.
+    void reloadData();
+    /// Shown in the middle of a table without rows.
+    void setEmptyText(const QString& text);
+    const QString& emptyText() const { return emptyText_; }
+
+    std::vector<int> selectedRowIndexes() const; ///< ascending
+
+    // Sorting
+
+    /// Lets a click on a column's header sort by the prototype's key, in its direction first.
+    void setSortDescriptorPrototype(int column, SortDescriptor prototype);
+    const std::optional<SortDescriptor>& sortDescriptor() const { return descriptor_; }
+    /// Called when the user has changed the descriptor; has to sort the rows and reload.
+    void setSortHandler(std::function<void()> handler) { onSort_ = std::move(handler); }
+    /// Says in which order the rows stand, when they no longer stand in the one that the user chose.
+    void setSortDescriptor(const std::optional<SortDescriptor>& descriptor);
+
+protected:
+    /// Sets the height that all rows have, so that the table never measures any of them.
+    virtual void fitToFont();
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    void setUpHeader();
+    void headerClicked(int column);
+    void sortKeepingSelection();
+    bool showsInFull(const QModelIndex& index) const;
+
+    ListModel* list_;
+    std::optional<SortDescriptor> descriptor_;
+    std::vector<std::optional<SortDescriptor>> prototypes_;
+    std::function<void()> onSort_;
+    QString emptyText_;
+};
+
+} // namespace quorvan
