@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/IdentityBrowsers.h"
 
+#include "Common/Fatal.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 #include "Quorvan/Toolkit/ViewController.h"
@@ -11,10 +12,11 @@ namespace {
 
 void open(ViewController& view, IdentityBrowserDelegate& delegate, const char* browser,
           const IdentityWish& wish) {
-    static_cast<void>(view);
-    static_cast<void>(delegate);
-    static_cast<void>(wish);
-    static_cast<void>(Storyboard::named("Main").knows(browser));
+    ViewController* sheet = Storyboard::named("Main").instantiate(browser);
+    auto* prepared = dynamic_cast<IdentityBrowser*>(sheet);
+    require(prepared != nullptr, "\"%@\" of the storyboard is no identity browser", browser);
+    prepared->prepare(view, delegate, wish);
+    view.presentAsSheet(sheet);
 }
 
 } // namespace

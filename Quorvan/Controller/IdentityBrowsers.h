@@ -3,7 +3,6 @@
 
 #include "Quorvan/Modal/Users.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,7 +21,7 @@ public:
 class BrowseMorvaneDelegate {
 public:
     virtual ~BrowseMorvaneDelegate() = default;
-    virtual bool onReturnMorvaneSelectedUser(const std::vector<std::shared_ptr<User>>& users) = 0;
+    virtual bool onReturnMorvaneSelectedUser(const std::vector<User>& users) = 0;
 };
 
 /// Receives what was picked from Active Directory: account names, their SIDs in the same order, and the
@@ -57,6 +56,15 @@ public:
 struct IdentityWish {
     std::string listType; ///< "Users", "Groups", "Containers"; anything else offers all that there are
     bool isMultipleSel = true;
+};
+
+/// A sheet that openIdentityBrowser opens: told before it is presented what is wanted and whom to answer to,
+/// for as long as `view` exists.
+class IdentityBrowser {
+public:
+    virtual ~IdentityBrowser() = default;
+    virtual void prepare(ViewController& view, IdentityBrowserDelegate& delegate,
+                         const IdentityWish& wish) = 0;
 };
 
 /// Opens the browser of an identity type as a sheet over `view`, with `delegate` (usually the view itself)

@@ -2,7 +2,6 @@
 #include "Quorvan/ViewModal/TrusteeReader.h"
 
 #include "Common/Fatal.h"
-#include "Platform/Services.h"
 #include "Quorvan/Modal/Constants.h"
 
 #include <utility>
@@ -11,15 +10,14 @@
 namespace quorvan {
 namespace {
 
-/// Names the identities in one go before each is looked up.
-void prefetchTypes(const ReplyEntries& entries) {
+std::vector<std::string> sidsOf(const ReplyEntries& entries) {
     std::vector<std::string> sids;
     sids.reserve(entries.size());
     for (const auto& entry : entries) {
         if (entry->trusteeID)
             sids.emplace_back(*entry->trusteeID);
     }
-    platform::services().directory->prefetch(sids);
+    return sids;
 }
 
 } // namespace
@@ -28,7 +26,7 @@ TrusteeReader::TrusteeReader(const ReplyEntries& entries, std::string identityTy
     : identityType_(std::move(identityType))
     , typesFromDirectory_(identityType_ == identityActiveDirectory) {
     if (typesFromDirectory_)
-        prefetchTypes(entries);
+        lookup_.prefetch(sidsOf(entries));
 }
 
 std::shared_ptr<Trustees> TrusteeReader::read(const ReplyEntry& entry) {

@@ -5,13 +5,14 @@
 #include "Common/FeatureFlags.h"
 #include "Common/Log.h"
 #include "Platform/Services.h"
+#include "Quorvan/Modal/Constants.h"
 
 #include <map>
 
 namespace quorvan {
 namespace {
 
-const std::vector<std::string> usersAndGroups = {"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
+const std::vector<std::string> usersAndGroups = {kODRecordTypeUsers, kODRecordTypeGroups};
 
 } // namespace
 
@@ -42,6 +43,11 @@ private:
 DirectoryLookup::DirectoryLookup() = default;
 DirectoryLookup::~DirectoryLookup() = default;
 
+void DirectoryLookup::prefetch(const std::vector<std::string>& sids) {
+    const platform::BusyScope busy(platform::services().busy);
+    platform::services().directory->prefetch(sids);
+}
+
 platform::DirectoryRecords
 DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::optional<std::string>& recType,
                                   const std::optional<std::string>& attribute) const {
@@ -56,16 +62,23 @@ DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::opti
         query.recordTypes = {*recType};
     else
         query.recordTypes = usersAndGroups;
-    query.attribute = attribute ? *attribute : "dsAttrTypeStandard:RecordName";
+    query.attribute = attribute ? *attribute : kODAttributeTypeRecordName;
     query.values.assign(1, strToQuery);
     platform::DirectoryNode* node = surroundings_->node();
     auto records = node != nullptr ? node->query(query) : std::nullopt;
     if (!records) {
-        Log("Error in Open Directory Session");
-        displayWarningMsg(errorCode::adConnect);
+        reportFailure();
         return {};
     }
     return *std::move(records);
+}
+
+/// A list of two hundred trustees meets a silent directory two hundred times; its user reads of it once.
+void DirectoryLookup::reportFailure() const {
+    Log("Error in Open Directory Session");
+    if (!warned_)
+        displayWarningMsg(errorCode::adConnect);
+    warned_ = true;
 }
 
 const platform::DirectoryRecords& DirectoryLookup::recordsOfID(const std::string& objectID) const {
@@ -100,8 +113,7 @@ void DirectoryLookup::setTrusteeTypeforTrustee(Trustees& trustee) const {
     for (const auto& record : recordsOfID(trustee.trusteeID)) {
         const auto values = record->values("dsAttrTypeStandard:RecordType");
         if (!values || values->empty()) {
-            Log("Error in Open Directory Session");
-            displayWarningMsg(errorCode::adConnect);
+            reportFailure();
             return;
         }
         const std::string& recordType = values->front();
@@ -109,6 +121,24 @@ void DirectoryLookup::setTrusteeTypeforTrustee(Trustees& trustee) const {
         require(colon != std::string::npos, "The record type \"%@\" has no second part", recordType);
         trustee.trusteeType = recordType.substr(colon + 1, recordType.find(':', colon + 1) - colon - 1);
     }
+}
+
+std::string DirectoryLookup::getSidforObject(const std::string& objName, const std::string& objType,
+                                             const std::string& attributeName) const {
+    std::string sid;
+    for (const auto& record : getUserGroupInfo(objName, recordTypeOf(objType), attributeName)) {
+        const auto values = record->values(kODAttributeTypeSMBSID);
+        if (!values) {
+            Log("Error in Open Directory Session");
+            return sid;
+        }
+        sid = values->empty() ? "" : values->front();
+    }
+    return sid;
+}
+
+const char* recordTypeOf(const std::string& category) {
+    return category == UserQuotaConstants::ObjectTypes::USERS ? kODRecordTypeUsers : kODRecordTypeGroups;
 }
 
 platform::DirectoryRecords getUserGroupInfo(const std::string& strToQuery,

@@ -10,11 +10,14 @@
 
 namespace quorvan {
 
+inline constexpr const char* kODRecordTypeUsers = "dsRecTypeStandard:Users";
+inline constexpr const char* kODRecordTypeGroups = "dsRecTypeStandard:Groups";
+inline constexpr const char* kODAttributeTypeRecordName = "dsAttrTypeStandard:RecordName";
 inline constexpr const char* kODAttributeTypeSMBSID = "dsAttrTypeStandard:SMBSID";
 inline constexpr const char* kODAttributeTypePrimaryNTDomain = "dsAttrTypeStandard:PrimaryNTDomain";
 
 /// Look-ups in Active Directory that share what they read about the machine, so that a list of many
-/// trustees reads it once. Failures are logged and shown as a warning, one for each look-up.
+/// trustees reads it once. Each failure is logged; the user is warned of the first one only.
 class DirectoryLookup {
 public:
     DirectoryLookup();
@@ -22,17 +25,29 @@ public:
     DirectoryLookup(const DirectoryLookup&) = delete;
     DirectoryLookup& operator=(const DirectoryLookup&) = delete;
 
+    /// Announces the SIDs that are looked up next, so that they are fetched in one go.
+    static void prefetch(const std::vector<std::string>& sids);
+
     platform::DirectoryRecords getUserGroupInfo(const std::string& strToQuery,
                                                 const std::optional<std::string>& recType,
                                                 const std::optional<std::string>& attribute) const;
     std::string lookupAttrValueFromID(const std::string& objectID, const std::string& attributeType) const;
     void setTrusteeTypeforTrustee(Trustees& trustee) const;
+    /// The SID of the user ("Users") or group (any other type) whose `attributeName` equals `objName`; ""
+    /// without one. Of several the last one's.
+    std::string getSidforObject(const std::string& objName, const std::string& objType,
+                                const std::string& attributeName) const;
 
 private:
     struct Surroundings;
+    void reportFailure() const;
     const platform::DirectoryRecords& recordsOfID(const std::string& objectID) const;
     mutable std::unique_ptr<Surroundings> surroundings_; ///< read by the first look-up
+    mutable bool warned_ = false;
 };
+
+/// The record type of a category: users for "Users", groups for any other.
+const char* recordTypeOf(const std::string& category);
 
 /// The records of Active Directory whose `attribute` equals a text; of users and groups when there is no
 /// record type. Empty when there are none, or (logged) the machine is not bound to a directory, or
