@@ -6,6 +6,7 @@
 #include "Platform/BusyIndicator.h"
 #include "Platform/DirectoryServices.h"
 #include "Platform/Keychain.h"
+#include "Platform/LocalVolumes.h"
 #include "Platform/NetworkFileSystem.h"
 #include "Platform/SharedDefaults.h"
 
@@ -21,6 +22,7 @@ struct Services {
     std::shared_ptr<Keychain> keychain;
     std::shared_ptr<NetworkFileSystem> network;
     std::shared_ptr<DirectoryServices> directory;
+    std::shared_ptr<LocalVolumes> volumes;
     std::shared_ptr<Bundle> bundle;
     std::shared_ptr<Alerts> alerts;
     std::shared_ptr<BusyIndicator> busy;

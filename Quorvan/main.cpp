@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/Log.h"
 #include "Platform/Linux/LdapDirectory.h"
+#include "Platform/Linux/MountedVolumes.h"
 #include "Platform/Linux/PlistSharedDefaults.h"
 #include "Platform/Linux/SecretServiceKeychain.h"
 #include "Platform/Linux/SmbClientFileSystem.h"
@@ -57,6 +58,7 @@ quorvan::platform::Services platformServices() {
     services.keychain = std::make_shared<SecretServiceKeychain>();
     services.network = std::make_shared<SmbClientFileSystem>(log);
     services.directory = std::make_shared<LdapDirectory>(services.keychain, log);
+    services.volumes = std::make_shared<MountedVolumes>();
     services.bundle = std::make_shared<QtBundle>();
     services.alerts = std::make_shared<QtAlerts>();
     services.busy = std::make_shared<QtWaitCursor>();

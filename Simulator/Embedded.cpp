@@ -29,7 +29,8 @@ Embedded::Embedded(std::string serverHost, std::string serverAddress)
     , network(std::make_shared<SimulatedFileSystem>())
     , sharedDefaults(std::make_shared<MemorySharedDefaults>())
     , keychain(std::make_shared<MemoryKeychain>())
-    , directory(std::make_shared<MemoryDirectory>(identities)) {
+    , directory(std::make_shared<MemoryDirectory>(identities))
+    , volumes(std::make_shared<MirroredVolumes>(server)) {
     network->addServer(server, host, address);
 }
 
@@ -63,6 +64,7 @@ platform::Services Embedded::services() const {
     services.keychain = keychain;
     services.network = network;
     services.directory = directory;
+    services.volumes = volumes;
     return services;
 }
 

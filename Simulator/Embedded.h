@@ -6,6 +6,7 @@
 #include "Simulator/KelpServer.h"
 #include "Simulator/MemoryDirectory.h"
 #include "Simulator/MemoryServices.h"
+#include "Simulator/MirroredVolumes.h"
 #include "Simulator/SimulatedFileSystem.h"
 
 #include <memory>
@@ -52,6 +53,7 @@ public:
     std::shared_ptr<MemorySharedDefaults> sharedDefaults;
     std::shared_ptr<MemoryKeychain> keychain;
     std::shared_ptr<MemoryDirectory> directory;
+    std::shared_ptr<MirroredVolumes> volumes; ///< of the first server
 };
 
 } // namespace quorvan::simulator

@@ -215,6 +215,22 @@ struct CountingBusyIndicator : platform::BusyIndicator {
     void end() override { --running; }
 };
 
+/// Folders by their paths; what lies in one and has no listing of its own is a file.
+struct FakeVolumes : platform::LocalVolumes {
+    std::map<std::string, platform::LocalListing> folders;
+    std::vector<std::string> listed; ///< the paths that were asked for
+
+    Kind kindOf(const std::string& path) override {
+        return folders.contains(path) ? Kind::folder : Kind::nothing;
+    }
+    platform::LocalListing list(const std::string& path) override {
+        listed.push_back(path);
+        const auto folder = folders.find(path);
+        return folder == folders.end() ? platform::LocalListing{{}, "Not a directory"} : folder->second;
+    }
+    bool hasEntries(const std::string& path) override { return !list(path).entries.empty(); }
+};
+
 /// One of each, installed for the lifetime of this object. A test that needs another implementation of a
 /// port installs a changed copy of platform::services() on top.
 struct FakeWorld {
@@ -222,10 +238,12 @@ struct FakeWorld {
     std::shared_ptr<FakeKeychain> keychain = std::make_shared<FakeKeychain>();
     std::shared_ptr<FakeNetwork> network = std::make_shared<FakeNetwork>();
     std::shared_ptr<FakeDirectory> directory = std::make_shared<FakeDirectory>();
+    std::shared_ptr<FakeVolumes> volumes = std::make_shared<FakeVolumes>();
     std::shared_ptr<FakeBundle> bundle = std::make_shared<FakeBundle>();
     std::shared_ptr<RecordingAlerts> alerts = std::make_shared<RecordingAlerts>();
     std::shared_ptr<CountingBusyIndicator> busy = std::make_shared<CountingBusyIndicator>();
-    platform::ScopedServices installed{{defaults, keychain, network, directory, bundle, alerts, busy}};
+    platform::ScopedServices installed{
+        {defaults, keychain, network, directory, volumes, bundle, alerts, busy}};
 };
 
 } // namespace quorvan::test

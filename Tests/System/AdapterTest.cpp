@@ -59,12 +59,12 @@ protected:
                "<key>mappedPath</key><string>VOL1:\\</string></dict></plist>";
         const auto log = [](std::string_view line) { Log("%@", line); };
         services.reset();
-        services = std::make_unique<platform::ScopedServices>(
-            platform::Services{std::make_shared<platform::PlistSharedDefaults>(log),
-                               std::make_shared<platform::SecretServiceKeychain>(),
-                               std::make_shared<SmbClientFileSystem>(log, timeLimit),
-                               std::make_shared<platform::UnboundDirectory>(),
-                               std::make_shared<test::FakeBundle>(), nullptr, nullptr});
+        services = std::make_unique<platform::ScopedServices>(platform::Services{
+            std::make_shared<platform::PlistSharedDefaults>(log),
+            std::make_shared<platform::SecretServiceKeychain>(),
+            std::make_shared<SmbClientFileSystem>(log, timeLimit),
+            std::make_shared<platform::UnboundDirectory>(), std::make_shared<test::FakeVolumes>(),
+            std::make_shared<test::FakeBundle>(), nullptr, nullptr});
         ServerDetails::forget();
         ServerDetails::serverInfo();
     }

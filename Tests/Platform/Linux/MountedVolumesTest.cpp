@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/MountedVolumes.h"
+#include "Tests/Support/ChildProcess.h"
+
+#include <fstream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace quorvan {
+namespace {
+
+namespace fs = std::filesystem;
+using Kind = platform::LocalVolumes::Kind;
+
+TEST(MountedVolumes, FindsAShareAmongTheMountsWhereverItLies) {
+    const test::TemporaryFolder top;
+    const auto make = [&top](const char* path) {
+        fs::create_directories(top.path / path);
+        std::ofstream(top.path / path / "in.txt");
+    };
+    make("Volumes/VOL1");
+    make("mnt/big disk");
+    make("mnt/other");
+    make("gvfs/smb-share:server=files,share=vol 3%2cx,user=ingrid");
+    const std::string mnt = (top.path / "mnt").native();
+    std::ofstream(top.path / "mountinfo")
+        << "21 1 8:1 / / rw,relatime shared:1 - ext4 //files/VOL4 rw\n"
+        << "36 21 0:41 / " << mnt << "/big\\040disk rw shared:9 master:2 - cifs //files/VOL2 rw,vers=3.1.1\n"
+        << "37 21 0:42 /a/Team " << mnt << "/other rw - smb3 //files/data/a/Team rw\n"
+        << "38 21 0:43 /part " << mnt << "/other rw - cifs //files/VOL5 rw\n"
+        << "broken\n";
+    platform::MountedVolumes volumes({top.path / "Volumes", top.path / "mountinfo", top.path / "gvfs"});
+    for (const char* there : {"/Volumes/VOL1", "/Volumes/VOL2", "/Volumes/vol2", "/Volumes/VOL 3,X",
+                              "/Volumes/Team", "/Volumes/VOL2/"}) {
+        EXPECT_EQ(volumes.kindOf(there), Kind::folder) << there;
+        EXPECT_EQ(volumes.kindOf(std::string(there) + "/in.txt"), Kind::file) << there;
+    }
+    for (const char* nowhere : {"/Volumes/VOL4", "/Volumes/VOL5", "/Volumes/data", "/Volumes/", "/Volumes",
+                                "/Volumes/..", "/Volumes/VOL1/../VOL1", "/etc", ""}) {
+        EXPECT_EQ(volumes.kindOf(nowhere), Kind::nothing) << nowhere;
+        EXPECT_FALSE(volumes.list(nowhere).error.empty()) << nowhere;
+    }
+}
+
+TEST(MountedVolumes, ListsWhatExistsAndOnlyThat) {
+    const test::TemporaryFolder top;
+    const fs::path volume = top.path / "VOL1";
+    fs::create_directories(volume / "folder");
+    fs::create_directories(volume / "empty");
+    fs::create_directory_symlink("folder", volume / "link");
+    fs::create_symlink("nowhere", volume / "dangling");
+    fs::create_symlink("loop", volume / "loop");
+    fs::create_symlink("nowhere", volume / "empty" / "dangling");
+    for (const char* file : {".hidden", "100 % #1 \xC3\xBC.txt", "latin-\xFC.txt"})
+        std::ofstream(volume / file);
+    platform::MountedVolumes volumes({top.path, "/nonexistent", "/nonexistent"});
+
+    std::vector<std::string> found;
+    for (const auto& entry : volumes.list("/Volumes/VOL1").entries)
+        found.push_back(entry.name + (entry.isFolder ? "/" : ""));
+    EXPECT_THAT(found, testing::UnorderedElementsAre("folder/", "empty/", "link/", ".hidden",
+                                                     "100 % #1 \xC3\xBC.txt", "latin-\xFC.txt"));
+    EXPECT_TRUE(volumes.hasEntries("/Volumes/VOL1"));
+    EXPECT_FALSE(volumes.hasEntries("/Volumes/VOL1/empty"));
+    EXPECT_FALSE(volumes.list("/Volumes/VOL1/.hidden").error.empty());
+    EXPECT_EQ(volumes.kindOf("/Volumes/VOL1/dangling"), Kind::nothing);
+}
+
+} // namespace
+} // namespace quorvan
