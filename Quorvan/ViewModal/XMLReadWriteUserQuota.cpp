@@ -59,9 +59,10 @@ void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
     auto sid = sids.begin();
     for (const auto& user : users) {
         user->SID = std::move(*sid++);
-        const std::string domain = lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypePrimaryNTDomain);
-        const std::string name = lookup.lookupAttrValueFromID(*user->SID, "dsAttrTypeStandard:RecordName");
-        user->displayName = domain + "\\" + name;
+        std::string name = lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypePrimaryNTDomain);
+        name += '\\';
+        name += lookup.lookupAttrValueFromID(*user->SID, "dsAttrTypeStandard:RecordName");
+        user->displayName = std::move(name);
     }
 }
 
