@@ -4,8 +4,6 @@
 
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
-#include "Quorvan/Toolkit/SearchField.h"
-#include "Quorvan/Toolkit/TrusteeRows.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -65,12 +63,7 @@ void RightsTabViewController::layOutControls() {
     page->addWidget(readOnlyLabel);
     page->addLayout(buttons);
 
-    QWidget* previous = currentPath;
-    for (QWidget* next : std::initializer_list<QWidget*>{showCheck, searchField, rightsTable, addBtn,
-                                                         removeBtn, revertBtn, applyBtn}) {
-        setTabOrder(previous, next);
-        previous = next;
-    }
+    setTabOrders({currentPath, showCheck, searchField, rightsTable, addBtn, removeBtn, revertBtn, applyBtn});
 }
 
 void RightsTabViewController::connectControls() {

@@ -3,12 +3,13 @@
 
 #include "Common/FeatureFlags.h"
 #include "Common/ServerDetails.h"
+#include "Quorvan/Controller/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/ChangeButtons.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/PathLabel.h"
-#include "Quorvan/Toolkit/SearchField.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 
 #include <QCheckBox>
@@ -22,10 +23,6 @@ namespace quorvan {
 
 namespace {
 
-const std::string& nameOf(const std::shared_ptr<Trustees>& trustee) {
-    return trustee->trusteeName;
-}
-
 /// Adding opens an identity browser, so it is offered where there are any.
 bool identityBrowsersExist() {
     return Storyboard::named("Main").knows("ViewBrowseAD");
@@ -38,25 +35,15 @@ Trustees* findByID(const TrusteeList& trustees, const std::string& id) {
     return found == trustees.end() ? nullptr : found->get();
 }
 
-std::uint16_t bitOf(const std::string& identifier) {
-    for (const RightsColumn& column : rightsColumns)
-        if (identifier == column.identifier)
-            return column.bit;
-    fatal("No right with the identifier %@", identifier);
-}
-
 } // namespace
 
-Shared& Shared::value() {
-    static Shared shared;
-    return shared;
+RightsTabViewController& RightsTabViewController::besides(const ViewController& view) {
+    const ViewController* window = view.parentController();
+    require(window != nullptr && !window->childControllers().empty(), "The view is no tab");
+    auto* tab = dynamic_cast<RightsTabViewController*>(window->childControllers().front());
+    require(tab != nullptr, "The trustee rights are not the first tab");
+    return *tab;
 }
-
-RightsTabViewController::RightsTabViewController()
-    : serverIP(unwrap(ServerDetails::serverInfo().serverIP, "There is no server to work on"))
-    , selectedPath(unwrap(ServerDetails::serverInfo().selectedPathName, "There is no selected path"))
-    , mappedPath(unwrap(ServerDetails::serverInfo().mappedPathName, "There is no mapped path"))
-    , domainIdentity(ServerDetails::serverInfo().getIdentityType()) {}
 
 void RightsTabViewController::viewDidLoad() {
     rightsTable->setSortDescriptorPrototype(0, {"TrusteeName", true});
@@ -73,8 +60,7 @@ void RightsTabViewController::initRightsMainView() {
     applyBtn->setText(L("Apply_title"));
     revertBtn->setText(L("Revert_title"));
     rightsTable->setColumnHeader(0, L("Col_UserGrp_Name"));
-    currentPath->setPath(QString::fromStdString(
-        unwrap(ServerDetails::serverInfo().selectedPathName, "There is no selected path")));
+    currentPath->setPath(selectedPathName());
 
     const bool isCheckBox = !enableSettingsFlag && bothIdentitiesFlag;
     const char* title = "Rights_Label_Title";
@@ -106,9 +92,8 @@ void RightsTabViewController::viewDidAppear() {
 }
 
 void RightsTabViewController::load(TrusteeList& trustees, const std::string& identityType) {
-    xmlController = std::make_unique<XMLReadWriteController>();
     Rights irf = irfList.value_or(Rights());
-    const std::int32_t status = xmlController->initializeTrusteesHandleDFS(
+    const std::int32_t status = renewController().initializeTrusteesHandleDFS(
         serverIP, trustees, selectedPath, irf, effRights, mappedPath, identityType);
     irfList = irf;
     if (status != 0) {
@@ -154,17 +139,11 @@ void RightsTabViewController::setAddEnabled(bool enabled) {
 }
 
 void RightsTabViewController::setChangesEnabled(bool enabled) {
-    // A button that goes grey under the keyboard would hand it on to whatever comes next, Close perhaps.
-    if (!enabled && (applyBtn->hasFocus() || revertBtn->hasFocus()))
-        rightsTable->setFocus();
-    applyBtn->setEnabled(enabled);
-    revertBtn->setEnabled(enabled);
+    quorvan::setChangesEnabled(enabled, revertBtn, applyBtn, rightsTable);
 }
 
 void RightsTabViewController::redisplay() {
-    rightsTable->reloadData();
-    rightsTable->setEmptyText(isSearching ? L("No_Match_Label").arg(searchField->text())
-                                          : L("No_Trustees_Label"));
+    quorvan::redisplay(*rightsTable, isSearching, *searchField);
 }
 
 void RightsTabViewController::onShowBothMorvaneAD(QCheckBox* sender) {
@@ -188,20 +167,9 @@ void RightsTabViewController::onShowBothMorvaneAD(QCheckBox* sender) {
 void RightsTabViewController::removeSelectedRow(QObject* /*sender*/) {
     const std::vector<int> selected = rightsTable->selectedRowIndexes();
     if (!selected.empty()) {
-        removedTrusteeList.clear();
-        TrusteeList kept;
-        auto next = selected.begin();
-        for (std::size_t row = 0; row < editedTrusteeList.size(); ++row) {
-            const auto& trustee = editedTrusteeList[row];
-            if (next != selected.end() && static_cast<std::size_t>(*next) == row) {
-                trustee->status = "REMOVE";
-                removedTrusteeList.push_back(trustee);
-                ++next;
-            } else {
-                kept.push_back(trustee);
-            }
-        }
-        editedTrusteeList = std::move(kept);
+        removedTrusteeList = takeRows(editedTrusteeList, selected);
+        for (const auto& trustee : removedTrusteeList)
+            trustee->status = "REMOVE";
         std::ranges::copy(removedTrusteeList, std::back_inserter(trackTrusteeList));
     }
     redisplay();
@@ -211,7 +179,7 @@ void RightsTabViewController::removeSelectedRow(QObject* /*sender*/) {
 void RightsTabViewController::onMouseClickCheckbox(const RightsCheckBox& sender) {
     auto& row = editedTrusteeList[static_cast<std::size_t>(sender.row)];
     Trustees trustee = *row;
-    trustee.rights = withRight(trustee.rights, bitOf(sender.identifier), sender.ticked);
+    trustee.rights = sender.appliedTo(trustee.rights);
     row = std::make_shared<Trustees>(trustee);
     if (Trustees* tracked = findByID(trackTrusteeList, trustee.trusteeID)) {
         tracked->rights = trustee.rights;
@@ -225,37 +193,18 @@ void RightsTabViewController::onMouseClickCheckbox(const RightsCheckBox& sender)
 }
 
 void RightsTabViewController::onSearch(SearchField* sender) {
-    const std::string text = sender->text().toStdString();
-    if (text.empty()) {
-        if (isSearching) {
-            editedTrusteeList = backupEditedTrusteeList;
-            rightsTable->setSortDescriptor(backupOrder_);
-        }
-        isSearching = false;
-    } else {
-        if (!isSearching) {
-            backupEditedTrusteeList = editedTrusteeList;
-            backupOrder_ = rightsTable->sortDescriptor();
-            searchFilter_.setRows(backupEditedTrusteeList, nameOf);
-        }
-        isSearching = true;
-        editedTrusteeList = searchFilter_.matching(backupEditedTrusteeList, text);
-        rightsTable->setSortDescriptor(backupOrder_);
-    }
+    search_.setText(sender->text().toStdString(), *rightsTable);
     redisplay();
 }
 
 void RightsTabViewController::sortDescriptorsDidChange() {
-    const auto& descriptor = rightsTable->sortDescriptor();
-    if (!descriptor || descriptor->key != "TrusteeName")
-        return;
-    sortAscending = descriptor->ascending;
-    reloadTrusteeList();
+    if (rightsTable->isSortedBy("TrusteeName", sortAscending))
+        reloadTrusteeList();
 }
 
 void RightsTabViewController::reloadTrusteeList() {
     if (sortOrder == TrusteeOrder::TrusteeName)
-        sortByName(editedTrusteeList, sortAscending, nameOf);
+        sortByName(editedTrusteeList, sortAscending, trusteeNameOf);
     redisplay();
 }
 
@@ -270,8 +219,7 @@ void RightsTabViewController::onRevertClick(QObject* /*sender*/) {
 void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
     if (trackTrusteeList.empty())
         return;
-    xmlController = std::make_unique<XMLReadWriteController>();
-    const std::int32_t status = xmlController->openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
+    const std::int32_t status = renewController().openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
     if (status != 0) {
         reportFailedStatus(status);
         return;
@@ -289,8 +237,7 @@ void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
 }
 
 void RightsTabViewController::onReturnMainMenu() {
-    replacePage(Storyboard::named("Main").instantiate("optionsViewController"),
-                QStringLiteral("Rights Management"));
+    returnToMainMenu(*this);
 }
 
 } // namespace quorvan

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "Platform/Bundle.h"
+#include "Quorvan/Controller/SelectionContext.h"
+#include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Modal/Users.h"
+#include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/RightsTable.h"
-#include "Quorvan/Toolkit/SearchFilter.h"
+#include "Quorvan/Toolkit/TrusteeRows.h"
 #include "Quorvan/Toolkit/ViewController.h"
 #include "Quorvan/ViewModal/RightsTabViewModal.h"
-#include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <memory>
 #include <optional>
@@ -20,24 +22,16 @@ class QPushButton;
 namespace quorvan {
 
 class PathLabel;
-class SearchField;
-
-/// What the views share for as long as the program runs.
-class Shared {
-public:
-    static Shared& value();
-
-    bool bothID = false; ///< the trustees of both identity types are shown at once
-};
 
 /// The first tab of the rights window: the trustees of the selected path and their rights.
 ///
 /// Nothing is sent until Apply, which sends all pending changes in one request and loads the list
 /// anew. Pending changes outlive everything but a successful Apply, Revert and a change to both
 /// identity types; also another visit to the tab, after which the rows no longer show them.
-class RightsTabViewController : public ViewController {
+class RightsTabViewController : public ViewController, public SelectionContext {
 public:
-    RightsTabViewController();
+    /// The first tab beside a view of the rights window, which knows what the user may do with the path.
+    static RightsTabViewController& besides(const ViewController& view);
 
     // Outlets
     RightsTable* rightsTable = nullptr;
@@ -53,12 +47,6 @@ public:
     QPushButton* addBtn = nullptr;
 
     RightsTabViewModal modalData;
-    std::unique_ptr<XMLReadWriteController> xmlController; ///< anew for each load and each Apply
-    std::string serverIP;
-    std::string selectedPath;
-    std::string mappedPath;
-    std::string domainIdentity; ///< the identity type worked in
-
     TrusteeList trusteeList;             ///< as last loaded; edits never touch these objects
     TrusteeList editedTrusteeList;       ///< the rows; while searching, those that match
     TrusteeList backupEditedTrusteeList; ///< the rows as they were when the search started
@@ -109,8 +97,8 @@ private:
     void setChangesEnabled(bool enabled);
     void redisplay();
 
-    SearchFilter searchFilter_;
-    std::optional<SortDescriptor> backupOrder_; ///< the order of backupEditedTrusteeList
+    RowSearch<std::shared_ptr<Trustees>> search_{
+        editedTrusteeList, backupEditedTrusteeList, isSearching, {trusteeNameOf}};
 };
 
 } // namespace quorvan

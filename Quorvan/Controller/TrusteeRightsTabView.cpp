@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/TrusteeRightsTabView.h"
 
+#include "Quorvan/Controller/MainMenu.h"
 #include "Quorvan/Controller/ViewTabController.h"
 #include "Quorvan/Toolkit/Localized.h"
-#include "Quorvan/Toolkit/Storyboard.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -30,8 +30,7 @@ QSize TrusteeRightsTabView::sizeHint() const {
 }
 
 void TrusteeRightsTabView::onReturnMainMenu() {
-    replacePage(Storyboard::named("Main").instantiate("optionsViewController"),
-                QStringLiteral("Rights Management"));
+    returnToMainMenu(*this);
 }
 
 } // namespace quorvan

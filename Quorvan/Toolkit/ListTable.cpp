@@ -109,6 +109,13 @@ void ListTable::setSortDescriptorPrototype(int column, SortDescriptor prototype)
     prototypes_[static_cast<std::size_t>(column)] = std::move(prototype);
 }
 
+bool ListTable::isSortedBy(const std::string& key, bool& ascending) const {
+    if (!descriptor_ || descriptor_->key != key)
+        return false;
+    ascending = descriptor_->ascending;
+    return true;
+}
+
 void ListTable::setSortDescriptor(const std::optional<SortDescriptor>& descriptor) {
     descriptor_ = descriptor;
     horizontalHeader()->setSortIndicatorShown(descriptor_.has_value());

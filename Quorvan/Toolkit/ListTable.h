@@ -37,6 +37,8 @@ public:
     /// Lets a click on a column's header sort by the prototype's key, in its direction first.
     void setSortDescriptorPrototype(int column, SortDescriptor prototype);
     const std::optional<SortDescriptor>& sortDescriptor() const { return descriptor_; }
+    /// Whether the user sorts by `key`; in which direction, is then stored in `ascending`.
+    bool isSortedBy(const std::string& key, bool& ascending) const;
     /// Called when the user has changed the descriptor; has to sort the rows and reload.
     void setSortHandler(std::function<void()> handler) { onSort_ = std::move(handler); }
     /// Says in which order the rows stand, when they no longer stand in the one that the user chose.

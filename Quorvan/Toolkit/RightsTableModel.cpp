@@ -1,12 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/RightsTableModel.h"
 
+#include "Common/Fatal.h"
 #include "Quorvan/Toolkit/Localized.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace quorvan {
+
+std::uint16_t RightsCheckBox::appliedTo(std::uint16_t mask) const {
+    for (const RightsColumn& column : rightsColumns)
+        if (std::string_view(identifier) == column.identifier)
+            return withRight(mask, column.bit, ticked);
+    fatal("No right with the identifier %@", identifier);
+}
 
 RightsTableModel::RightsTableModel(std::vector<RightsTextColumn> textColumns,
                                    std::unique_ptr<RightsRowSource> rows)

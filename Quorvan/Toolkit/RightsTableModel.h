@@ -41,6 +41,9 @@ struct RightsCheckBox {
     int row;
     const char* identifier; ///< of RightsColumn
     bool ticked;            ///< after the click
+
+    /// `mask` with this one right as it is now.
+    std::uint16_t appliedTo(std::uint16_t mask) const;
 };
 
 /// Text columns and eight check-box columns over a row source.

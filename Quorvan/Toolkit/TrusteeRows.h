@@ -6,6 +6,10 @@
 
 namespace quorvan {
 
+inline const std::string& trusteeNameOf(const std::shared_ptr<Trustees>& trustee) {
+    return trustee->trusteeName;
+}
+
 /// The rows of a list of trustees: one text column with name and icon.
 class TrusteeRows : public RightsRowSource {
 public:

@@ -90,6 +90,11 @@ void ViewController::replacePage(ViewController* destination, const QString& win
     delete destination;
 }
 
+void ViewController::setTabOrders(std::initializer_list<QWidget*> controls) {
+    for (const auto* next = controls.begin() + 1; next < controls.end(); ++next)
+        setTabOrder(*(next - 1), *next);
+}
+
 void ViewController::presentAsSheet(ViewController* controller) {
     auto* sheet = new Sheet(*this, controller);
     sheet->present();

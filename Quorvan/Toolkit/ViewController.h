@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <cstddef>
+#include <initializer_list>
 #include <vector>
 
 namespace quorvan {
@@ -78,6 +79,9 @@ protected:
             widget->setAccessibleName(accessibleName);
         return widget;
     }
+
+    /// The way of the Tab key, from the first control to the last.
+    static void setTabOrders(std::initializer_list<QWidget*> controls);
 
 private:
     friend class Sheet;
