@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/MainStoryboard.h"
 
+#include "Quorvan/Controller/BrowseMorvaneUserListViewController.h"
+#include "Quorvan/Controller/BrowseUserListViewController.h"
+#include "Quorvan/Controller/IdentifySourceViewController.h"
 #include "Quorvan/Controller/MainViewController.h"
+#include "Quorvan/Controller/OldBrowseUserListViewController.h"
+#include "Quorvan/Controller/SettingsController.h"
 #include "Quorvan/Controller/TrusteeRightsTabView.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 
@@ -11,6 +16,11 @@ void fillMainStoryboard() {
     Storyboard& main = Storyboard::named("Main");
     main.add("optionsViewController", [] { return new MainViewController; });
     main.add("trusteeRightsView", [] { return new TrusteeRightsTabView; });
+    main.add("settingsView", [] { return new SettingsController; });
+    main.add("IdentifySource", [] { return new IdentifySourceViewController; });
+    main.add("ViewBrowseMorvane", [] { return new BrowseMorvaneUserListViewController; });
+    main.add("ViewBrowseAD", [] { return new BrowseUserListViewController; });
+    main.add("oldViewBrowseAD", [] { return new OldBrowseUserListViewController; });
 }
 
 } // namespace quorvan

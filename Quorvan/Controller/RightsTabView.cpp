@@ -36,6 +36,7 @@ void RightsTabViewController::buildControls() {
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
 
+    addBtn->setToolTip(L("Add_Tip_Label"));
     removeBtn->setToolTip(L("Remove_Tip_Label"));
     revertBtn->setToolTip(L("Revert_Tip_Label"));
     applyBtn->setToolTip(L("Apply_Tip_Label"));
@@ -73,6 +74,7 @@ void RightsTabViewController::connectControls() {
     rightsTable->setSortHandler([this] { sortDescriptorsDidChange(); });
     connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });
     connect(showCheck, &QCheckBox::clicked, this, [this] { onShowBothMorvaneAD(showCheck); });
+    connect(addBtn, &QPushButton::clicked, this, [this] { onSelectTrusteeClick(addBtn); });
     connect(removeBtn, &QPushButton::clicked, this, [this] { removeSelectedRow(removeBtn); });
     connect(revertBtn, &QPushButton::clicked, this, [this] { onRevertClick(revertBtn); });
     connect(applyBtn, &QPushButton::clicked, this, [this] { onApplyClick(applyBtn); });

@@ -23,11 +23,6 @@ namespace quorvan {
 
 namespace {
 
-/// Adding opens an identity browser, so it is offered where there are any.
-bool identityBrowsersExist() {
-    return Storyboard::named("Main").knows("ViewBrowseAD");
-}
-
 /// The first trustee of a list with that ID; null when there is none.
 Trustees* findByID(const TrusteeList& trustees, const std::string& id) {
     const auto found = std::find_if(trustees.begin(), trustees.end(),
@@ -125,17 +120,12 @@ void RightsTabViewController::raiseOwnRights() {
 }
 
 void RightsTabViewController::setTabState() {
-    setAddEnabled(canEdit() && !(showCheck->isChecked() && !addBothTrusteesFlag));
+    addBtn->setEnabled(canEdit() && !(showCheck->isChecked() && !addBothTrusteesFlag));
     removeBtn->setEnabled(canEdit());
     rightsTable->setSwitchedOn(canEdit());
     showCheck->setEnabled(canEdit());
     readOnlyLabel->setVisible(!canEdit());
     setChangesEnabled(false);
-}
-
-void RightsTabViewController::setAddEnabled(bool enabled) {
-    addBtn->setEnabled(enabled && identityBrowsersExist());
-    addBtn->setToolTip(L(identityBrowsersExist() ? "Add_Tip_Label" : "Add_Follows_Label"));
 }
 
 void RightsTabViewController::setChangesEnabled(bool enabled) {
@@ -149,7 +139,7 @@ void RightsTabViewController::redisplay() {
 void RightsTabViewController::onShowBothMorvaneAD(QCheckBox* sender) {
     const bool on = sender->isChecked();
     if (bothIdentitiesFlag && !addBothTrusteesFlag)
-        setAddEnabled(!on);
+        addBtn->setEnabled(!on);
     domainIdentity = ServerDetails::serverInfo().getIdentityType();
     Shared::value().bothID = on && bothIdentitiesFlag;
     if (Shared::value().bothID) {

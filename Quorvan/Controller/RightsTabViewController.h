@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/Bundle.h"
+#include "Quorvan/Controller/IdentityBrowsers.h"
 #include "Quorvan/Controller/SelectionContext.h"
 #include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Modal/Users.h"
@@ -14,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 class QCheckBox;
 class QLabel;
@@ -28,7 +30,9 @@ class PathLabel;
 /// Nothing is sent until Apply, which sends all pending changes in one request and loads the list
 /// anew. Pending changes outlive everything but a successful Apply, Revert and a change to both
 /// identity types; also another visit to the tab, after which the rows no longer show them.
-class RightsTabViewController : public ViewController, public SelectionContext {
+class RightsTabViewController : public ViewController,
+                                public SelectionContext,
+                                public IdentityBrowserDelegate {
 public:
     /// The first tab beside a view of the rights window, which knows what the user may do with the path.
     static RightsTabViewController& besides(const ViewController& view);
@@ -79,6 +83,11 @@ public:
     void sortDescriptorsDidChange();
 
     void onShowBothMorvaneAD(QCheckBox* sender);
+    void onSelectTrusteeClick(QObject* sender);
+    void onReturnIdentifySource(const std::string& identityType) override;
+    bool onReturnMorvaneSelectedUser(const std::vector<User>& users) override;
+    bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
+                              const std::string& category) override;
     void removeSelectedRow(QObject* sender);
     void onMouseClickCheckbox(const RightsCheckBox& sender);
     void onSearch(SearchField* sender);
@@ -92,8 +101,9 @@ private:
     void connectControls();
     void load(TrusteeList& trustees, const std::string& identityType);
     void raiseOwnRights();
+    /// Adds the trustees that are not listed yet. False, and a message, when some were.
+    bool add(const TrusteeList& chosen);
     bool canEdit() const { return isSupervisor || isAccessControl; }
-    void setAddEnabled(bool enabled);
     void setChangesEnabled(bool enabled);
     void redisplay();
 

@@ -287,10 +287,6 @@
     <source></source>
     <translation>Choose users and groups that become trustees of this path</translation>
   </message>
-  <message id="Add_Follows_Label">
-    <source></source>
-    <translation>Choosing users and groups follows in a later version</translation>
-  </message>
   <message id="Remove_title">
     <source></source>
     <translation>Re&amp;move</translation>
@@ -315,6 +311,138 @@
   <message id="Error_Title">
     <source></source>
     <translation>Error</translation>
+  </message>
+  <message id="View_label">
+    <source></source>
+    <translation>&amp;View:</translation>
+  </message>
+  <message id="Node_label">
+    <source></source>
+    <translation>&amp;Domain:</translation>
+  </message>
+  <message id="Node_label_morvane">
+    <source></source>
+    <translation>&amp;Below:</translation>
+  </message>
+  <message id="Users_Title">
+    <source></source>
+    <translation>Users</translation>
+  </message>
+  <message id="Groups_Title">
+    <source></source>
+    <translation>Groups</translation>
+  </message>
+  <message id="Containers_Title">
+    <source></source>
+    <translation>Containers</translation>
+  </message>
+  <message id="Fetch_title">
+    <source></source>
+    <translation>&amp;Fetch</translation>
+  </message>
+  <message id="Fetch_Tip_Label">
+    <source></source>
+    <translation>Ask the directory</translation>
+  </message>
+  <message id="Select_title">
+    <source></source>
+    <translation>&amp;Select</translation>
+  </message>
+  <message id="Cancel_title">
+    <source></source>
+    <translation>&amp;Cancel</translation>
+  </message>
+  <message id="OK_title">
+    <source></source>
+    <translation>&amp;OK</translation>
+  </message>
+  <message id="Browse_AD_Title">
+    <source></source>
+    <translation>Choose from Active Directory</translation>
+  </message>
+  <message id="Browse_Morvane_Title">
+    <source></source>
+    <translation>Choose from the Morvane tree</translation>
+  </message>
+  <message id="Browse_List_Label">
+    <source></source>
+    <translation>Users and groups found</translation>
+  </message>
+  <message id="Browse_Choose_Label">
+    <source></source>
+    <translation>Choose…</translation>
+  </message>
+  <message id="Browse_AD_Start_Label">
+    <source></source>
+    <translation>Choose what to view and in which domain, then press Fetch.</translation>
+  </message>
+  <message id="Browse_Morvane_Start_Label">
+    <source></source>
+    <translation>Choose what to view, type where to look (for example .O=kestmoor.T=tree.) and press Fetch.</translation>
+  </message>
+  <message id="No_Domains_Label">
+    <source></source>
+    <translation>This computer knows no Active Directory domain.</translation>
+  </message>
+  <message id="Domain_Silent_Label">
+    <source></source>
+    <translation>%1 does not answer. The log file has the details.</translation>
+  </message>
+  <message id="No_Users_In_Label">
+    <source></source>
+    <translation>No users found in %1.</translation>
+  </message>
+  <message id="No_Groups_In_Label">
+    <source></source>
+    <translation>No groups found in %1.</translation>
+  </message>
+  <message id="No_Users_Below_Label">
+    <source></source>
+    <translation>No users found below %1</translation>
+  </message>
+  <message id="No_Groups_Below_Label">
+    <source></source>
+    <translation>No groups found below %1</translation>
+  </message>
+  <message id="No_Containers_Below_Label">
+    <source></source>
+    <translation>No containers found below %1</translation>
+  </message>
+  <message id="No_Users_Label">
+    <source></source>
+    <translation>No users found.</translation>
+  </message>
+  <message id="No_Groups_Label">
+    <source></source>
+    <translation>No groups found.</translation>
+  </message>
+  <message id="Identify_Source_Title">
+    <source></source>
+    <translation>Choose a directory</translation>
+  </message>
+  <message id="Select_source_of_identity_Label">
+    <source></source>
+    <translation>Which directory do you want to choose from?</translation>
+  </message>
+  <message id="Morvane_title">
+    <source></source>
+    <translation>&amp;Morvane</translation>
+  </message>
+  <message id="Active_Directory_title">
+    <source></source>
+    <translation>&amp;Active Directory</translation>
+  </message>
+  <message id="Add_Trustee_Message_Label">
+    <source></source>
+    <translation>When this is on, lists show the trustees of both directories, and wherever you choose a user or group you are asked first which directory to look in. The setting lasts until you quit Quorvan.</translation>
+  </message>
+  <message id="Settings_Read_Only_Label">
+    <source></source>
+    <translation>Only users who hold the Supervisor or the Access Control right on this path can change this.</translation>
+  </message>
+  <message id="Log_Details_Label">
+    <source></source>
+    <translation>Everything that Quorvan asks the server, and every answer, is written to a log file in this folder. Help shows where it lies on this computer.</translation>
   </message>
   <message id="Err_Msg_Duplicate_Trustee">
     <source></source>

@@ -48,14 +48,14 @@ void DirectoryLookup::prefetch(const std::vector<std::string>& sids) {
     platform::services().directory->prefetch(sids);
 }
 
-platform::DirectoryRecords
-DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::optional<std::string>& recType,
-                                  const std::optional<std::string>& attribute) const {
+std::optional<platform::DirectoryRecords>
+DirectoryLookup::ask(const std::string& strToQuery, const std::optional<std::string>& recType,
+                     const std::optional<std::string>& attribute) const {
     if (!surroundings_)
         surroundings_ = std::make_unique<Surroundings>();
     if (!surroundings_->state) {
         Log("Could not find a Active Directory on the server");
-        return {};
+        return platform::DirectoryRecords();
     }
     platform::DirectoryQuery& query = surroundings_->query;
     if (recType)
@@ -65,7 +65,13 @@ DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::opti
     query.attribute = attribute ? *attribute : kODAttributeTypeRecordName;
     query.values.assign(1, strToQuery);
     platform::DirectoryNode* node = surroundings_->node();
-    auto records = node != nullptr ? node->query(query) : std::nullopt;
+    return node != nullptr ? node->query(query) : std::nullopt;
+}
+
+platform::DirectoryRecords
+DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::optional<std::string>& recType,
+                                  const std::optional<std::string>& attribute) const {
+    auto records = ask(strToQuery, recType, attribute);
     if (!records) {
         reportFailure();
         return {};
@@ -125,8 +131,16 @@ void DirectoryLookup::setTrusteeTypeforTrustee(Trustees& trustee) const {
 
 std::string DirectoryLookup::getSidforObject(const std::string& objName, const std::string& objType,
                                              const std::string& attributeName) const {
+    const auto records = [&] {
+        const platform::BusyScope busy(platform::services().busy);
+        return ask(objName, recordTypeOf(objType), attributeName);
+    }();
+    if (!records) {
+        reportFailure();
+        return "";
+    }
     std::string sid;
-    for (const auto& record : getUserGroupInfo(objName, recordTypeOf(objType), attributeName)) {
+    for (const auto& record : *records) {
         const auto values = record->values(kODAttributeTypeSMBSID);
         if (!values) {
             Log("Error in Open Directory Session");

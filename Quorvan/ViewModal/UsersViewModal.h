@@ -40,6 +40,9 @@ public:
 
 private:
     struct Surroundings;
+    std::optional<platform::DirectoryRecords> ask(const std::string& strToQuery,
+                                                  const std::optional<std::string>& recType,
+                                                  const std::optional<std::string>& attribute) const;
     void reportFailure() const;
     const platform::DirectoryRecords& recordsOfID(const std::string& objectID) const;
     mutable std::unique_ptr<Surroundings> surroundings_; ///< read by the first look-up

@@ -11,10 +11,12 @@
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTableView>
@@ -78,6 +80,11 @@ QWidget* Stage::window() const {
     return delegate_.mainWindow();
 }
 
+QWidget* Stage::front() const {
+    QWidget* sheet = QApplication::activeModalWidget();
+    return sheet != nullptr ? sheet : window();
+}
+
 void Stage::press(const char* control) {
     find<QPushButton>(control)->click();
     QApplication::processEvents();
@@ -99,21 +106,56 @@ void Stage::tick(int row, const char* right) {
     QApplication::processEvents();
 }
 
-void Stage::save(QWidget& widget, const QString& name, const QString& caption) {
+void Stage::choose(const char* popUp, const char* item) {
+    auto* box = find<QComboBox>(popUp);
+    const int index = box->findText(QString::fromUtf8(item));
+    box->setCurrentIndex(index);
+    emit box->activated(index);
     QApplication::processEvents();
+}
+
+void Stage::select(std::initializer_list<int> rows) {
+    auto* list = find<QTableView>("userListTable");
+    for (const int row : rows)
+        list->selectionModel()->select(list->model()->index(row, 0),
+                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QApplication::processEvents();
+}
+
+/// The window with the sheet that lies over it, as the desktop would show them.
+QPixmap Stage::picture() const {
+    QApplication::processEvents();
+    QPixmap whole = window()->grab();
+    const QWidget* sheet = front();
+    if (sheet == window())
+        return whole;
+    const QRect place(sheet->geometry().topLeft() - window()->geometry().topLeft(), sheet->size());
+    const QRect room = window()->rect().united(place.adjusted(-1, -1, 1, 1));
+    QPixmap both(room.size() * whole.devicePixelRatio());
+    both.setDevicePixelRatio(whole.devicePixelRatio());
+    both.fill(Qt::gray);
+    QPainter painter(&both);
+    painter.translate(-room.topLeft());
+    painter.drawPixmap(0, 0, whole);
+    painter.drawPixmap(place.topLeft(), front()->grab());
+    painter.setPen(sheet->palette().color(QPalette::Shadow));
+    painter.drawRect(place.adjusted(-1, -1, 0, 0));
+    return both;
+}
+
+void Stage::save(const QPixmap& picture, const QWidget& of, const QString& name, const QString& caption) {
     const QString file = QStringLiteral("%1/%2-%3.png").arg(output_.folder, output_.prefix, name);
-    const QPixmap picture = widget.grab();
     if (!picture.save(file))
         qFatal("Cannot write %s", qPrintable(file));
     output_.say(QStringLiteral("%1  “%2”, %3×%4: %5")
-                    .arg(file, widget.windowTitle())
+                    .arg(file, of.windowTitle())
                     .arg(picture.width())
                     .arg(picture.height())
                     .arg(caption));
 }
 
 void Stage::photograph(const char* name, const char* caption) {
-    save(*window(), QString::fromUtf8(name), QString::fromUtf8(caption));
+    save(picture(), *front(), QString::fromUtf8(name), QString::fromUtf8(caption));
 }
 
 void Stage::expectDialog(const char* name, const char* caption) {
@@ -130,7 +172,8 @@ void Stage::lookForDialog() {
     expected_.pop_front();
     if (const auto* box = qobject_cast<QMessageBox*>(dialog))
         expected.caption += QStringLiteral("; it says “%1”").arg(box->text());
-    save(*dialog, expected.name, expected.caption);
+    QApplication::processEvents();
+    save(dialog->grab(), *dialog, expected.name, expected.caption);
     dialog->reject();
     if (!expected_.empty())
         dialogTimer_.start(0);

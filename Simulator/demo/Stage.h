@@ -4,12 +4,14 @@
 #include "Quorvan/AppDelegate.h"
 #include "Simulator/Embedded.h"
 
+#include <QPixmap>
 #include <QString>
 #include <QTimer>
 #include <QWidget>
 
 #include <deque>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
@@ -38,27 +40,33 @@ public:
     void press(const char* control);                  ///< clicks a button, by its outlet
     void type(const char* control, const char* text); ///< into a text field
     void tick(int row, const char* right);            ///< a box of the trustee table
+    void choose(const char* popUp, const char* item); ///< an item of a pop-up
+    void select(std::initializer_list<int> rows);     ///< of the list of an identity browser
     QWidget* window() const;
+    /// The sheet that is open over the window, or the window itself.
+    QWidget* front() const;
 
-    /// Photographs the window as `name`.png and says what it shows.
+    /// Photographs the window, and the sheet over it, as `name`.png and says what it shows.
     void photograph(const char* name, const char* caption);
     /// Photographs a dialog that the next step opens, and closes it. Several are expected one after the
     /// other.
     void expectDialog(const char* name, const char* caption);
 
+    /// A control that can be seen, by its outlet.
     template <class Control>
     Control* find(const char* name) const {
-        auto* control = window()->findChild<Control*>(QString::fromLatin1(name));
-        if (control == nullptr)
-            qFatal("The tour finds no %s", name);
-        return control;
+        for (Control* control : front()->findChildren<Control*>(QString::fromLatin1(name)))
+            if (control->isVisible()) // that of a page which was left lives on for a moment
+                return control;
+        qFatal("The tour finds no %s", name);
     }
 
     AppDelegate& delegate() { return delegate_; }
 
 private:
     platform::Services services();
-    void save(QWidget& widget, const QString& name, const QString& caption);
+    QPixmap picture() const;
+    void save(const QPixmap& picture, const QWidget& of, const QString& name, const QString& caption);
     void lookForDialog();
 
     struct ExpectedDialog {

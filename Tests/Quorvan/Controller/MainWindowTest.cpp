@@ -117,7 +117,7 @@ TEST_F(MainWindowTest, AsksWhoIsLoggedInBeforeItOpens) {
     EXPECT_TRUE(page.TrusteeRightsView->isEnabled());
     EXPECT_TRUE(page.TrusteeRightsView->hasFocus());
     for (const MenuEntry* follows :
-         {page.FileSystemRightsView, page.UserQuotaView, page.DirectoryQuotaView, page.SettingView}) {
+         {page.FileSystemRightsView, page.UserQuotaView, page.DirectoryQuotaView}) {
         EXPECT_TRUE(follows->isVisible());
         EXPECT_FALSE(follows->isEnabled());
         EXPECT_EQ(follows->toolTip(), "Page_Follows_Label");
