@@ -8,7 +8,6 @@
 #include "Tests/Support/LogRecorder.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace quorvan {
 namespace {
@@ -64,12 +63,10 @@ TEST_F(Client, ReadsAndChangesWhatBelongsToAPath) {
         EXPECT_EQ(controller.getFileInfoOwner(file, owner, type), "0");
         EXPECT_EQ(owner.id, id);
         EXPECT_NE(owner.name, "");
-        controller.setAttributes(file, [] {
-            std::string tags = R"(<archive enabled="yes"/>)";
-            for (const auto& each : FileAttributes::FILE_ATTRIBUTES)
-                tags += each.attribute == "archive" ? each.enabled : each.disabled;
-            return tags;
-        }());
+        std::string tags = R"(<archive enabled="yes"/>)";
+        for (const auto& each : FileAttributes::FILE_ATTRIBUTES)
+            tags += each.attribute == "archive" ? each.enabled : each.disabled;
+        controller.setAttributes(file, tags);
         AttributesInfo attributes;
         EXPECT_EQ(controller.getAttributes(file, attributes, type), "0");
         EXPECT_THAT(attributes.attributes.value(), ElementsAre("archive"));
@@ -89,18 +86,11 @@ TEST_F(Client, ReadsTheRightsOfAllPaths) {
          {std::pair("ActiveDirectory", "Finance"), std::pair("Morvane", "CN=Lektorat.OU=Verlag.O=Meridal")}) {
         std::vector<DirectoryRights> all;
         EXPECT_EQ(controller.getIRRequest("VOL1:\\Projects", all, type), "0");
-        std::vector<std::string> paths;
-        std::string id;
-        for (const DirectoryRights& each : all) {
-            if (each.trustee->trusteeName != name)
-                continue;
-            paths.push_back(each.path);
-            id = each.trustee->trusteeID;
-        }
-        EXPECT_EQ(paths.size(), 2U);
-        EXPECT_THAT(paths, Contains(demo::selection));
+        std::erase_if(all, [&](const auto& each) { return each.trustee->trusteeName != name; });
+        ASSERT_EQ(all.size(), 2U);
+        EXPECT_EQ(all[0].path, demo::selection);
         std::vector<IdentityFileRights> files;
-        EXPECT_EQ(controller.getFSRights("VOL1:\\Projects", {id}, files, type), "0");
+        EXPECT_EQ(controller.getFSRights("VOL1:\\Projects", {all[0].trustee->trusteeID}, files, type), "0");
         EXPECT_EQ(files.size(), 2U);
     }
 }
@@ -131,23 +121,48 @@ TEST_F(Client, FindsTheGroupsOfATreeUser) {
     open("/_admin", "/Manage_KELP/TRELL.cmd");
     std::vector<User> found;
     EXPECT_EQ(controller.getMorvaneBrowse(".OU=Archiv.O=Meridal.T=meridal-tree.", found), "0");
-    const auto user = std::find_if(found.begin(), found.end(), [](const User& each) {
-        return each.trusteeName.find("Tōru") != std::string::npos;
-    });
-    ASSERT_NE(user, found.end());
+    std::erase_if(found, [](const User& each) { return each.trusteeName.find("Tōru") == std::string::npos; });
+    ASSERT_EQ(found.size(), 1U);
     std::string context;
     std::string name;
-    ASSERT_TRUE(convertDntoContextAndNameRootLeft(user->trusteeName, context, name));
-    EXPECT_EQ(controller.getGuid_Morvane(context, name), user->trusteeID);
+    ASSERT_TRUE(convertDntoContextAndNameRootLeft(found[0].trusteeName, context, name));
+    EXPECT_EQ(controller.getGuid_Morvane(context, name), found[0].trusteeID);
     std::vector<Group> groups;
     EXPECT_EQ(controller.getGroupMemberShip_Morvane("", groups, context, name), "0");
     ASSERT_EQ(groups.size(), 2U);
     EXPECT_EQ(getDNFromGroupNameRootRight(groups[1].groupName),
               ".CN=Praktikanten.OU=Verlag.O=Meridal.MERIDAL-TREE.");
     ASSERT_TRUE(convertDntoContextAndNameRootLeft(groups[1].groupName, context, name));
-    const std::string guid = controller.getGuid_Morvane(context, name);
-    ASSERT_NE(world.identities->findById(guid), nullptr);
-    EXPECT_EQ(world.identities->findById(guid)->name, "CN=Praktikanten.OU=Verlag.O=Meridal");
+    const auto* group = world.identities->findById(controller.getGuid_Morvane(context, name));
+    ASSERT_NE(group, nullptr);
+    EXPECT_EQ(group->name, "CN=Praktikanten.OU=Verlag.O=Meridal");
+}
+
+TEST_F(Client, FindsTheCodeOfAFailureInEveryReply) {
+    world.server->misbehaviour.code = 77;
+    const std::string type = "ActiveDirectory";
+    TrusteeList trustees;
+    Rights rights;
+    std::vector<DirectoryRights> directories;
+    UserQuotaList quotas;
+    std::vector<User> users;
+    std::string server;
+    std::string path;
+    open("/IPC$", "/FilesCmdPipe");
+    EXPECT_EQ(controller.initializeTrustees(file, type, trustees, rights, rights), "77");
+    EXPECT_EQ(controller.setTrusteeAdd(Trustees("", "1", 0, "", "", type), file, type), "77");
+    EXPECT_EQ(controller.setInheritedRights(0, file), 77);
+    EXPECT_EQ(controller.getEffectiveRightsforPath(file, trustees, type), "77");
+    open("/IPC$", "/RightsCmdPipe");
+    EXPECT_EQ(controller.getIRRequest(file, directories, type), "77");
+    open("/_admin", "/Manage_KELP/user.cmd");
+    EXPECT_EQ(controller.getUserQuotaInfo(file, quotas, type), "77");
+    EXPECT_EQ(controller.setUserQuotaInfo(file, {}, type), "77");
+    open("/_admin", "/Manage_KELP/TRELL.cmd");
+    EXPECT_EQ(controller.getMorvaneBrowse("O=Meridal", users), "77");
+    EXPECT_EQ(controller.getGuid_Morvane("O=Meridal", "x"), "77");
+    open("/IPC$", "/ZelSmbPipe");
+    EXPECT_EQ(controller.getDFSPathInfo("VOL1:\\", server, path), "77");
 }
 
 TEST_F(Client, FollowsLinksToOtherServersAndFromThere) {

@@ -4,12 +4,9 @@
 #include "Tests/Simulator/SmallServer.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <atomic>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
@@ -20,7 +17,6 @@ namespace quorvan::simulator {
 namespace {
 
 using testing::HasSubstr;
-using testing::StartsWith;
 
 /// One connection to the server.
 class Client {
@@ -40,10 +36,7 @@ public:
     /// The payload, or the line itself when it is no "ok"; "hung up" when there is none. Words are
     /// written with "|" for the tab.
     std::string ask(std::string line, const std::string& payload = {}) {
-        for (char& c : line) {
-            if (c == '|')
-                c = '\t';
-        }
+        std::replace(line.begin(), line.end(), '|', '\t');
         send(line + "\n" + payload);
         return answer();
     }
@@ -82,135 +75,116 @@ struct Served {
     }
 };
 
-TEST(Protocol, CarriesRequestsAndRepliesOfSeveralPipes) {
-    Served served;
-    Client first(served.sockets.port());
-    Client second(served.sockets.port());
-    EXPECT_EQ(first.ask("open|rvogt|ipc$|\\ZelSmbPipe"), "");
+class Protocol : public testing::Test {
+protected:
+    Protocol() {
+        addDemoData(server);
+        EXPECT_TRUE(sockets.start());
+        client.emplace(sockets.port());
+    }
+
+    void expect(const std::vector<std::pair<std::string, const char*>>& conversation) {
+        for (const auto& [line, answer] : conversation)
+            EXPECT_EQ(client->ask(line), answer) << line;
+    }
+
+    KelpServer server;
+    std::atomic<bool> quit = false;
+    SocketServer sockets{server, [this] { quit = true; }};
+    std::optional<Client> client;
+};
+
+TEST_F(Protocol, CarriesRequestsAndRepliesOfSeveralPipes) {
+    Client second(sockets.port());
+    EXPECT_EQ(client->ask("open|rvogt|ipc$|\\ZelSmbPipe"), "");
     EXPECT_EQ(second.ask("open|ingrid.holm|_admin|Manage_KELP\\user.cmd"), "");
     EXPECT_EQ(second.ask("open|ingrid.holm|IPC$|ZelSmbPipe"), ""); // takes the place of the other
-    EXPECT_EQ(first.write(userTypeRequest.substr(0, 20)), "");
+    EXPECT_EQ(client->write(userTypeRequest.substr(0, 20)), "");
     EXPECT_EQ(second.write(userTypeRequest), "");
-    EXPECT_EQ(first.write(userTypeRequest.substr(20), 20), "");
+    EXPECT_EQ(client->write(userTypeRequest.substr(20), 20), "");
     EXPECT_THAT(second.ask("read|4096"), HasSubstr("<userType>ActiveDirectory<"));
-    EXPECT_EQ(first.ask("read|10"), "<zelSmbGet");
-    EXPECT_THAT(first.ask("read|4096"), HasSubstr("<userType>Morvane<"));
-    EXPECT_EQ(first.ask("read|4096"), "");
-    EXPECT_EQ(first.ask("close"), "");
-    EXPECT_EQ(first.ask("close"), "error 9\n");
-    EXPECT_EQ(first.ask("requests"), "2");
-    EXPECT_EQ(first.ask("last-request"), userTypeRequest);
+    EXPECT_EQ(client->ask("read|10"), "<zelSmbGet");
+    EXPECT_THAT(client->ask("read|4096"), HasSubstr("<userType>Morvane<"));
+    expect({{"read|4096", ""}, {"close", ""}, {"close", "error 9\n"}, {"requests", "2"}});
 }
 
-TEST(Protocol, ShowsAndChangesTheModel) {
-    Served served;
-    Client client(served.sockets.port());
-    const std::string sid = served.server.findAccount(demo::readOnly)->identity->id;
-    EXPECT_EQ(client.ask("set-trustee|VOL1:\\New Folder|" + sid + "|0x41"), "");
-    EXPECT_EQ(client.ask("trustees|VOL1:\\New Folder"), sid + "\t0x0041\tlea.fournier\n");
-    EXPECT_EQ(client.ask("set-filter|VOL1:\\New Folder|256"), "");
-    EXPECT_EQ(client.ask("filter|VOL1:\\New Folder"), "0x0100 supervisor");
-    EXPECT_EQ(client.ask("rights|VOL1:\\New Folder|" + sid), "0x0041 read fileScan");
-    EXPECT_EQ(client.ask("remove-trustee|VOL1:\\New Folder|" + sid), "");
-    EXPECT_EQ(client.ask("rights|VOL1:\\New Folder|" + sid), "0x0000 ");
-    EXPECT_EQ(client.ask("add-many|VOL1:\\New Folder|3"), "");
-    EXPECT_EQ(served.server.trustees("VOL1:\\New Folder").size(), 3U);
-    const std::pair<std::string, std::string> properties[] = {
-        {"set-owner|VOL1:\\Extra|S-1-5-21-9", ""},
-        {"owner|VOL1:\\Extra", "S-1-5-21-9"},
-        {"set-attributes|VOL1:\\Extra|hidden archive", ""},
-        {"attributes|VOL1:\\Extra", "hidden archive"},
-        {"set-attributes|VOL1:\\Extra|", ""},
-        {"attributes|VOL1:\\Extra", ""},
-        {"quota|VOL1:\\Extra", "-1 0"},
-        {"set-quota|VOL1:\\Extra|9223372036854775807|512", ""},
-        {"quota|VOL1:\\Extra", "9223372036854775807 512"},
-        {"set-user-quota|VOL1|" + sid + "|5|7", ""},
-        {"set-link|VOL1:\\Away|localhost|DATA|a\\b", ""}};
-    for (const auto& [line, expected] : properties)
-        EXPECT_EQ(client.ask(line), expected) << line;
-    EXPECT_THAT(client.ask("user-quotas|VOL1"), HasSubstr(sid + "\t5\t7\tlea.fournier\n"));
-    EXPECT_EQ(served.server.volumes().find("VOL1:\\Away")->link.value().path, "a\\b");
-    EXPECT_THAT(client.ask("accounts"), HasSubstr("rvogt\tkelp\tMorvane\n"));
-    EXPECT_EQ(client.ask("mount|rvogt|kelp|IPC$"), "");
-    EXPECT_EQ(client.ask("mount|rvogt|x|IPC$"), "error 13\n");
-    EXPECT_EQ(client.ask("quit"), "");
-    EXPECT_TRUE(served.quit);
+TEST_F(Protocol, ShowsAndChangesTheModelAndRefusesWhatItDoesNotKnow) {
+    const std::string sid = server.findAccount(demo::readOnly)->identity->id;
+    expect({{"set-trustee|VOL1:\\New|" + sid + "|0x41", ""},
+            {"set-filter|VOL1:\\New|256", ""},
+            {"filter|VOL1:\\New", "0x0100 supervisor"},
+            {"rights|VOL1:\\New|" + sid, "0x0041 read fileScan"},
+            {"trustees|VOL1:\\New", (sid + "\t0x0041\tlea.fournier\n").c_str()},
+            {"remove-trustee|VOL1:\\New|" + sid, ""},
+            {"rights|VOL1:\\New|" + sid, "0x0000 "},
+            {"set-owner|VOL1:\\Extra|S-1-5-21-9", ""},
+            {"owner|VOL1:\\Extra", "S-1-5-21-9"},
+            {"set-attributes|VOL1:\\Extra|hidden archive", ""},
+            {"attributes|VOL1:\\Extra", "hidden archive"},
+            {"set-quota|VOL1:\\Extra|9223372036854775807|512", ""},
+            {"quota|VOL1:\\Extra", "9223372036854775807 512"},
+            {"set-user-quota|VOL1|" + sid + "|5|7", ""},
+            {"mount|rvogt|x|IPC$", "error 13\n"},
+            {"nonsense", "error 22\n"},
+            {"read", "error 22\n"},
+            {"read|4096", "error 9\n"},
+            {"open|rvogt|IPC$|Other", "error 2\n"},
+            {"open|nobody|IPC$|ZelSmbPipe", "error 13\n"},
+            {"trustees|VOL1:\\nowhere", "error 2\n"},
+            {"set-trustee|VOL1:\\|S-0|1", "error 2\n"},
+            {"set-trustee|no path|S-0|1", "error 22\n"},
+            {"set-filter|VOL1:\\|65536", "error 22\n"},
+            {"set-attributes|VOL1:\\|visible", "error 22\n"},
+            {"misbehave|delay|soon", "error 22\n"}});
+    EXPECT_THAT(client->ask("user-quotas|VOL1"), HasSubstr(sid + "\t5\t7\tlea.fournier\n"));
+    EXPECT_THAT(client->ask("accounts"), HasSubstr("rvogt\tkelp\tMorvane\n"));
+    expect({{"quit", ""}, {"write|0|18446744073709551615", "hung up"}});
+    EXPECT_TRUE(quit);
+    Client endless(sockets.port());
+    endless.send(std::string(200000, 'x'));
+    EXPECT_EQ(endless.answer(), "hung up");
 }
 
-TEST(Protocol, RefusesWhatItDoesNotKnow) {
-    Served served;
-    Client client(served.sockets.port());
-    const std::pair<const char*, const char*> cases[] = {
-        {"nonsense", "error 22\n"},
-        {"read", "error 22\n"},
-        {"read|4096", "error 9\n"},
-        {"open|rvogt|IPC$|Other", "error 2\n"},
-        {"open|nobody|IPC$|ZelSmbPipe", "error 13\n"},
-        {"trustees|VOL1:\\nowhere", "error 2\n"},
-        {"set-trustee|VOL1:\\|S-0|1", "error 2\n"},
-        {"set-trustee|no path|S-0|1", "error 22\n"},
-        {"set-filter|VOL1:\\|65536", "error 22\n"},
-        {"misbehave|delay|soon", "error 22\n"},
-        {"set-attributes|VOL1:\\|visible", "error 22\n"},
-        {"set-quota|VOL1:\\|1|x", "error 22\n"},
-        {"quota|VOL1:\\nowhere", "error 2\n"},
-        {"user-quotas|VOL9", "error 2\n"},
-    };
-    for (const auto& [line, expected] : cases)
-        EXPECT_EQ(client.ask(line), expected) << line;
-    EXPECT_EQ(client.ask("write|0|18446744073709551615"), "hung up");
-    Client next(served.sockets.port());
-    next.send(std::string(200000, 'x'));
-    EXPECT_EQ(next.answer(), "hung up");
-}
-
-TEST(Protocol, Misbehaves) {
-    Served served;
-    Client client(served.sockets.port());
+TEST_F(Protocol, Misbehaves) {
     for (const char* line :
-         {"misbehave|openError|5", "misbehave|onlyPipe|/FilesCmdPipe", "open|rvogt|IPC$|ZelSmbPipe"})
-        EXPECT_EQ(client.ask(line), "") << line;
-    EXPECT_EQ(client.ask("open|rvogt|IPC$|FilesCmdPipe"), "error 5\n");
-    for (const char* line : {"behave", "open|rvogt|IPC$|FilesCmdPipe", "misbehave|garbage|<x",
-                             "misbehave|cutAfter|1", "misbehave|passingReadErrors|1", "misbehave|delay|1"})
-        EXPECT_EQ(client.ask(line), "") << line;
-    client.write("anything");
-    EXPECT_EQ(client.ask("read|4096"), "error 4\n");
-    EXPECT_EQ(client.ask("read|4096"), "<");
-    EXPECT_EQ(client.ask("read|4096"), "");
-    for (const char* line : {"behave", "misbehave|code|77", "misbehave|replyMegabytes|1",
-                             "misbehave|mountError|17", "misbehave|dropAfter|5000"})
-        EXPECT_EQ(client.ask(line), "") << line;
-    EXPECT_EQ(client.ask("mount|rvogt|kelp|IPC$"), "error 17\n");
-    client.write(userTypeRequest);
-    EXPECT_THAT(client.ask("read|4096"), StartsWith("<adminReply><result value=\"77\">"));
-    EXPECT_EQ(client.ask("read|4096").size(), 904U);
-    EXPECT_EQ(client.ask("read|4096"), "hung up");
+         {"openError|5", "mountError|17", "onlyPipe|/FilesCmdPipe", "code|77", "garbage|<x",
+          "replyMegabytes|2", "cutAfter|1", "dropAfter|2", "delay|3", "passingReadErrors|4"})
+        EXPECT_EQ(client->ask(std::string("misbehave|") + line), "") << line;
+    const Misbehaviour& wrong = server.misbehaviour;
+    EXPECT_EQ(wrong.code, 77);
+    EXPECT_EQ(wrong.garbage, "<x");
+    EXPECT_EQ(wrong.replyMegabytes, 2U);
+    EXPECT_EQ(wrong.cutAfter, 1U);
+    EXPECT_EQ(wrong.delay.count(), 3);
+    expect({{"open|rvogt|IPC$|ZelSmbPipe", ""},
+            {"open|rvogt|IPC$|FilesCmdPipe", "error 5\n"},
+            {"mount|rvogt|kelp|IPC$", "error 17\n"},
+            {"behave", ""},
+            {"open|rvogt|IPC$|FilesCmdPipe", ""},
+            {"misbehave|passingReadErrors|1", ""},
+            {"misbehave|dropAfter|9", ""}});
+    client->write("anything");
+    expect({{"read|99", "error 4\n"}, {"read|99", "<adminRep"}, {"read|99", "hung up"}});
 }
 
-TEST(Protocol, ServesManyConnectionsAtOnce) {
-    Served served;
+TEST_F(Protocol, ServesManyConnectionsAtOnce) {
     std::atomic<int> answered = 0;
     std::vector<std::thread> threads;
-    threads.reserve(8);
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&] {
             for (int j = 0; j < 20; ++j) {
-                Client client(served.sockets.port());
-                client.ask("open|rvogt|IPC$|ZelSmbPipe");
-                client.write(userTypeRequest);
-                answered += client.ask("read|4096").find("Morvane") != std::string::npos ? 1 : 0;
+                Client each(sockets.port());
+                each.ask("open|rvogt|IPC$|ZelSmbPipe");
+                each.write(userTypeRequest);
+                answered += each.ask("read|4096").find("Morvane") != std::string::npos ? 1 : 0;
             }
         });
     }
     for (std::thread& each : threads)
         each.join();
     EXPECT_EQ(answered, 160);
-    Client idle(served.sockets.port());
-    EXPECT_EQ(idle.ask("requests"), "160");
-    served.sockets.stop();
-    EXPECT_EQ(idle.ask("requests"), "hung up");
+    sockets.stop();
+    EXPECT_EQ(client->ask("requests"), "hung up");
 }
 
 } // namespace

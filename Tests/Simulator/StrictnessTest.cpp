@@ -3,15 +3,11 @@
 #include "Tests/Simulator/SmallServer.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <vector>
 
 namespace quorvan::simulator {
 namespace {
-
-using testing::HasSubstr;
 
 /// One element in a request text.
 struct Span {
@@ -37,13 +33,6 @@ std::vector<Span> elements(const std::string& text) {
     return all;
 }
 
-std::string joined(std::initializer_list<std::string_view> parts) {
-    std::string text;
-    for (const std::string_view part : parts)
-        text += part;
-    return text;
-}
-
 /// The request with one element renamed, given an attribute, taken away, doubled, or changed over
 /// with the one after it. Changes may come in any number and order, and those of trustees behind a
 /// doubled prefix; so these are only renamed and given an attribute.
@@ -51,196 +40,144 @@ std::vector<std::string> mutations(const std::string& text) {
     std::vector<std::string> mutated;
     const std::vector<Span> all = elements(text);
     for (const Span& each : all) {
-        const std::string_view element = std::string_view(text).substr(each.from, each.to - each.from);
-        const std::string_view before = std::string_view(text).substr(0, each.from);
-        const std::string_view after = std::string_view(text).substr(each.to);
-        const std::string_view inside = element.substr(1 + each.name.size());
-        const std::size_t endTag = inside.rfind(joined({"</", each.name, ">"}));
-        mutated.push_back(joined({before, "<other", inside.substr(0, endTag),
-                                  endTag == std::string_view::npos ? "" : "</other>", after}));
-        mutated.push_back(joined({before, "<", each.name, " x=\"1\"", inside, after}));
+        const std::string element = text.substr(each.from, each.to - each.from);
+        const std::string before = text.substr(0, each.from);
+        const std::string after = text.substr(each.to);
+        const std::string inside = element.substr(1 + each.name.size());
+        const std::size_t endTag = inside.rfind("</" + each.name + ">");
+        const char* const otherEnd = endTag == std::string::npos ? "" : "</other>";
+        mutated.push_back(before + "<other" + inside.substr(0, endTag) + otherEnd + after);
+        mutated.push_back(before + "<" + each.name + " x=\"1\"" + inside + after);
         if (each.name == "addTrustee" || each.name == "removeTrustee" ||
             each.name == "modifyInheritedRightsFilter" || each.name == "set")
             continue;
-        mutated.push_back(joined({before, after}));
+        mutated.push_back(before + after);
         if (each.name != "virtualIO" || text.find("addTrustee") == std::string::npos)
-            mutated.push_back(joined({before, element, element, after}));
+            mutated.push_back(before + element + element + after);
         for (const Span& next : all) {
-            const std::string_view other = std::string_view(text).substr(next.from, next.to - next.from);
+            const std::string other = text.substr(next.from, next.to - next.from);
             if (next.from == each.to && other != element)
-                mutated.push_back(joined({before, other, element, after.substr(other.size())}));
+                mutated.push_back(before + other + element + after.substr(other.size()));
         }
     }
     return mutated;
 }
 
-struct ValidRequest {
-    const char* what;
-    std::string text;
-    const char* pipe = "/FilesCmdPipe";
-};
+using Request = std::pair<std::string, const char*>; ///< with its pipe file
 
-std::vector<ValidRequest> validRequests() {
-    const std::string severalPaths = admin(commandStream + "<fileRequest><trustees>" + add("S-1-5-21-3", "") +
-                                           remove("S-1-5-21-2", "VOL1:\\Dir") + "</trustees></fileRequest>");
-    return {
-        {"list, Active Directory", listInDomain()},
-        {"list, Morvane", listInTree()},
-        {"set of several", changes(add("S-1-5-21-3", "") + remove("S-1-5-21-2") + addInTree("guid-4", ""))},
-        {"several paths", severalPaths},
-        {"filter", filterRequest("")},
-        {"all effective rights, Active Directory", allEffectiveRights(true)},
-        {"all effective rights, Morvane", allEffectiveRights(false)},
-        {"effective rights of one, Active Directory", effectiveRightsOf("S-1-5-21-2")},
-        {"effective rights of one, Morvane", effectiveRightsOf("guid-4", false)},
-        {"all paths, Active Directory", rightsOfAllPaths(SmallServer::folder), "/RightsCmdPipe"},
-        {"all paths, Morvane", rightsOfAllPaths(SmallServer::folder, false), "/RightsCmdPipe"},
-        {"owner, Active Directory", getInfo("idInfo")},
-        {"owner, Morvane", getInfo("idInfo", false)},
-        {"attributes, Active Directory", getInfo("standardInfo")},
-        {"attributes, Morvane", getInfo("standardInfo", false)},
-        {"directory quota, Active Directory", getInfo("directoryQuotaInfo")},
-        {"directory quota, Morvane", getInfo("directoryQuotaInfo", false)},
-        {"set owner, Active Directory", setOwner("S-1-5-21-2")},
-        {"set owner, Morvane", setOwner("guid-4", false)},
-        {"set attributes", setAttributes({"hidden"})},
-        {"set directory quota", setDirectoryQuota("2048")},
-        {"user quotas, Active Directory", browseQuotas(true), quotaPipe},
-        {"user quotas, Morvane", browseQuotas(false), quotaPipe},
-        {"set user quotas", userQuotaRequest(setQuota("S-1-5-21-2", "1") + setQuota("guid-4", "2", false)),
-         quotaPipe},
-        {"set no user quotas", userQuotaRequest(""), quotaPipe},
-        {"tree search", searchTree("O=Meridal"), treePipe},
-        {"tree attribute", getAttribute("Käthe", "O=Meridal\\OU=Haus", "guid"), treePipe},
-        {"link", readLink(SmallServer::folder), "/ZelSmbPipe"},
-        {"user type", userTypeRequest, "/ZelSmbPipe"}};
-}
-
-/// Some variants differ by a single element, and one is not a mutation of the other.
-bool isValid(const std::string& text) {
-    const std::vector<ValidRequest> all = validRequests();
-    return std::any_of(all.begin(), all.end(), [&](const ValidRequest& each) { return each.text == text; });
-}
-
-/// What a request could have changed.
-std::string stateOf(SmallServer& small) {
-    const Node& folder = *small.server.volumes().find(SmallServer::folder);
-    std::string state = folder.owner + " " + std::to_string(folder.attributes) + " " +
-                        std::to_string(folder.quota.limit) + " " + std::to_string(folder.filter);
-    for (const TrusteeEntry& each : folder.trustees.entries())
-        state += " " + each.identity->id + "=" + std::to_string(each.rights);
-    return state + " " + std::to_string(small.server.volumes().userQuotas("VOL1")->entries().size());
+std::vector<Request> validRequests() {
+    const char* const folder = SmallServer::folder;
+    const quorvan::TrusteeList some = {add("S-1-5-21-3", 0), remove("S-1-5-21-2"), add("guid-4", 0, tree)};
+    std::string severalPaths = changes(some);
+    severalPaths.replace(severalPaths.rfind(folder), std::string_view(folder).size(), "VOL1:\\Dir");
+    severalPaths.insert(severalPaths.find(commandStream), commandStream);
+    std::vector<Request> requests = {
+        {Texts::createGetTrusteesListRequestAD(folder), filesPipe},
+        {Texts::createGetTrusteesListRequestMorvane(folder), filesPipe},
+        {changes(some), filesPipe},
+        {severalPaths, filesPipe},
+        {Texts::createSetIRFRequest(folder, 0), filesPipe},
+        {setAttributes({"hidden"}), filesPipe},
+        {Texts::createSetDirQuotaRequest(folder, "2048"), filesPipe},
+        {setQuotas({quota("S-1-5-21-2", 1), quota("guid-4", 2, tree)}), quotaPipe},
+        {setQuotas({}), quotaPipe},
+        {searchTree("O=Meridal"), treePipe},
+        {Texts::createGetGuidRequest("O=Meridal\\OU=Haus", "Käthe"), treePipe},
+        {readLink(folder), smbPipe},
+        {userTypeRequest, smbPipe}};
+    for (const char* type : {domain, tree}) {
+        const std::string id = type == tree ? "guid-4" : "S-1-5-21-2";
+        requests.emplace_back(Texts::createGetERRequests(folder, type), filesPipe);
+        requests.emplace_back(Texts::createGetUserEffRightRequest(id, folder, type), filesPipe);
+        requests.emplace_back(Texts::createGetIRRequest(folder, type), rightsPipe);
+        requests.emplace_back(Texts::createGetOwnerRequest(folder, type), filesPipe);
+        requests.emplace_back(Texts::createGetAttributesRequest(folder, type), filesPipe);
+        requests.emplace_back(Texts::createGetDirQuotaRequest(folder, type), filesPipe);
+        requests.emplace_back(Texts::createSetOwnerRequest(folder, id, type), filesPipe);
+        requests.emplace_back(Texts::createGetUserQuotaRequest("VOL1", type), quotaPipe);
+    }
+    return requests;
 }
 
 TEST(Strictness, RefusesEveryRequestThatDiffersByOneElement) {
-    for (const ValidRequest& each : validRequests()) {
+    const std::vector<Request> valid = validRequests();
+    const std::string before = SmallServer().state();
+    for (const auto& [text, pipe] : valid) {
         SmallServer small;
-        EXPECT_THAT(small.ask("boss", each.text, each.pipe), testing::Not(HasSubstr("\"20901\"")))
-            << each.what;
-        SmallServer untouched;
-        const std::string before = stateOf(untouched);
-        for (const std::string& mutated : mutations(each.text)) {
-            if (isValid(mutated))
+        for (const PipeFile& other : pipeFiles)
+            EXPECT_EQ(codeIn(small.ask("boss", text, other.file)) == "20901", other.file != std::string(pipe))
+                << text;
+        for (const std::string& mutated : mutations(text)) {
+            // Some variants differ by a single element, and one is not a mutation of the other.
+            if (std::find(valid.begin(), valid.end(), Request(mutated, pipe)) != valid.end())
                 continue;
             SmallServer fresh;
-            EXPECT_THAT(fresh.ask("boss", mutated, each.pipe), HasSubstr("\"20901\""))
-                << each.what << ": " << mutated;
-            EXPECT_EQ(stateOf(fresh), before) << mutated;
-        }
-        for (const PipeFile& other : pipeFiles) {
-            if (other.file != std::string_view(each.pipe)) {
-                EXPECT_THAT(small.ask("boss", each.text, other.file), HasSubstr("\"20901\"")) << each.what;
-            }
+            EXPECT_EQ(codeIn(fresh.ask("boss", mutated, pipe)), "20901") << mutated;
+            EXPECT_EQ(fresh.state(), before) << mutated;
         }
     }
 }
 
 TEST(Strictness, RefusesOtherContents) {
-    const std::string valid = changes(add("S-1-5-21-3", "<read/>") + remove("S-1-5-21-2"));
-    const std::pair<const char*, const char*> replacements[] = {
-        {">LONG<", ">DOS<"},
-        {">LONG<", ">long<"},
-        {"name=\"command\"", "name=\"data\""},
-        {"name=\"command\"", "name='command'"},
-        {"type=\"adID\"", "type=\"ADID\""},
-        {" type=\"adID\"", ""},
-        {"type=\"adID\"", "type = \"adID\""},
-        {"<adUser/>", "<adUser>x</adUser>"},
-        {"<symLink/>", "<symLink/> "},
-        {"<read/>", "<read/><read/>"},
-        {"<read/>", "<write/><read/>"},
-        {"<read/>", "<modify/><create/>"},
-        {"<read/>", "read"},
-        {"\\Dir\\Sub<", "\\Dir\\Su\u0301b<"}, // two characters where NFC has one
-        {"\\Dir\\Sub<", "\\Dir<"},            // another path without the doubled prefix
-        {"\\Dir\\Sub<", "\\Dir\\R&D<"},       // a bare ampersand
-        {"\\Dir\\Sub<", "\\Dir\\\xC3<"},      // ill-formed UTF-8
-        {"<adminRequest>", "<?xml version=\"1.0\"?><adminRequest>"},
-        {"</adminRequest>", "</adminRequest>\n"},
-        {"</adminRequest>", "</adminRequest><x/>"},
-        {"</adminRequest>", ""},
-        {"</adminRequest>", "<!-- --></adminRequest>"},
-    };
-    for (const auto& [from, to] : replacements) {
-        SmallServer small;
-        std::string text = valid;
-        const std::size_t at = text.find(from);
-        ASSERT_NE(at, std::string::npos) << from;
-        text.replace(at, std::string_view(from).size(), to);
-        EXPECT_THAT(small.ask("boss", text), HasSubstr("\"20901\"")) << text;
-        EXPECT_EQ(small.rightsAt(small.guest), 0xFFFF) << text;
-    }
-    SmallServer small;
-    const std::string whole = filterRequest("");
-    const std::size_t from = whole.find("<modify");
-    const std::string filterElement = whole.substr(from, whole.find("</trustees>") - from);
-    for (const std::string& text :
-         {std::string(), std::string(100000, '<'), admin(""), commandStream, changes("x"),
-          changes(filterElement + filterElement), changes(filterElement + add("S-1-5-21-3", ""))})
-        EXPECT_THAT(small.ask("boss", text), HasSubstr("\"20901\"")) << text.substr(0, 100);
-}
-
-TEST(Strictness, RefusesOtherContentsOfEachKind) {
-    std::string tooMany;
-    for (int i = 0; i <= 300; ++i)
-        tooMany += setQuota("S-1-5-21-2", "1");
+    const std::string trustees = changes({add("S-1-5-21-3", right::read), remove("S-1-5-21-2")});
+    const std::string filter = Texts::createSetIRFRequest(SmallServer::folder, 0);
+    const std::string owner = Texts::createSetOwnerRequest(SmallServer::folder, "S-1-5-21-2", domain);
+    const std::string getOwner = Texts::createGetOwnerRequest(SmallServer::folder, domain);
+    const std::string effective = Texts::createGetUserEffRightRequest("guid-4", SmallServer::folder, tree);
+    const std::string directoryQuota = Texts::createSetDirQuotaRequest(SmallServer::folder, "2048");
+    const std::string oneQuota = setQuotas({quota("S-1-5-21-2", 1)});
+    const std::string tooMany = setQuotas(UserQuotaList(301, quota("S-1-5-21-2", 1)));
     const std::string hidden = "<hidden enabled=\"yes\"/>";
     const struct {
         std::string valid, from, to;
-        const char* pipe = "/FilesCmdPipe";
+        const char* pipe = filesPipe;
     } cases[] = {
-        {setOwner("S-1-5-21-2"), " type = ", " type="},
-        {setOwner("S-1-5-21-2"), "S-1-5-21-2", "<x/>"},
-        {effectiveRightsOf("S-1-5-21-2"), "\"adID\"", "\"adid\""},
+        {trustees, ">LONG<", ">long<"},
+        {trustees, "name=\"command\"", "name=\"data\""},
+        {trustees, " type=\"adID\"", ""},
+        {trustees, "type=\"adID\"", "type = \"adID\""},
+        {trustees, "<adUser/>", "<adUser>x</adUser>"},
+        {trustees, "<symLink/>", "<symLink/> "},
+        {trustees, "<read/>", "<read/><read/>"},
+        {trustees, "<read/>", "<write/><read/>"},
+        {trustees, "\\Dir\\Sub<", "\\Dir\\Su\u0301b<"}, // two characters where NFC has one
+        {trustees, "\\Dir\\Sub<", "\\Dir<"},            // another path without the doubled prefix
+        {trustees, "\\Dir\\Sub<", "\\Dir\\\xC3<"},      // ill-formed UTF-8
+        {trustees, "<adminRequest>", "<?xml version=\"1.0\"?><adminRequest>"},
+        {trustees, "</adminRequest>", "</adminRequest>\n"},
+        {trustees, trustees, ""},
+        {trustees, "<trustees>",
+         "<trustees><modifyInheritedRightsFilter><fileName>VOL1:\\Dir\\Sub</fileName>"
+         "<symLink/><inheritedRightsFilter/></modifyInheritedRightsFilter>"},
+        {filter, commandStream, commandStream + commandStream},
+        {owner, " type = ", " type="},
+        {getOwner, "<idInfo/>", "<rightsInfo/>"},
+        {getOwner, "\\Dir\\Sub<", "\\Dir\\Su\u0301b<"},
+        {effective, commandStream + commandStream, commandStream},
         {setAttributes({"hidden"}), "enabled=\"no\"", "enabled=\"off\""},
         {setAttributes({"hidden"}), hidden, ""},                // on, but not announced
         {setAttributes({"hidden"}), hidden, hidden + hidden},   // announced twice
         {setAttributes({}), "<readOnly", hidden + "<readOnly"}, // announced, but not on
         {setAttributes({}), "<readOnly", "<compressed"},
-        {setDirectoryQuota("2048"), ">2048<", "><"},
-        {setDirectoryQuota("2048"), ">2048<", ">2 GB<"},
-        {setDirectoryQuota("2048"), ">2048<", ">9223372036854775808<"},
-        {getInfo("idInfo"), "<idInfo/>", "<rightsInfo/>"},
-        {getInfo("idInfo"), "\\Dir\\Sub<", "\\Dir\\Su\u0301b<"},
-        {rightsOfAllPaths("VOL1:\\"), ">ss<", ">home<", "/RightsCmdPipe"},
-        {readLink("VOL1:\\"), "VOL1", "VO\u0308L1", "/ZelSmbPipe"},
-        {browseQuotas(false), "VOL1", "VO\u0308L1", quotaPipe},
-        {userQuotaRequest(setQuota("S-1-5-21-2", "1")), ">1<", ">1.5<", quotaPipe},
-        {userQuotaRequest(setQuota("S-1-5-21-2", "1")), "</set>",
-         "</set>" + setQuota("S-1-5-21-3", "1", true, "VOL2"), quotaPipe},
-        {userQuotaRequest(""), "<userQuota>", "<userQuota>" + tooMany, quotaPipe},
+        {directoryQuota, ">2048<", ">2 GB<"},
+        {directoryQuota, ">2048<", ">9223372036854775808<"},
+        {Texts::createGetIRRequest("VOL1:\\", domain), ">ss<", ">home<", rightsPipe},
+        {readLink("VOL1:\\"), "VOL1", "VO\u0308L1", smbPipe},
+        {Texts::createGetUserQuotaRequest("VOL1", tree), "VOL1", "VO\u0308L1", quotaPipe},
+        {oneQuota, ">1<", ">1.5<", quotaPipe},
+        {oneQuota, "</set>", "</set><set><volumeName>V</volumeName><id>guid-4</id><quota>1</quota></set>",
+         quotaPipe},
+        {oneQuota, oneQuota, tooMany, quotaPipe},
     };
-    for (const auto& each : cases) {
+    for (const auto& [valid, from, to, pipe] : cases) {
         SmallServer small;
-        const std::string before = stateOf(small);
-        std::string text = each.valid;
-        const std::size_t at = text.find(each.from);
-        ASSERT_NE(at, std::string::npos) << each.from;
-        text.replace(at, each.from.size(), each.to);
-        EXPECT_THAT(small.ask("boss", text, each.pipe), HasSubstr("\"20901\"")) << text;
-        EXPECT_EQ(stateOf(small), before) << text;
-        EXPECT_THAT(small.ask("boss", each.valid, each.pipe), testing::Not(HasSubstr("\"20901\"")))
-            << each.valid;
+        const std::string before = small.state();
+        std::string text = valid;
+        ASSERT_NE(text.find(from), std::string::npos) << from;
+        text.replace(text.find(from), from.size(), to);
+        EXPECT_EQ(codeIn(small.ask("boss", text, pipe)), "20901") << text.substr(0, 500);
+        EXPECT_EQ(small.state(), before) << text.substr(0, 500);
+        EXPECT_NE(codeIn(small.ask("boss", valid, pipe)), "20901") << valid;
     }
 }
 
@@ -253,9 +190,10 @@ TEST(RequestReader, ReadsTextAndReferences) {
     EXPECT_EQ(first.attributes, (decltype(first.attributes){{"b", "1\""}, {"c", ""}}));
     EXPECT_EQ(first.children.at(0).text, "x <é€> y");
     EXPECT_EQ(holder->children[1].attributes, (decltype(first.attributes){{"e ", "2"}}));
-    for (const char* bad : {"<a b=\"1\" b=\"2\"/>", "<a>x<b/></a>", "<a><b/>x</a>", "<a>&nbsp;</a>",
-                            "<a>&#0;</a>", "<a>&#xD800;</a>", "<a>&#99999999999;</a>", "<a></b>", "<a",
-                            "<1/>", "<a b= \"1\"/>", "<a b =\"1\"/>", "<a b  =  \"1\"/>", "<a/> <b/>", ""})
+    for (const char* bad :
+         {"<a b=\"1\" b=\"2\"/>", "<a b='1'/>", "<a>x<b/></a>", "<a><b/>x</a>", "<a>&nbsp;</a>", "<a>R&D</a>",
+          "<a>&#0;</a>", "<a>&#xD800;</a>", "<a>&#99999999999;</a>", "<a></b>", "<a>", "<1/>",
+          "<a b= \"1\"/>", "<a b =\"1\"/>", "<a/> <b/>"})
         EXPECT_FALSE(readRequest(bad)) << bad;
     std::string deep;
     for (int i = 0; i < 100000; ++i)
