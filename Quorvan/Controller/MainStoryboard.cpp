@@ -4,6 +4,7 @@
 #include "Quorvan/Controller/BrowseMorvaneUserListViewController.h"
 #include "Quorvan/Controller/BrowseUserListViewController.h"
 #include "Quorvan/Controller/IdentifySourceViewController.h"
+#include "Quorvan/Controller/InformationViewController.h"
 #include "Quorvan/Controller/MainViewController.h"
 #include "Quorvan/Controller/OldBrowseUserListViewController.h"
 #include "Quorvan/Controller/SettingsController.h"
@@ -15,6 +16,7 @@ namespace quorvan {
 void fillMainStoryboard() {
     Storyboard& main = Storyboard::named("Main");
     main.add("optionsViewController", [] { return new MainViewController; });
+    main.add("informationView", [] { return new InformationViewController; });
     main.add("trusteeRightsView", [] { return new TrusteeRightsTabView; });
     main.add("settingsView", [] { return new SettingsController; });
     main.add("IdentifySource", [] { return new IdentifySourceViewController; });

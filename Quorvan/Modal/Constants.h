@@ -86,6 +86,12 @@ struct UserQuotaConstants {
     };
 };
 
+/// Amounts of space that stand for something else, in decimal.
+struct DirectoryQuotaConstants {
+    static constexpr std::string_view UNLIMITED = "9223372036854775807"; ///< what removing a limit writes
+    static constexpr std::string_view NOT_SET = "-1";
+};
+
 struct Constants {
     static constexpr std::string_view NIL = ""; ///< "no value"
 };

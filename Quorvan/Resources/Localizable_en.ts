@@ -303,6 +303,192 @@
     <source></source>
     <translation>Send all changes to the server</translation>
   </message>
+  <!-- Information -->
+  <message id="Path_Label">
+    <source></source>
+    <translation>Path</translation>
+  </message>
+  <message id="Owner_Label">
+    <source></source>
+    <translation>Owner</translation>
+  </message>
+  <message id="No_Owner_Label">
+    <source></source>
+    <translation>Nobody</translation>
+  </message>
+  <message id="Owner_Gone_Label">
+    <source></source>
+    <translation>Unknown user (%1)</translation>
+  </message>
+  <message id="Change_Owner_title">
+    <source></source>
+    <translation>Chan&amp;ge…</translation>
+  </message>
+  <message id="Change_Owner_Tip_Label">
+    <source></source>
+    <translation>Choose the user who owns this file or folder</translation>
+  </message>
+  <message id="Information_Read_Only_Label">
+    <source></source>
+    <translation>Changing the owner or the limit takes the Supervisor right here. Whether you may change attributes is for the server to say.</translation>
+  </message>
+  <message id="KELP_Attr_Label">
+    <source></source>
+    <translation>&amp;Kelp Attributes</translation>
+  </message>
+  <message id="Read_Only_Label">
+    <source></source>
+    <translation>Read &amp;Only</translation>
+  </message>
+  <message id="Read_Only_Tip_Label">
+    <source></source>
+    <translation>The contents cannot be changed; nor can it be renamed or deleted</translation>
+  </message>
+  <message id="Hidden_Label">
+    <source></source>
+    <translation>&amp;Hidden</translation>
+  </message>
+  <message id="Hidden_Tip_Label">
+    <source></source>
+    <translation>Left out of ordinary listings</translation>
+  </message>
+  <message id="Archive_Label">
+    <source></source>
+    <translation>Archi&amp;ve</translation>
+  </message>
+  <message id="Archive_Tip_Label">
+    <source></source>
+    <translation>Changed since the last backup</translation>
+  </message>
+  <message id="Purge_Immediately_Label">
+    <source></source>
+    <translation>&amp;Purge Immediately</translation>
+  </message>
+  <message id="Purge_Immediately_Tip_Label">
+    <source></source>
+    <translation>Gone for good once deleted; it cannot be salvaged</translation>
+  </message>
+  <message id="Rename_Inhibit_Label">
+    <source></source>
+    <translation>Re&amp;name Inhibit</translation>
+  </message>
+  <message id="Rename_Inhibit_Tip_Label">
+    <source></source>
+    <translation>Cannot be renamed; always so while it is read only</translation>
+  </message>
+  <message id="Delete_Inhibit_Label">
+    <source></source>
+    <translation>&amp;Delete Inhibit</translation>
+  </message>
+  <message id="Delete_Inhibit_Tip_Label">
+    <source></source>
+    <translation>Cannot be deleted; always so while it is read only</translation>
+  </message>
+  <message id="Immediate_Compression_Label">
+    <source></source>
+    <translation>&amp;Immediate Compression</translation>
+  </message>
+  <message id="Immediate_Compression_Tip_Label">
+    <source></source>
+    <translation>Compressed as soon as the server has time for it</translation>
+  </message>
+  <message id="Dont_Compress_Label">
+    <source></source>
+    <translation>Don’&amp;t Compress</translation>
+  </message>
+  <message id="Dont_Compress_Tip_Label">
+    <source></source>
+    <translation>Never compressed; for files only</translation>
+  </message>
+  <message id="Directory_Quota_Label">
+    <source></source>
+    <translation>Directory &amp;Quota</translation>
+  </message>
+  <message id="Limit_Label">
+    <source></source>
+    <translation>Limit</translation>
+  </message>
+  <message id="Used_Label">
+    <source></source>
+    <translation>Used</translation>
+  </message>
+  <message id="Available_Label">
+    <source></source>
+    <translation>Available</translation>
+  </message>
+  <message id="Unit_Label">
+    <source></source>
+    <translation>Unit of the limit</translation>
+  </message>
+  <message id="Edit_Limit_title">
+    <source></source>
+    <translation>&amp;Edit Limit</translation>
+  </message>
+  <message id="Edit_Limit_Tip_Label">
+    <source></source>
+    <translation>Enter another limit for this folder</translation>
+  </message>
+  <message id="Remove_Limit_title">
+    <source></source>
+    <translation>Re&amp;move Limit</translation>
+  </message>
+  <message id="Remove_Limit_Tip_Label">
+    <source></source>
+    <translation>Let this folder grow as far as the volume allows</translation>
+  </message>
+  <message id="Quota_Bar_Label">
+    <source></source>
+    <translation>Share of the limit in use</translation>
+  </message>
+  <message id="Quota_Usage_Label">
+    <source></source>
+    <translation>%1 % used</translation>
+  </message>
+  <message id="Quota_Exceeded_Label">
+    <source></source>
+    <translation>Over the limit</translation>
+  </message>
+  <!-- Quotas -->
+  <message id="User_Quota_Unlimited">
+    <source></source>
+    <translation>Unlimited</translation>
+  </message>
+  <message id="User_Quota_Not_Set">
+    <source></source>
+    <translation>Not set</translation>
+  </message>
+  <message id="User_Quota_Maximum">
+    <source></source>
+    <translation>As much as the volume has</translation>
+  </message>
+  <message id="Invalid_Quota_Limit">
+    <source></source>
+    <translation>A limit is a whole number, such as 5. Choose its unit from the list beside it.</translation>
+  </message>
+  <message id="B">
+    <source></source>
+    <translation>B</translation>
+  </message>
+  <message id="KB">
+    <source></source>
+    <translation>KB</translation>
+  </message>
+  <message id="MB">
+    <source></source>
+    <translation>MB</translation>
+  </message>
+  <message id="GB">
+    <source></source>
+    <translation>GB</translation>
+  </message>
+  <message id="TB">
+    <source></source>
+    <translation>TB</translation>
+  </message>
+  <message id="PB">
+    <source></source>
+    <translation>PB</translation>
+  </message>
   <!-- Alerts -->
   <message id="Warning_Title">
     <source></source>

@@ -27,6 +27,12 @@ const char* trusteeIconName(std::string_view trusteeType) {
     return "user";
 }
 
+QIcon userIcon(std::string_view identityType) {
+    if (identityType == identityActiveDirectory)
+        return namedIcon("user");
+    return identityType == identityMorvane ? namedIcon("user_Morvane") : QIcon();
+}
+
 QIcon namedIcon(const char* name) {
     static QHash<QString, QIcon> icons; // a table asks for the same few at every painted row
     const auto key = QString::fromLatin1(name);

@@ -11,6 +11,9 @@ namespace quorvan {
 /// object class, in any case); kinds that nobody knows look like users.
 const char* trusteeIconName(std::string_view trusteeType);
 
+/// The icon of a user by its identity type; none for a type that nobody knows.
+QIcon userIcon(std::string_view identityType);
+
 /// One of the program's icons by its name, made once.
 QIcon namedIcon(const char* name);
 

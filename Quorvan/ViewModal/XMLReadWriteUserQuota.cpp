@@ -25,7 +25,6 @@ constexpr std::string_view setAD =
     R"(<set type="adID"><volumeName>%@</volumeName><id>%@</id><quota>%@</quota></set>)";
 constexpr std::string_view setMorvane = "<set><volumeName>%@</volumeName><id>%@</id><quota>%@</quota></set>";
 
-constexpr std::string_view unlimited = "9223372036854775807";
 constexpr std::size_t batchSize = 300;
 
 /// The first part of a server path, whose parts are separated by colons.
@@ -44,7 +43,7 @@ bool isChange(const std::optional<std::string>& action) {
 /// The limit to write for a row that is changed.
 std::string quotaText(const UserQuotaData& user) {
     return user.action == Actions::REMOVE
-               ? std::string(unlimited)
+               ? std::string(DirectoryQuotaConstants::UNLIMITED)
                : std::to_string(unwrap(user.quotaLimit, "A changed quota has no amount"));
 }
 

@@ -210,6 +210,7 @@ void showEverything(const Output& output) {
     showHelp(output);
     showIdentityBrowsers(output);
     showSettings(output);
+    showProperties(output);
 }
 
 void showMainPages(const Output& output) {

@@ -8,6 +8,9 @@ namespace quorvan::demo {
 /// Walks through every page and every state that its controls can be in.
 void showEverything(const Output& output);
 
+/// The part of that which is about attributes, owner and quotas.
+void showProperties(const Output& output);
+
 /// The pages that show most, for a look at another scale.
 void showMainPages(const Output& output);
 

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The scenes about attributes, owner and quotas.
+#include "Simulator/demo/Scenes.h"
+
+#include <QAbstractButton>
+#include <QTabWidget>
+
+namespace quorvan::demo {
+namespace {
+
+using simulator::Embedded;
+namespace account = simulator::demo;
+
+void openInformation(Stage& stage) {
+    stage.launch();
+    stage.press("DirectoryQuotaView");
+}
+
+void showQuota(Stage& stage) {
+    stage.find<QTabWidget>("directoryQuotaTabView")->setCurrentIndex(1);
+}
+
+void showAttributes(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo(account::supervisor, account::compressedFile));
+        openInformation(stage);
+        stage.photograph("30-file-attributes", "the attributes of a compressed file, which has no quota");
+        stage.find<QAbstractButton>("readChk")->click();
+        stage.photograph("31-read-only", "read only implies two others");
+    }
+    {
+        Stage stage(output, Embedded::demo(account::supervisor, account::fileOfNobody));
+        openInformation(stage);
+        stage.photograph("32-owner-gone", "a file whose owner is gone");
+    }
+    Stage stage(output, Embedded::demo(account::readOnly));
+    openInformation(stage);
+    stage.photograph("33-information-read-only", "without Supervisor: owner and limit cannot be changed");
+}
+
+void showDirectoryQuota(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo());
+        openInformation(stage);
+        stage.photograph("34-folder-attributes", "the attributes of a folder");
+        showQuota(stage);
+        stage.photograph("35-directory-quota", "a folder with a limit");
+        stage.press("editLimitBtn");
+        stage.photograph("36-limit-edited", "its limit can be typed");
+        stage.type("dirQuotaLimit", "1.5");
+        stage.expectDialog("37-invalid-limit", "the sheet after Apply with a limit that is none");
+        stage.press("applyButton");
+        stage.photograph("38-limit-as-before", "the limit as it was");
+        stage.press("removeLimitBtn");
+        stage.photograph("39-limit-removed", "the limit is to be removed");
+        stage.press("applyButton");
+        stage.photograph("40-unlimited", "the limit after that");
+    }
+    {
+        Stage stage(output, Embedded::demo(account::supervisorTree, "VOL1:\\Public\\Briefkasten"));
+        openInformation(stage);
+        showQuota(stage);
+        stage.photograph("41-over-the-limit", "a folder over its limit, seen by a user of the tree");
+    }
+    Stage stage(output, Embedded::demo(account::supervisor, account::folderWithoutQuota));
+    openInformation(stage);
+    showQuota(stage);
+    stage.photograph("42-quota-not-set", "a folder whose quota nobody has set");
+}
+
+} // namespace
+
+void showProperties(const Output& output) {
+    showAttributes(output);
+    showDirectoryQuota(output);
+}
+
+} // namespace quorvan::demo
