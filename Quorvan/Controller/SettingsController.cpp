@@ -45,7 +45,7 @@ void SettingsController::layOutControls() {
     auto* page = new QVBoxLayout(this);
     page->addWidget(currentPath);
     page->addSpacing(gap / 2);
-    page->addWidget(ListBoth);
+    page->addWidget(ListBoth, 0, Qt::AlignLeft);
     page->addWidget(AddTrusteesMessage);
     page->addWidget(readOnlyLabel);
     page->addSpacing(gap / 2);
@@ -61,7 +61,7 @@ void SettingsController::layOutControls() {
 /// Room for lines that are easy to read.
 QSize SettingsController::sizeHint() const {
     const int width = 72 * fontMetrics().averageCharWidth();
-    return {width, std::max(layout()->heightForWidth(width), ViewController::sizeHint().height())};
+    return {width, std::max(heightForWidth(width), ViewController::sizeHint().height())};
 }
 
 void SettingsController::initView() {

@@ -57,6 +57,11 @@ TEST_F(UsersViewModal, WarnsOfADirectoryThatDoesNotAnswer) {
     EXPECT_THAT(log.lines, ElementsAre("Error in Open Directory Session", "Error in Open Directory Session"));
     const RecordingAlerts::Alert alert{"Warning_Title", "Err_AD_Connect", platform::AlertStyle::warning};
     EXPECT_THAT(world.alerts->shown, ElementsAre(alert, alert));
+    const DirectoryLookup list;
+    for (const char* id : {"S-1", "S-2", "S-3"})
+        list.lookupAttrValueFromID(id, "a");
+    EXPECT_EQ(log.lines.size(), 5U);
+    EXPECT_EQ(world.alerts->shown.size(), 3U) << "of a whole list the user reads once";
 }
 
 TEST_F(UsersViewModal, TakesTheFirstPartOfTheLastRecordsFirstValue) {
