@@ -161,6 +161,7 @@ TEST_F(Protocol, Misbehaves) {
             {"mount|rvogt|kelp|IPC$", "error 17\n"},
             {"behave", ""},
             {"open|rvogt|IPC$|FilesCmdPipe", ""},
+            {"misbehave|delay|1", ""},
             {"misbehave|passingReadErrors|1", ""},
             {"misbehave|dropAfter|9", ""}});
     client->write("anything");

@@ -10,6 +10,16 @@
 
 namespace quorvan::test {
 
+/// A reply that holds a status wherever an operation looks for its own.
+inline std::string replyWith(const std::string& status) {
+    const std::string result = "<result value=\"" + status + "\"/>";
+    return "<r>" + result + "<fileInfo><getFileInfo>" + result +
+           "<rightsInfo><effectiveRights/></rightsInfo></getFileInfo><getAllEffectiveRights>" + result +
+           "</getAllEffectiveRights></fileInfo><trustees><addTrustee>" + result +
+           "</addTrustee></trustees><userQuota><browse><userList/>" + result + "</browse><set>" + result +
+           "</set></userQuota></r>";
+}
+
 /// A selection on server "srv1" (10.1.2.3), a controller with an open pipe, and nothing in the log yet.
 class Session : public testing::Test {
 protected:

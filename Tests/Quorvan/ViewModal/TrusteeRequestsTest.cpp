@@ -6,6 +6,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Texts = std::vector<std::string>;
 
 #define VIRTUAL_IO "<virtualIO><datastream name=\"command\"/></virtualIO>"
 #define ADMIN(inner) "<adminRequest>" VIRTUAL_IO inner "</adminRequest>"
@@ -84,12 +85,21 @@ TEST_F(TrusteeRequests, ReadATrusteeList) {
 
 TEST_F(TrusteeRequests, LookUpTheTypesOfActiveDirectoryTrustees) {
     using Attributes = std::map<std::string, std::vector<std::string>>;
-    const Attributes user = {{"dsAttrTypeStandard:RecordType", {"dsRecTypeStandard:Users"}}};
-    world.directory->records["1"] = {std::make_shared<FakeRecord>(user)};
+    const Attributes group = {{"dsAttrTypeStandard:RecordType", {"dsRecTypeStandard:Groups"}}};
+    world.directory->records["2"] = {std::make_shared<FakeRecord>(group)};
+    EXPECT_EQ(initialize(listReply, "ActiveDirectory"), "0");
+    EXPECT_EQ(written(), getListAD);
+    Texts types;
+    for (const auto& row : trustees)
+        types.push_back(row->trusteeID + " " + row->trusteeType + " " + row->domainType);
+    EXPECT_THAT(types, ElementsAre("1 User ActiveDirectory", "2 Groups ActiveDirectory",
+                                   "S-1-1-0 User ActiveDirectory"));
+    EXPECT_THAT(world.directory->prefetches, ElementsAre(ElementsAre("1", "2", "S-1-1-0")));
+}
+
+TEST_F(TrusteeRequests, ReadNothingFromWhatIsNoListOfTrustees) {
     EXPECT_EQ(initialize("no XML", "Morvane"), "0");
-    EXPECT_THAT(trustees, IsEmpty());
-    EXPECT_EQ(filter.uright, 0xFFFF);
-    EXPECT_EQ(effective.uright, 0xFFFF);
+    EXPECT_TRUE(trustees.empty() && filter.uright == 0xFFFF && effective.uright == 0xFFFF);
     for (const char* entry : {"<id>1</id><rights/>", "<name>a</name><id>1</id>"})
         EXPECT_DEATH(initialize("<r><fileInfo><getFileInfo><trusteeInfo>" + std::string(entry) +
                                     "</trusteeInfo><result value=\"0\"/></getFileInfo></fileInfo></r>",
@@ -122,98 +132,75 @@ TEST_F(TrusteeRequests, SendAllPendingChangesOfAPath) {
 }
 
 TEST_F(TrusteeRequests, ReportWhatAChangeCameTo) {
-    const struct {
-        const char* reply;
-        std::int64_t status;
-        std::vector<std::string> failure;
-    } cases[] = {
-        {"<r><trustees><addTrustee><result value=\"0\"/></addTrustee></trustees></r>", 0, {}},
-        {"<r><trustees><addTrustee><result value=\"20008\"/></addTrustee><removeTrustee><result value=\"0\"/>"
-         "</removeTrustee></trustees></r>",
-         20008,
-         {"Failed to process SetTrustees response 20008"}},
-        {"<r><removeTrustee/></r>", 0, {"Failed to process SetTrustees response 0"}},
-        {"no XML", 0, {}},
+    const std::string change = ADMIN(TRUSTEES(ADD_AD("1")));
+    const auto set = [&] {
+        return controller.setTrustee({trustee("1", "ADD", "")}, path, "ActiveDirectory");
     };
-    const std::string request = ADMIN(TRUSTEES(ADD_AD("1")));
-    for (const auto& [text, status, failure] : cases) {
-        reply(text);
-        EXPECT_EQ(controller.setTrustee({trustee("1", "ADD", "")}, path, "ActiveDirectory"), status);
-        std::vector<std::string> lines = {"Add Remove trustee list Request : " + request,
-                                          "response.deinitialize setTrustee",
-                                          "Add or Remove trustee Response: " + std::string(text)};
-        lines.insert(lines.end(), failure.begin(), failure.end());
-        EXPECT_EQ(log.take(), lines);
-    }
-}
-
-TEST_F(TrusteeRequests, ChangeOneTrusteeByTheIdentityTypeOfTheCallAlone) {
-    const std::string failed = "<r><trustees><addTrustee><result value=\"5\"/></addTrustee></trustees></r>";
-    reply(failed);
-    EXPECT_EQ(controller.setTrusteeAdd(*trustee("1", "", "Morvane"), path, "ActiveDirectory"), "5");
-    const std::string request = ADMIN(TRUSTEES(ADD_AD("1")));
-    EXPECT_EQ(written(), request);
-    EXPECT_THAT(log.take(),
-                ElementsAre("Add trustee Request : " + request, "response.deinitialize setTrusteeAdd",
-                            "Add trustee Response: " + failed, "Failed to process SetTrustees response 5"));
-
-    world.network->calls.clear();
+    const Texts first = {"Add Remove trustee list Request : ", "response.deinitialize setTrustee",
+                         "Add or Remove trustee Response: "};
+    const auto add = [&](const char* ownType, const char* type) {
+        return std::stoll(controller.setTrusteeAdd(*trustee("1", "", ownType), path, type));
+    };
+    const auto remove = [&](const char* ownType, const char* type) {
+        return std::stoll(controller.setTrusteeRemove(*trustee("1", "", ownType), path, type));
+    };
+    const Texts adding = {"Add trustee Request : ", "response.deinitialize setTrusteeAdd",
+                          "Add trustee Response: "};
+    const Texts removing = {"Remove trustee Request : ", "response.deinitialize setTrusteeRemove",
+                            "Remove trustee Response: "};
+    const auto several = [&] {
+        return controller.setTrusteeforDir(
+            {{trustee("1", "ADD", ""), path}, {trustee("3", "REMOVE", "ActiveDirectory"), "VOL1:\\x"}},
+            "Morvane");
+    };
     const std::string done =
         "<r><trustees><removeTrustee><result value=\"0\"/></removeTrustee></trustees></r>";
-    reply(done);
-    EXPECT_EQ(controller.setTrusteeRemove(*trustee("1", "", ""), path, "Morvane"), "0");
-    EXPECT_EQ(written(), ADMIN(TRUSTEES(REMOVE_MORVANE("1"))));
-    EXPECT_THAT(log.take(),
-                ElementsAre("Remove trustee Request : " + written(), "response.deinitialize setTrusteeRemove",
-                            "Remove trustee Response: " + done));
-
-    world.network->calls.clear();
-    reply(done);
-    controller.setTrusteeRemove(*trustee("1", "", "Morvane"), path, "");
-    EXPECT_EQ(written(), ADMIN(""));
-}
-
-TEST_F(TrusteeRequests, ChangeSeveralPathsBehindADoubledPrefix) {
-    reply("<r><removeTrustee><result value=\"9\"/></removeTrustee></r>");
-    EXPECT_EQ(controller.setTrusteeforDir({{trustee("1", "ADD", ""), path},
-                                           {trustee("2", "", ""), path},
-                                           {trustee("3", "REMOVE", "ActiveDirectory"), "VOL1:\\x"}},
-                                          "Morvane"),
-              9);
-    EXPECT_EQ(written(), ADMIN(VIRTUAL_IO TRUSTEES(ADD_MORVANE("1") REMOVE_AD("3", "VOL1:\\x"))));
-    EXPECT_THAT(log.lines,
-                ElementsAre("skipping user: ", "Add Remove trustee for directory Request : " + written(),
-                            "response.deinitialize setTrusteeforDir",
-                            "Add or Remove trustee for directory Response: <r><removeTrustee><result "
-                            "value=\"9\"/></removeTrustee></r>",
-                            "Failed to process SetTrustees for directory response 9"));
+    const struct {
+        std::function<std::int64_t()> run;
+        std::string reply;
+        std::string request;
+        std::int64_t status;
+        Texts log;
+        const char* failure = "";
+    } cases[] = {
+        {set, "<r><trustees><addTrustee><result value=\"0\"/></addTrustee></trustees></r>", change, 0, first},
+        {set,
+         "<r><trustees><addTrustee><result value=\"20008\"/></addTrustee><removeTrustee><result value=\"0\"/>"
+         "</removeTrustee></trustees></r>",
+         change, 20008, first, "Failed to process SetTrustees response 20008"},
+        {set, "<r><removeTrustee/></r>", change, 0, first, "Failed to process SetTrustees response 0"},
+        {set, "no XML", change, 0, first},
+        // One trustee is changed by the identity type of the call alone.
+        {[&] { return add("Morvane", "ActiveDirectory"); }, replyWith("5"), change, 5, adding,
+         "Failed to process SetTrustees response 5"},
+        {[&] { return remove("", "Morvane"); }, done, ADMIN(TRUSTEES(REMOVE_MORVANE("1"))), 0, removing},
+        {[&] { return remove("Morvane", ""); }, done, ADMIN(""), 0, removing},
+        {several,
+         "<r><removeTrustee><result value=\"9\"/></removeTrustee></r>",
+         ADMIN(VIRTUAL_IO TRUSTEES(ADD_MORVANE("1") REMOVE_AD("3", "VOL1:\\x"))),
+         9,
+         {"Add Remove trustee for directory Request : ", "response.deinitialize setTrusteeforDir",
+          "Add or Remove trustee for directory Response: "},
+         "Failed to process SetTrustees for directory response 9"},
+    };
+    for (const auto& [run, text, request, status, lines, failure] : cases) {
+        world.network->calls.clear();
+        reply(text);
+        EXPECT_EQ(run(), status) << text;
+        EXPECT_EQ(written(), request);
+        Texts expected = {lines[0] + request, lines[1], lines[2] + text};
+        if (*failure != '\0')
+            expected.emplace_back(failure);
+        EXPECT_EQ(log.take(), expected);
+    }
 }
 
 TEST_F(TrusteeRequests, TellTheKindOfUser) {
-    for (const auto& [text, kind] : std::map<std::string, std::string>{{"<r>MORVANE</r>", "Morvane"},
-                                                                       {"not XML, é, eMorvanes", "Morvane"},
-                                                                       {"<r>AD</r>", "ActiveDirectory"},
-                                                                       {"", "ActiveDirectory"}}) {
-        world.network->calls.clear();
+    for (const auto& [text, kind] : std::map<std::string, std::string>{
+             {"<r>MORVANE</r>", "Morvane"}, {"not XML, é, eMorvanes", "Morvane"}, {"", "ActiveDirectory"}}) {
         reply(text);
         EXPECT_EQ(controller.getUserType(), kind) << text;
-        EXPECT_EQ(written(), "<zelSmbGetInfo><userType/></zelSmbGetInfo>");
-        EXPECT_THAT(log.take(),
-                    ElementsAre("Get userType Request : <zelSmbGetInfo><userType/></zelSmbGetInfo>",
-                                "response.deinitialize", "Get userType Response: " + text));
     }
-}
-
-TEST_F(TrusteeRequests, KeepTheListWhenThePipeDoesNotOpen) {
-    std::string server = "srv1";
-    std::string selected = path;
-    std::string mapped = "VOL1:\\";
-    trustees = {trustee("0", "ADD", "")};
-    ServerDetails::serverInfo().keychainStatus = -25300;
-    EXPECT_EQ(controller.initializeTrusteesHandleDFS(server, trustees, selected, filter, effective, mapped,
-                                                     "Morvane"),
-              -25300);
-    EXPECT_EQ(trustees.size(), 1U);
 }
 
 } // namespace
