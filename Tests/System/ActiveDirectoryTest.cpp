@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Platform/Linux/LdapDirectory.h"
-#include "Tests/System/ActiveDirectoryServer.h"
+#include "Tests/System/ActiveDirectoryFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,7 +13,6 @@
 namespace quorvan::test {
 namespace {
 
-using namespace platform;
 using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
@@ -22,63 +20,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::UnorderedElementsAre;
-using Texts = std::vector<std::string>;
-
-const std::string recordName = "dsAttrTypeStandard:RecordName";
-const std::string smbSid = "dsAttrTypeStandard:SMBSID";
-const Texts users{"dsRecTypeStandard:Users"};
-const Texts groups{"dsRecTypeStandard:Groups"};
-const Texts both{"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
-const std::string domainNode = "/Active Directory/QUORVAN/All Domains";
-const std::string odd = "Zoë (q*x\\y)";
-
-struct OneItem : Keychain {
-    std::string server, account = DomainController::administrator, data = DomainController::password;
-    KeychainResult findInternetPassword(const std::string& wanted) override {
-        if (wanted != server)
-            return {-25300, std::nullopt};
-        return {0, KeychainItem{account, data}};
-    }
-};
-
-/// A client of the domain controller that all tests share.
-class ActiveDirectory : public testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        if (DomainController::obstacle().empty())
-            controller = std::make_unique<DomainController>();
-    }
-    static void TearDownTestSuite() { controller.reset(); }
-    void SetUp() override {
-        if (!controller)
-            GTEST_SKIP() << DomainController::obstacle();
-        keychain->server = controller->address;
-    }
-
-    std::unique_ptr<LdapDirectory> client(std::chrono::milliseconds timeLimit = std::chrono::seconds(20)) {
-        return std::make_unique<LdapDirectory>(
-            keychain, [this](std::string_view line) { log.emplace_back(line); }, timeLimit);
-    }
-    static Texts namesOf(const std::optional<DirectoryRecords>& records) {
-        Texts names;
-        for (const auto& record : records.value())
-            names.push_back(record->values(recordName).value().at(0));
-        return names;
-    }
-    Texts find(const DirectoryQuery& query) {
-        const auto node = client()->openNode(domainNode);
-        return node ? namesOf(node->query(query)) : Texts{"no node"};
-    }
-    static std::shared_ptr<DirectoryRecord> one(DirectoryNode& node, const Texts& types,
-                                                const std::string& attribute, const std::string& value) {
-        const auto found = node.query({types, attribute, DirectoryMatch::equalTo, {value}});
-        return found && found->size() == 1 ? found->front() : nullptr;
-    }
-
-    static inline std::unique_ptr<DomainController> controller;
-    std::shared_ptr<OneItem> keychain = std::make_shared<OneItem>();
-    Texts log;
-};
 
 TEST_F(ActiveDirectory, ListsMoreThanOnePageOfUsersAndGroupsButNoComputers) {
     const auto directory = client();

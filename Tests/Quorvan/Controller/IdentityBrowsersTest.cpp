@@ -356,6 +356,35 @@ TEST_F(IdentityBrowsersTest, AsksForTheDirectoryWhereBothAreShown) {
     }
 }
 
+TEST_F(IdentityBrowsersTest, LeadsTheTabKeyThroughAllThatCanBeUsed) {
+    const auto visited = [](const QWidget* window) {
+        QStringList names;
+        for (QWidget* at = QApplication::focusWidget(); names.isEmpty() || at->objectName() != names.front();
+             at = QApplication::focusWidget()) {
+            const auto* button = qobject_cast<const QAbstractButton*>(at);
+            EXPECT_FALSE(at->accessibleName().isEmpty() && (button == nullptr || button->text().isEmpty()))
+                << at->objectName().toStdString();
+            EXPECT_EQ(at->window(), window);
+            names.append(at->objectName());
+            QTest::keyClick(at, Qt::Key_Tab);
+        }
+        return names.join(' ').toStdString();
+    };
+    open();
+    auto* browser = add<ActiveDirectory>();
+    EXPECT_EQ(visited(browser->window()), "userTypePopUp domainPopUp userListTable cancelButton");
+    click(browser->cancelButton);
+    openAs("Morvane", demo::supervisorTree);
+    auto* tree = add<Morvane>();
+    type(tree->treeTextField, verlag);
+    EXPECT_EQ(visited(tree->window()),
+              "treeTextField btnFetch searchField userListTable cancelButton userTypePopUp");
+    click(tree->cancelButton);
+    Shared::value().bothID = true;
+    open();
+    EXPECT_EQ(visited(add<Source>()->window()), "MorvaneBtn OkBtn CancelBtn");
+}
+
 TEST_F(IdentityBrowsersTest, PicksFromTheSingleForestByName) {
     bundle->features->at("multiForest") = false;
     open();
