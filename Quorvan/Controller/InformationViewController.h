@@ -91,6 +91,7 @@ public:
     void viewDidLoad() override;
     void viewDidAppear() override;
     QSize sizeHint() const override;
+    bool hasHeightForWidth() const override { return false; }
 
     void loadStrings();
     void initInformationTab();

@@ -9,6 +9,7 @@
 #include "Quorvan/Controller/OldBrowseUserListViewController.h"
 #include "Quorvan/Controller/SettingsController.h"
 #include "Quorvan/Controller/TrusteeRightsTabView.h"
+#include "Quorvan/Controller/UserQuotaViewController.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 
 namespace quorvan {
@@ -16,6 +17,7 @@ namespace quorvan {
 void fillMainStoryboard() {
     Storyboard& main = Storyboard::named("Main");
     main.add("optionsViewController", [] { return new MainViewController; });
+    main.add("userQuotaView", [] { return new UserQuotaViewController; });
     main.add("informationView", [] { return new InformationViewController; });
     main.add("trusteeRightsView", [] { return new TrusteeRightsTabView; });
     main.add("settingsView", [] { return new SettingsController; });

@@ -449,6 +449,70 @@
     <translation>Over the limit</translation>
   </message>
   <!-- Quotas -->
+  <message id="Users_with_Quota_Label">
+    <source></source>
+    <translation>Users with a quota on this volume</translation>
+  </message>
+  <message id="User_Name_Label">
+    <source></source>
+    <translation>User</translation>
+  </message>
+  <message id="Col_User_Name">
+    <source></source>
+    <translation>Name</translation>
+  </message>
+  <message id="Quota_Limit_Label">
+    <source></source>
+    <translation>&amp;Limit for each of them:</translation>
+  </message>
+  <message id="No_User_Quotas_Label">
+    <source></source>
+    <translation>No user has a quota on this volume.</translation>
+  </message>
+  <message id="User_Quotas_Unknown_Label">
+    <source></source>
+    <translation>The quotas could not be read from the server.</translation>
+  </message>
+  <message id="User_Quota_Read_Only_Label">
+    <source></source>
+    <translation>You can look at these quotas but not change them: that takes the Supervisor right here.</translation>
+  </message>
+  <message id="Edit_title">
+    <source></source>
+    <translation>&amp;Edit…</translation>
+  </message>
+  <message id="Add_User_Quota_Tip_Label">
+    <source></source>
+    <translation>Choose users and limit their space</translation>
+  </message>
+  <message id="Edit_User_Quota_Tip_Label">
+    <source></source>
+    <translation>Give the selected users another limit</translation>
+  </message>
+  <message id="Remove_User_Quota_Tip_Label">
+    <source></source>
+    <translation>Take the limit off the selected users</translation>
+  </message>
+  <message id="Add_User_Quota_Title">
+    <source></source>
+    <translation>Add User Quota</translation>
+  </message>
+  <message id="Edit_User_Quota_Title">
+    <source></source>
+    <translation>Edit User Quota</translation>
+  </message>
+  <message id="Add_Users_title">
+    <source></source>
+    <translation>&amp;Add Users…</translation>
+  </message>
+  <message id="Add_Users_Tip_Label">
+    <source></source>
+    <translation>Choose more users who get this limit</translation>
+  </message>
+  <message id="No_Users_Chosen_Label">
+    <source></source>
+    <translation>No users chosen yet.</translation>
+  </message>
   <message id="User_Quota_Unlimited">
     <source></source>
     <translation>Unlimited</translation>

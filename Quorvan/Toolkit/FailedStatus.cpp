@@ -12,7 +12,11 @@ void reportFailedStatus(std::int32_t status) {
         displayErrorMsg(errorCode::keychainNotFound);
         return;
     }
-    Log("Failed with err - %d", status);
+    reportFailedResult(std::to_string(status));
+}
+
+void reportFailedResult(const std::string& result) {
+    Log("Failed with err - %@", result);
     displayErrorMsg(errorCode::operationFailed);
 }
 

@@ -42,4 +42,12 @@ private:
     std::string titleKey_;
 };
 
+/// Shows the destination as a sheet over the source's window.
+class SheetSegue : public Segue {
+public:
+    using Segue::Segue;
+
+    void perform() override { source->presentAsSheet(destination); }
+};
+
 } // namespace quorvan

@@ -4,6 +4,9 @@
 
 #include <QAbstractButton>
 #include <QTabWidget>
+#include <QTableView>
+
+#include <cerrno>
 
 namespace quorvan::demo {
 namespace {
@@ -68,9 +71,61 @@ void showDirectoryQuota(const Output& output) {
     stage.photograph("42-quota-not-set", "a folder whose quota nobody has set");
 }
 
+void selectUsers(Stage& stage, std::initializer_list<int> rows) {
+    auto* table = stage.find<QTableView>("userQuotaTable");
+    for (const int row : rows)
+        table->selectionModel()->select(table->model()->index(row, 0),
+                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void openUserQuotas(Stage& stage) {
+    stage.launch();
+    stage.press("UserQuotaView");
+}
+
+void showUserQuotas(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo());
+        openUserQuotas(stage);
+        stage.photograph("50-user-quotas", "the users with a quota on the volume; some are over it");
+        stage.type("searchField", "m*a");
+        stage.photograph("51-user-quotas-searched", "names that match a pattern");
+        stage.type("searchField", "");
+        selectUsers(stage, {1, 2, 4});
+        stage.press("editUQButton");
+        stage.type("quotaLimitTextField", "25");
+        stage.photograph("52-edit-user-quotas", "another limit for three users");
+        stage.type("quotaLimitTextField", "10 GB");
+        stage.expectDialog("53-edit-invalid-limit", "the sheet after OK with a limit that is none");
+        stage.press("okBtn");
+        stage.type("quotaLimitTextField", "25");
+        stage.press("okBtn");
+        stage.photograph("54-user-quotas-edited", "those that were edited come first");
+        selectUsers(stage, {0});
+        stage.press("removeUQButton");
+        stage.press("applyButton");
+        stage.photograph("55-user-quotas-applied", "one removed, and all of it sent");
+        stage.press("addUQButton");
+        stage.photograph("56-add-user-quotas", "the dialog for new users, before any are chosen");
+        stage.press("cancelBtn");
+    }
+    {
+        Stage stage(output, Embedded::demo(account::readOnlyTree));
+        openUserQuotas(stage);
+        stage.photograph("57-user-quotas-read-only", "the tree's users, for reading only");
+    }
+    Stage stage(output, Embedded::demo());
+    stage.world.server->misbehaviour.onlyPipe = "/Manage_KELP/user.cmd";
+    stage.world.server->misbehaviour.openError = EACCES;
+    stage.expectDialog("58-alert-quotas-failed", "the alert when the quotas cannot be read");
+    openUserQuotas(stage);
+    stage.photograph("59-no-user-quotas", "… and the page then");
+}
+
 } // namespace
 
 void showProperties(const Output& output) {
+    showUserQuotas(output);
     showAttributes(output);
     showDirectoryQuota(output);
 }

@@ -116,7 +116,7 @@ TEST_F(MainWindowTest, AsksWhoIsLoggedInBeforeItOpens) {
     EXPECT_EQ(page.managedServer->text(), "on files.meridal.example");
     EXPECT_TRUE(page.TrusteeRightsView->isEnabled());
     EXPECT_TRUE(page.TrusteeRightsView->hasFocus());
-    for (const MenuEntry* follows : {page.FileSystemRightsView, page.UserQuotaView}) {
+    for (const MenuEntry* follows : {page.FileSystemRightsView}) {
         EXPECT_TRUE(follows->isVisible());
         EXPECT_FALSE(follows->isEnabled());
         EXPECT_EQ(follows->toolTip(), "Page_Follows_Label");

@@ -23,7 +23,8 @@ struct FakeBrowser : ViewController, IdentityBrowser {
 
 /// A page about a path of the demo data, over a server in memory; texts are their keys.
 struct PropertyFixture : testing::Test {
-    PropertyFixture() {
+    explicit PropertyFixture(simulator::Embedded initial = simulator::Embedded::demo())
+        : world(std::move(initial)) {
         bundle->texts = {{"Owner_Gone_Label", "gone: %1"}, {"Quota_Usage_Label", "%1 % used"}};
         Storyboard::named("Main") = Storyboard();
         Storyboard::named("Main").add("optionsViewController", [] { return new ViewController; });
@@ -109,7 +110,7 @@ struct PropertyFixture : testing::Test {
     simulator::Node& node(const char* path) { return *world.server->volumes().find(path); }
 
     LogRecorder log;
-    simulator::Embedded world = simulator::Embedded::demo();
+    simulator::Embedded world;
     std::shared_ptr<FakeBundle> bundle = std::make_shared<FakeBundle>();
     std::shared_ptr<RecordingAlerts> alertPort = std::make_shared<RecordingAlerts>();
     platform::ScopedServices installed{[this] {
