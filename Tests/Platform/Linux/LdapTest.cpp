@@ -142,7 +142,18 @@ struct SameItem : Keychain {
     }
 };
 
+const std::string bound = message(1, element(0x61, success));
+const std::string root =
+    entry(2, {{"configurationNamingContext", "CN=C"}, {"namingContexts", "DC=a"}}) + done(2);
+const std::string domains = entry(3, {{"nETBIOSName", "A"}, {"nCName", "DC=a"}}) + done(3);
+const DirectoryQuery everyUser{users, "", DirectoryMatch::any, {}};
+
 struct Client {
+    explicit Client(const std::string& address = "", const std::string& baseName = "dc=north,dc=example")
+        : base(LDAP_OPT_DEFBASE, baseName)
+        , uri(LDAP_OPT_URI, address) {}
+    test::LdapSetting base;
+    test::LdapSetting uri;
     Texts log;
     LdapDirectory directory{std::make_shared<SameItem>(),
                             [this](std::string_view line) { log.emplace_back(line); },
@@ -150,8 +161,7 @@ struct Client {
 };
 
 TEST(LdapDirectory, IsUnboundWithoutBase) {
-    const test::LdapSetting base(LDAP_OPT_DEFBASE, "");
-    Client client;
+    Client client("", "");
     EXPECT_EQ(client.directory.activeDirectoryState(), std::nullopt);
     EXPECT_THAT(client.directory.nodeNames().value(), IsEmpty());
     EXPECT_EQ(client.directory.openNetworkNode(), nullptr);
@@ -162,15 +172,9 @@ TEST(LdapDirectory, IsUnboundWithoutBase) {
 }
 
 TEST(LdapDirectory, SurvivesRudeServers) {
-    const test::LdapSetting base(LDAP_OPT_DEFBASE, "dc=north,dc=example");
-    const std::string bound = message(1, element(0x61, success));
-    const std::string root =
-        entry(2, {{"configurationNamingContext", "CN=C"}, {"namingContexts", "DC=a"}}) + done(2);
-    const std::string domains = entry(3, {{"nETBIOSName", "A"}, {"nCName", "DC=a"}}) + done(3);
-    using Answers = std::vector<std::string>;
     const struct {
         const char* scheme;
-        Answers answers;
+        Texts answers; ///< "endless" stands for pages without end
         const char* line;
     } cases[] = {
         {"ldap", {""}, "does not answer within the time limit"},
@@ -181,38 +185,29 @@ TEST(LdapDirectory, SurvivesRudeServers) {
         {"ldap", {bound, root, domains, "garbage"}, "time limit"},
         {"ldap", {bound, root, domains, "endless"}, "time limit"},
     };
-    for (const auto& each : cases) {
-        const RudeServer server([&](int request) {
-            const std::string& answer =
-                each.answers[std::min(each.answers.size(), static_cast<std::size_t>(request)) - 1];
+    for (const auto& [scheme, answers, line] : cases) {
+        const RudeServer server([&all = answers](int request) {
+            const std::string& answer = all[std::min(all.size(), static_cast<std::size_t>(request)) - 1];
             return answer == "endless" ? done(request, "more") : answer;
         });
-        const test::LdapSetting uri(LDAP_OPT_URI, std::string(each.scheme) + "://127.0.0.1:" + server.port);
-        Client client;
-        const auto node = client.directory.openNetworkNode();
-        if (node) {
-            EXPECT_EQ(node->query({users, "", DirectoryMatch::any, {}}), std::nullopt);
+        Client client(std::string(scheme) + "://127.0.0.1:" + server.port);
+        if (const auto node = client.directory.openNetworkNode()) {
+            EXPECT_EQ(node->query(everyUser), std::nullopt);
         }
         EXPECT_EQ(client.directory.openNetworkNode(), nullptr); // at once, and in silence
-        EXPECT_THAT(client.log, ElementsAre(HasSubstr(each.line))) << each.answers.back();
+        EXPECT_THAT(client.log, ElementsAre(HasSubstr(line))) << answers.back();
         EXPECT_EQ(client.directory.activeDirectoryState().value().at("NodeName"), "/Active Directory/NORTH");
     }
 }
 
 TEST(LdapDirectory, TakesBrokenEntriesAsTheyAre) {
-    const test::LdapSetting base(LDAP_OPT_DEFBASE, "dc=a");
     const RudeServer server([](int request) {
-        const Texts answers{message(1, element(0x61, success)),
-                            entry(2, {{"configurationNamingContext", "CN=C"}, {"namingContexts", "DC=a"}}) +
-                                done(2),
-                            entry(3, {{"nETBIOSName", "A"}, {"nCName", "DC=a"}}) + done(3)};
-        return request <= 3 ? answers[static_cast<std::size_t>(request) - 1]
+        const Texts answers = {"", bound, root, domains};
+        return request <= 3 ? answers[static_cast<std::size_t>(request)]
                             : entry(request, {{"objectSid", "\1\5"}}) + done(request);
     });
-    const test::LdapSetting uri(LDAP_OPT_URI, "ldap://127.0.0.1:" + server.port);
-    Client client;
-    const auto found =
-        client.directory.openNode("/Active Directory/A")->query({users, "", DirectoryMatch::any, {}});
+    Client client("ldap://127.0.0.1:" + server.port, "dc=a");
+    const auto found = client.directory.openNode("/Active Directory/A")->query(everyUser);
     ASSERT_EQ(found.value().size(), 1U);
     EXPECT_THAT(found->front()->values("dsAttrTypeStandard:RecordName").value(), IsEmpty());
     EXPECT_THAT(found->front()->values("dsAttrTypeStandard:SMBSID").value(), IsEmpty());

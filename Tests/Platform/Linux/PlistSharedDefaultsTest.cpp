@@ -58,8 +58,6 @@ TEST_F(SharedDefaults, ReadsTextsAndSeesWhatOthersWriteWhenSynchronised) {
     EXPECT_EQ(suite->string("selectedPath"), "/Volumes/VOL1/Bücher & Pläne");
     EXPECT_EQ(suite->string("empty"), "");
     EXPECT_EQ(suite->string("count"), std::nullopt);
-    EXPECT_EQ(suite->string("mappedPath"), std::nullopt);
-
     put(binaryHandOver);
     EXPECT_EQ(suite->string("serverIP"), "files.example");
     suite->synchronize();
@@ -68,12 +66,11 @@ TEST_F(SharedDefaults, ReadsTextsAndSeesWhatOthersWriteWhenSynchronised) {
 }
 
 TEST_F(SharedDefaults, WritesForItsOwnerAloneAndKeepsTheOtherKeys) {
-    for (const std::string_view content : {std::string_view(handOver), binaryHandOver, std::string_view()}) {
-        std::filesystem::remove_all(file.parent_path());
-        if (!content.empty()) {
-            std::filesystem::create_directory(file.parent_path());
+    for (const std::string_view content : {std::string_view(), std::string_view(handOver), binaryHandOver}) {
+        if (content.empty())
+            std::filesystem::remove(file.parent_path());
+        else
             put(content);
-        }
         const auto suite = open();
         suite->setString("loggedUserType", "<Morvane> & sons");
         EXPECT_EQ(open()->string("loggedUserType"), "<Morvane> & sons") << "not written, but set";
@@ -84,68 +81,56 @@ TEST_F(SharedDefaults, WritesForItsOwnerAloneAndKeepsTheOtherKeys) {
         EXPECT_EQ(read->string("loggedUserType"), "<Morvane> & sons");
         EXPECT_EQ(read->string("serverIP").has_value(), !content.empty());
         EXPECT_THAT(fileContent(), HasSubstr("<plist version=\"1.0\">"));
-        struct stat status {};
-        ASSERT_EQ(::stat(file.c_str(), &status), 0);
-        EXPECT_EQ(status.st_mode & 0777U, 0600U);
+        EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0600));
         EXPECT_EQ(std::distance(std::filesystem::directory_iterator(file.parent_path()), {}), 1);
     }
 }
 
 TEST_F(SharedDefaults, NamesTheCauseOnceWhenTheFileIsOfNoUseAndLeavesItAlone) {
-    const struct {
-        const char* cause;
-        std::string content;
-    } cases[] = {
-        {"Not a property list", "serverIP = files.example"},
-        {"Not a property list", ""},
-        {"Not a property list", std::string(handOver).substr(0, 300)},
-        {"Not a property list", std::string(binaryHandOver.substr(0, 20))},
-        {"Not a dictionary", "<plist version=\"1.0\"><array><string>serverIP</string></array></plist>"},
-    };
-    for (const auto& item : cases) {
-        put(item.content);
+    const std::pair<std::string, const char*> cases[] = {
+        {"serverIP = files.example", "Not a property list"},
+        {"", "Not a property list"},
+        {std::string(handOver).substr(0, 300), "Not a property list"},
+        {std::string(binaryHandOver.substr(0, 20)), "Not a property list"},
+        {"<plist version=\"1.0\"><array><string>serverIP</string></array></plist>", "Not a dictionary"}};
+    for (const auto& [content, cause] : cases) {
+        put(content);
         log.clear();
         PlistSharedDefaults fresh([this](std::string_view line) { log.emplace_back(line); },
                                   file.parent_path());
         const auto suite = fresh.openSuite("group.tarnix.common");
-        suite->synchronize();
-        EXPECT_EQ(suite->string("serverIP"), std::nullopt);
         suite->setString("serverIP", "mine");
         suite->synchronize();
-        EXPECT_EQ(suite->string("serverIP"), "mine");
-        EXPECT_EQ(fileContent(), item.content);
-        EXPECT_THAT(log, ElementsAre("Shared defaults " + file.string() + ": " + item.cause));
+        EXPECT_EQ(suite->string("serverIP"), "mine") << "for this process";
+        EXPECT_EQ(fileContent(), content);
+        EXPECT_THAT(log, ElementsAre("Shared defaults " + file.string() + ": " + cause));
     }
     std::filesystem::remove(file);
-    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0); // must not wait for somebody to write into it
     log.clear();
+    ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0); // must not wait for somebody to write into it
     EXPECT_EQ(open()->string("serverIP"), std::nullopt);
     std::filesystem::remove(file);
     EXPECT_EQ(open()->string("serverIP"), std::nullopt);
-    EXPECT_THAT(log,
-                ElementsAre(HasSubstr(": Not a regular file"), HasSubstr(": No such file or directory")));
-}
-
-TEST_F(SharedDefaults, KeepsWhatCannotBeWrittenForThisProcess) {
-    std::filesystem::remove_all(file.parent_path());
+    std::filesystem::remove(file.parent_path());
     std::ofstream(file.parent_path()) << "no folder";
     const auto suite = open();
     suite->setString("loggedUserType", "Morvane");
     suite->synchronize();
     EXPECT_EQ(open()->string("loggedUserType"), "Morvane");
-    EXPECT_THAT(log, ElementsAre(HasSubstr(" not written: Not a directory"), HasSubstr(": Not a directory")));
+    EXPECT_THAT(log, ElementsAre(HasSubstr(": Not a regular file"), HasSubstr(": No such file or directory"),
+                                 HasSubstr(" not written: Not a directory"), HasSubstr(": Not a directory")));
 }
 
 TEST_F(SharedDefaults, OpensPlainNamesInTheUsersFolderOnly) {
-    for (const std::string& name :
-         {std::string(), std::string("../x"), std::string("a/b"), std::string(".hidden"),
-          std::string("/etc/passwd"), std::string("a\0b", 3)})
-        EXPECT_EQ(defaults.openSuite(name), nullptr) << name;
+    for (const std::string_view name : {"", "../x", "a/b", ".hidden", "/etc/passwd"})
+        EXPECT_EQ(defaults.openSuite(std::string(name)), nullptr) << name;
+    EXPECT_EQ(defaults.openSuite(std::string("a\0b", 3)), nullptr);
     ::setenv("HOME", "/home/zoe", 1);
-    ::setenv("XDG_CONFIG_HOME", "relative", 1);
-    EXPECT_EQ(PlistSharedDefaults::userConfigurationFolder(), "/home/zoe/.config");
-    ::setenv("XDG_CONFIG_HOME", "/var/conf", 1);
-    EXPECT_EQ(PlistSharedDefaults::userConfigurationFolder(), "/var/conf");
+    for (const auto& [setting, folder] :
+         {std::pair("relative", "/home/zoe/.config"), {"/var/conf", "/var/conf"}}) {
+        ::setenv("XDG_CONFIG_HOME", setting, 1);
+        EXPECT_EQ(PlistSharedDefaults::userConfigurationFolder(), folder);
+    }
 }
 
 } // namespace

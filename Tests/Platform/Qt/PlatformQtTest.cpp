@@ -108,15 +108,11 @@ TEST(QtBundle, ReadsTheFeatureFileAnewAndTrustsNothingInIt) {
 }
 
 TEST(QtAlerts, ShowsPlainTextWithOneButtonOverTheActiveWindow) {
-    const struct {
-        AlertStyle style;
-        QMessageBox::Icon icon;
-    } cases[] = {{AlertStyle::warning, QMessageBox::Warning},
-                 {AlertStyle::informational, QMessageBox::Information},
-                 {AlertStyle::critical, QMessageBox::Critical}};
     QWidget window;
     window.show();
-    for (const auto& [style, icon] : cases) {
+    for (const auto& [style, icon] : {std::pair(AlertStyle::warning, QMessageBox::Warning),
+                                      {AlertStyle::informational, QMessageBox::Information},
+                                      {AlertStyle::critical, QMessageBox::Critical}}) {
         window.activateWindow();
         QApplication::processEvents();
         int shown = 0;
