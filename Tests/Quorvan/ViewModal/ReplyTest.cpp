@@ -66,7 +66,6 @@ TEST(ResponseParser, GathersEntriesInTheOrderInWhichTheyClose) {
         {"names are taken as written", "<r><x:trusteeInfo xmlns:x=\"u\"/><trusteeInfo/></r>", {"-|-|-|-"}},
         {"an error keeps what was there", "<r><trusteeInfo/><file></r>", {"-|-|-|-"}},
         {"no XML", "nothing", {}},
-        {"nothing", "", {}},
         {"the text is UTF-8 whatever it says",
          "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><r><trusteeInfo><name>é</name></trusteeInfo></r>",
          {"é|-|-|-"}},
@@ -85,7 +84,6 @@ TEST(ResponseParser, CountsFailures) {
         {"<r><addTrustee><result value=\"0\"/></addTrustee><removeTrustee><result "
          "value=\"0\"/></removeTrustee></r>",
          0, 0, 0},
-        {"<r><addTrustee><result value=\"20008\"/></addTrustee></r>", 1, 0, 20008},
         {"<r><removeTrustee><result value=\"7\"/></removeTrustee><addTrustee/><result "
          "value=\"0\"/><addTrustee/></r>",
          1, 1, 7},
@@ -143,19 +141,13 @@ TEST_F(Session, FindsTheStatusOnTheResultPath) {
 TEST(XMLElement, WalksAReply) {
     const XMLDocument document("<r a=\"1\" b=\"x&amp;y\"><file><path>V<i>O</i>L</path>t<path>2</path></file>"
                                "<file/>tail &lt;<empty/></r>");
-    ASSERT_FALSE(document.error());
     const XMLElement root = document.rootElement();
-    EXPECT_EQ(root.name(), "r");
     EXPECT_EQ(root.attribute("b"), "x&y");
     EXPECT_FALSE(root.attribute("c"));
-    EXPECT_EQ(root.stringValue(), "VOLt2tail <");
-    std::vector<std::string> children;
+    Texts children = {std::string(root.name()) + ":" + root.stringValue()};
     for (const XMLElement child : root.children())
-        children.push_back(std::string(child.name()) + ":" + child.stringValue() +
-                           (child.hasChildren() ? "+" : "") + (child.hasAttributes() ? "@" : ""));
-    EXPECT_THAT(children, ElementsAre("file:VOLt2+", "file:", ":tail <", "empty:"));
-
-    EXPECT_EQ(getElement({}, root).name(), "r");
+        children.push_back(std::string(child.name()) + ":" + child.stringValue());
+    EXPECT_THAT(children, ElementsAre("r:VOLt2tail <", "file:VOLt2", "file:", ":tail <", "empty:"));
     EXPECT_EQ(getElement({"file", "path", "i"}, root).stringValue(), "O");
     EXPECT_EQ(getValue("path", getElement({"file"}, root)), "VOL");
     EXPECT_EQ(getValue("none", root), "");
