@@ -7,6 +7,7 @@
 #include "Quorvan/Controller/InformationViewController.h"
 #include "Quorvan/Controller/MainViewController.h"
 #include "Quorvan/Controller/OldBrowseUserListViewController.h"
+#include "Quorvan/Controller/SalvagePurgeViewController.h"
 #include "Quorvan/Controller/SettingsController.h"
 #include "Quorvan/Controller/TrusteeRightsTabView.h"
 #include "Quorvan/Controller/UserQuotaViewController.h"
@@ -20,6 +21,7 @@ void fillMainStoryboard() {
     main.add("userQuotaView", [] { return new UserQuotaViewController; });
     main.add("informationView", [] { return new InformationViewController; });
     main.add("trusteeRightsView", [] { return new TrusteeRightsTabView; });
+    main.add("salvagePurgeView", [] { return new SalvagePurgeViewController; });
     main.add("settingsView", [] { return new SettingsController; });
     main.add("IdentifySource", [] { return new IdentifySourceViewController; });
     main.add("ViewBrowseMorvane", [] { return new BrowseMorvaneUserListViewController; });

@@ -7,6 +7,7 @@
 #include "Quorvan/AppDelegate.h"
 #include "Quorvan/Controller/MenuEntry.h"
 #include "Quorvan/Controller/PageSegues.h"
+#include "Quorvan/Controller/SalvagePurgeSegueController.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/Storyboard.h"
@@ -27,6 +28,14 @@ void follow(MainViewController& from, const char* page) {
     PageSegueType(&from, Storyboard::named("Main").instantiate(page)).perform();
 }
 
+void followToSalvage(MainViewController& from, const char* page) {
+    SalvagePurgeSegueController("salvageSegue", &from, Storyboard::named("Main").instantiate(page)).perform();
+}
+
+void followToPurge(MainViewController& from, const char* page) {
+    SalvagePurgeSegueController("purgeSegue", &from, Storyboard::named("Main").instantiate(page)).perform();
+}
+
 /// What an entry of the page looks like and where it leads.
 struct EntryKind {
     MenuEntry* MainViewController::*view;
@@ -41,7 +50,7 @@ struct EntryKind {
 };
 
 using Page = MainViewController;
-const std::array<EntryKind, 5> entryKinds = {{
+const std::array<EntryKind, 7> entryKinds = {{
     {&Page::TrusteeRightsView, &Page::menu1, "TrusteeRightsView", "menu1", "Trustee_Rights_Title",
      "Trustee_Rights_Description_Label", "page_trustee_rights", "trusteeRightsView",
      follow<TrusteeRightsSegue>},
@@ -54,6 +63,10 @@ const std::array<EntryKind, 5> entryKinds = {{
      "Information_Description_Label", "page_information", "informationView", follow<InformationSegue>},
     {&Page::SettingView, &Page::menu4, "SettingView", "menu4", "Settings_Title", "Settings_Description_Label",
      "page_settings", "settingsView", follow<SettingsSegue>},
+    {&Page::SalvageView, &Page::menuSalvage, "SalvageView", "menuSalvage", "Salvage_Title",
+     "Salvage_Description_Label", "page_salvage", "salvagePurgeView", followToSalvage},
+    {&Page::PurgeView, &Page::menuPurge, "PurgeView", "menuPurge", "Purge_Title", "Purge_Description_Label",
+     "page_purge", "salvagePurgeView", followToPurge},
 }};
 
 bool loggedInUserIsKnown() {
@@ -107,17 +120,23 @@ void MainViewController::buildHeader() {
 
 void MainViewController::buildEntries() {
     MainView = outlet(new QWidget(this), "MainView");
-    auto* entries = new QVBoxLayout(MainView);
-    entries->setContentsMargins(0, 0, 0, 0);
-    entries->setSpacing(8);
+    SalvagePurgeView = outlet(new QWidget(this), "SalvagePurgeView");
+    auto* main = new QVBoxLayout(MainView);
+    auto* deletedFiles = new QHBoxLayout(SalvagePurgeView);
+    for (QBoxLayout* entries : {static_cast<QBoxLayout*>(main), static_cast<QBoxLayout*>(deletedFiles)}) {
+        entries->setContentsMargins(0, 0, 0, 0);
+        entries->setSpacing(8);
+    }
     for (const EntryKind& kind : entryKinds) {
-        auto* entry = outlet(new MenuEntry(kind.iconName, L(kind.descriptionKey), MainView), kind.viewName);
+        const bool isMain = kind.page != std::string_view("salvagePurgeView");
+        auto* entry = outlet(new MenuEntry(kind.iconName, L(kind.descriptionKey), this), kind.viewName);
         this->*kind.view = entry;
         this->*kind.label = outlet(entry->title, kind.labelName);
-        entries->addWidget(entry);
+        (isMain ? static_cast<QBoxLayout*>(main) : deletedFiles)->addWidget(entry);
         connect(entry, &QPushButton::clicked, this, [this, &kind] { kind.follow(*this, kind.page); });
     }
     layout()->addWidget(MainView);
+    layout()->addWidget(SalvagePurgeView);
 }
 
 void MainViewController::viewDidLoad() {
@@ -199,6 +218,8 @@ void MainViewController::layOutWithoutSettings() {
     place(FileSystemRightsView, right, upper);
     place(DirectoryQuotaView, left, lower);
     place(UserQuotaView, right, lower);
+    for (MenuEntry* entry : {SalvageView, PurgeView})
+        entry->hideDescription();
 }
 
 } // namespace quorvan

@@ -31,12 +31,17 @@ public:
     QLabel* menu3 = nullptr; ///< user quota
     QLabel* menu4 = nullptr; ///< settings
     QLabel* menu6 = nullptr; ///< information
+    QLabel* menuSalvage = nullptr;
+    QLabel* menuPurge = nullptr;
     MenuEntry* SettingView = nullptr;
     QWidget* MainView = nullptr;
     MenuEntry* DirectoryQuotaView = nullptr; ///< the information entry
     MenuEntry* UserQuotaView = nullptr;
     MenuEntry* TrusteeRightsView = nullptr;
     MenuEntry* FileSystemRightsView = nullptr;
+    QWidget* SalvagePurgeView = nullptr; ///< below MainView, whose size is fixed in some installations
+    MenuEntry* SalvageView = nullptr;
+    MenuEntry* PurgeView = nullptr;
     PathLabel* managedPath = nullptr;
     QLabel* managedServer = nullptr;
     QPushButton* tryAgainBtn = nullptr; ///< only there when nobody knows who is logged in

@@ -48,13 +48,17 @@ void MenuEntry::setTitle(const QString& text) {
 
 void MenuEntry::makeCompact() {
     compact_ = true;
-    description_->hide();
-    if (toolTip().isEmpty())
-        setToolTip(description_->text());
+    hideDescription();
     title->setWordWrap(true);
     title->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     delete texts_->takeAt(0); // the stretch above
     texts_->setContentsMargins(margin / 2, 2 * margin + iconEdge, margin / 2, margin / 2);
+}
+
+void MenuEntry::hideDescription() {
+    description_->hide();
+    if (toolTip().isEmpty())
+        setToolTip(description_->text());
 }
 
 QSize MenuEntry::sizeHint() const {

@@ -21,6 +21,8 @@ public:
 
     /// Puts the icon above the title and leaves the description to the tool tip.
     void makeCompact();
+    /// Leaves the description to the tool tip, where there is no room for it.
+    void hideDescription();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

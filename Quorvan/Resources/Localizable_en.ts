@@ -448,6 +448,53 @@
     <source></source>
     <translation>Over the limit</translation>
   </message>
+  <!-- Salvage and purge -->
+  <message id="Salvage_Title">
+    <source></source>
+    <translation>Salvage</translation>
+  </message>
+  <message id="Purge_Title">
+    <source></source>
+    <translation>Purge</translation>
+  </message>
+  <message id="Salvage_Description_Label">
+    <source></source>
+    <translation>Deleted files to bring back</translation>
+  </message>
+  <message id="Purge_Description_Label">
+    <source></source>
+    <translation>Deleted files to remove for good</translation>
+  </message>
+  <message id="Salvage_Purpose_Label">
+    <source></source>
+    <translation>Files that were deleted below this path stay on the volume until they are purged. Until then they can be salvaged: brought back with their trustees and attributes.</translation>
+  </message>
+  <message id="Purge_Purpose_Label">
+    <source></source>
+    <translation>Files that were deleted below this path stay on the volume until they are purged. Purging frees their space; they cannot be salvaged afterwards.</translation>
+  </message>
+  <message id="Salvage_Purge_Nothing_Sent_Label">
+    <source></source>
+    <translation>This version does neither yet: nothing on this page sends anything to the server.</translation>
+  </message>
+  <message id="Deleted_Files_Tip_Label">
+    <source></source>
+    <translation>What this version can do with deleted files</translation>
+  </message>
+  <message id="More_Information_title">
+    <source></source>
+    <translation>&amp;More Information…</translation>
+  </message>
+  <message id="More_Information_Title">
+    <source></source>
+    <translation>More Information</translation>
+  </message>
+  <message id="Salvage_Purge_More_Label">
+    <source></source>
+    <translation>A deleted file is kept by the server until its space is needed or somebody purges it. Salvaging brings it back into its folder; purging removes it for good. Files with the attribute Purge Immediately are never kept.
+
+Quorvan cannot salvage or purge files yet and sends nothing to the server here. Use the server’s own management tools until a later version can.</translation>
+  </message>
   <!-- Quotas -->
   <message id="Users_with_Quota_Label">
     <source></source>

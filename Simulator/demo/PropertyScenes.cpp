@@ -27,48 +27,48 @@ void showAttributes(const Output& output) {
     {
         Stage stage(output, Embedded::demo(account::supervisor, account::compressedFile));
         openInformation(stage);
-        stage.photograph("30-file-attributes", "the attributes of a compressed file, which has no quota");
+        stage.photograph("60-file-attributes", "the attributes of a compressed file, which has no quota");
         stage.find<QAbstractButton>("readChk")->click();
-        stage.photograph("31-read-only", "read only implies two others");
+        stage.photograph("61-read-only", "read only implies two others");
     }
     {
         Stage stage(output, Embedded::demo(account::supervisor, account::fileOfNobody));
         openInformation(stage);
-        stage.photograph("32-owner-gone", "a file whose owner is gone");
+        stage.photograph("62-owner-gone", "a file whose owner is gone");
     }
     Stage stage(output, Embedded::demo(account::readOnly));
     openInformation(stage);
-    stage.photograph("33-information-read-only", "without Supervisor: owner and limit cannot be changed");
+    stage.photograph("63-information-read-only", "without Supervisor: owner and limit cannot be changed");
 }
 
 void showDirectoryQuota(const Output& output) {
     {
         Stage stage(output, Embedded::demo());
         openInformation(stage);
-        stage.photograph("34-folder-attributes", "the attributes of a folder");
+        stage.photograph("64-folder-attributes", "the attributes of a folder");
         showQuota(stage);
-        stage.photograph("35-directory-quota", "a folder with a limit");
+        stage.photograph("65-directory-quota", "a folder with a limit");
         stage.press("editLimitBtn");
-        stage.photograph("36-limit-edited", "its limit can be typed");
+        stage.photograph("66-limit-edited", "its limit can be typed");
         stage.type("dirQuotaLimit", "1.5");
-        stage.expectDialog("37-invalid-limit", "the sheet after Apply with a limit that is none");
+        stage.expectDialog("67-invalid-limit", "the sheet after Apply with a limit that is none");
         stage.press("applyButton");
-        stage.photograph("38-limit-as-before", "the limit as it was");
+        stage.photograph("68-limit-as-before", "the limit as it was");
         stage.press("removeLimitBtn");
-        stage.photograph("39-limit-removed", "the limit is to be removed");
+        stage.photograph("69-limit-removed", "the limit is to be removed");
         stage.press("applyButton");
-        stage.photograph("40-unlimited", "the limit after that");
+        stage.photograph("70-unlimited", "the limit after that");
     }
     {
         Stage stage(output, Embedded::demo(account::supervisorTree, "VOL1:\\Public\\Briefkasten"));
         openInformation(stage);
         showQuota(stage);
-        stage.photograph("41-over-the-limit", "a folder over its limit, seen by a user of the tree");
+        stage.photograph("71-over-the-limit", "a folder over its limit, seen by a user of the tree");
     }
     Stage stage(output, Embedded::demo(account::supervisor, account::folderWithoutQuota));
     openInformation(stage);
     showQuota(stage);
-    stage.photograph("42-quota-not-set", "a folder whose quota nobody has set");
+    stage.photograph("72-quota-not-set", "a folder whose quota nobody has set");
 }
 
 void selectUsers(Stage& stage, std::initializer_list<int> rows) {
@@ -122,12 +122,26 @@ void showUserQuotas(const Output& output) {
     stage.photograph("59-no-user-quotas", "… and the page then");
 }
 
+void showDeletedFiles(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    stage.launch();
+    stage.press("SalvageView");
+    stage.photograph("73-salvage", "the page for salvaging, which says that it cannot");
+    stage.press("moreInfoButton");
+    stage.photograph("74-more-information", "the sheet that says more");
+    stage.press("cancelButton");
+    stage.press("closeButton");
+    stage.press("PurgeView");
+    stage.photograph("75-purge", "the page for purging");
+}
+
 } // namespace
 
 void showProperties(const Output& output) {
     showUserQuotas(output);
     showAttributes(output);
     showDirectoryQuota(output);
+    showDeletedFiles(output);
 }
 
 } // namespace quorvan::demo

@@ -6,6 +6,8 @@
 #include "Quorvan/Controller/MainViewController.h"
 #include "Quorvan/Controller/MenuEntry.h"
 #include "Quorvan/Controller/RightsTabViewController.h"
+#include "Quorvan/Controller/SalvagePurgeSegueController.h"
+#include "Quorvan/Controller/SalvagePurgeViewController.h"
 #include "Quorvan/Controller/TrusteeRightsTabView.h"
 #include "Quorvan/Controller/ViewTabController.h"
 #include "Quorvan/Toolkit/Storyboard.h"
@@ -245,6 +247,37 @@ TEST_F(MainWindowTest, LeavesThePlaceOfTheSettingsOutWhereTheyAreSwitchedOff) {
     }
 }
 
+TEST_F(MainWindowTest, LeadsToTheDeletedFilesAndSendsNothing) {
+    openWindow();
+    const auto requests = [this] { return requestsTo("/FilesCmdPipe") + requestsTo("/RightsCmdPipe"); };
+    const struct {
+        MenuEntry* MainViewController::*entry;
+        const char* title;
+    } ways[] = {{&MainViewController::SalvageView, "Salvage_Title"},
+                {&MainViewController::PurgeView, "Purge_Title"}};
+    for (const auto& [entry, expected] : ways) {
+        click(options().*entry);
+        EXPECT_EQ(title(), expected);
+        auto& files = page<SalvagePurgeViewController>();
+        EXPECT_EQ(files.deletedFileButton->text(), expected);
+        for (QPushButton* button : {files.deletedFileButton, files.moreInfoButton}) {
+            click(button);
+            const QWidget* sheet = QApplication::activeModalWidget();
+            ASSERT_NE(sheet, nullptr);
+            EXPECT_EQ(sheet->findChild<QPushButton*>("actionButton")->text(), expected);
+            click(sheet->findChild<QPushButton*>("cancelButton"));
+            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        }
+        files.onClose();
+        EXPECT_EQ(title(), expected) << "it is no sheet";
+        click(files.closeButton);
+        EXPECT_EQ(title(), "Rights Management");
+    }
+    EXPECT_EQ(requests(), 0U);
+    const SalvagePurgeSegueController unnamed(std::nullopt, nullptr, nullptr);
+    EXPECT_STREQ(salvagePurgeTitleKey(identifierID), "Purge_Title");
+}
+
 TEST_F(MainWindowTest, EndsTheProcessWithoutItsSwitches) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const struct {
@@ -271,12 +304,12 @@ TEST_F(MainWindowTest, CanBeWorkedWithTheKeyboardAndAScreenReader) {
         Storyboard::named("Main").add(page, [] { return new ViewController; });
     openWindow();
     std::vector<std::string> visited;
-    for (int step = 0; step < 5; ++step) {
+    for (int step = 0; step < 7; ++step) {
         visited.push_back(QApplication::focusWidget()->objectName().toStdString());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     EXPECT_THAT(visited, ElementsAre("TrusteeRightsView", "FileSystemRightsView", "UserQuotaView",
-                                     "DirectoryQuotaView", "SettingView"));
+                                     "DirectoryQuotaView", "SettingView", "SalvageView", "PurgeView"));
     click(options().SettingView);
     EXPECT_EQ(title(), "Settings_Title");
 
