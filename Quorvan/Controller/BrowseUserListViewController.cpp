@@ -69,6 +69,7 @@ void BrowseUserListViewController::onChangeDomainPopUp(QObject* sender) {
     } else if (identifier == QLatin1String("idDomainName")) {
         selectedDomain = popUp->currentText().toStdString();
         ldapList().selectedDomain = selectedDomain;
+        domainPopUp->setToolTip(popUp->currentText()); // it may be too long for its place
     }
     btnFetch->setEnabled(true);
     searchField->setEnabled(isPlaceChosen());

@@ -130,50 +130,50 @@ void showIdentityBrowsers(const Output& output) {
         Stage stage(output, Embedded::demo());
         openTrusteeRights(stage);
         stage.press("addBtn");
-        stage.photograph("30-browse-ad", "Add: the Active Directory browser as it opens");
+        stage.photograph("60-browse-ad", "Add: the Active Directory browser as it opens");
         stage.choose("userTypePopUp", "Users");
         stage.choose("domainPopUp", "/Active Directory/NORDHAVN");
         stage.press("btnFetch");
         stage.select({1, 3});
-        stage.photograph("31-browse-ad-fetched", "the users of the second forest, two of them selected");
+        stage.photograph("61-browse-ad-fetched", "the users of the second forest, two of them selected");
         stage.choose("domainPopUp", "/Active Directory/FJERNØY");
         stage.press("btnFetch");
-        stage.photograph("32-browse-ad-silent", "a domain that cannot be reached");
+        stage.photograph("62-browse-ad-silent", "a domain that cannot be reached");
         stage.choose("domainPopUp", "/Active Directory/MERIDAL");
         stage.press("btnFetch");
         stage.select({20, 21});
         stage.press("selectButton");
-        stage.photograph("33-added", "the chosen users at the end of the list, with read and file scan");
+        stage.photograph("63-added", "the chosen users at the end of the list, with read and file scan");
         stage.press("addBtn");
         stage.choose("userTypePopUp", "Users");
         stage.choose("domainPopUp", "/Active Directory/MERIDAL");
         stage.press("btnFetch");
         stage.select({20});
-        stage.expectDialog("34-alert-duplicate", "the alert for somebody who is a trustee already");
+        stage.expectDialog("64-alert-duplicate", "the alert for somebody who is a trustee already");
         stage.press("selectButton");
     }
     {
         Stage stage(output, Embedded::demo(account::supervisorTree));
         openTrusteeRights(stage);
         stage.press("addBtn");
-        stage.photograph("35-browse-morvane", "the browser of the Morvane tree as it opens");
+        stage.photograph("65-browse-morvane", "the browser of the Morvane tree as it opens");
         stage.choose("userTypePopUp", "Users");
         stage.type("treeTextField", ".OU=Verlag.O=Meridal.");
         stage.press("btnFetch");
         stage.select({1});
-        stage.photograph("36-browse-morvane-fetched", "the users below a container");
+        stage.photograph("66-browse-morvane-fetched", "the users below a container");
         stage.type("searchField", "ana");
-        stage.photograph("37-browse-morvane-search", "those whose names contain a text");
+        stage.photograph("67-browse-morvane-search", "those whose names contain a text");
         stage.choose("userTypePopUp", "Containers");
         stage.press("btnFetch");
-        stage.photograph("38-browse-morvane-none", "no containers there");
+        stage.photograph("68-browse-morvane-none", "no containers there");
     }
     Stage stage(output, Embedded::demo());
     stage.otherFeatures = {{"multiForest", false}};
     openTrusteeRights(stage);
     stage.press("addBtn");
     stage.select({2});
-    stage.photograph("39-old-browse-ad", "the browser of installations with a single forest");
+    stage.photograph("69-old-browse-ad", "the browser of installations with a single forest");
 }
 
 void showSettings(const Output& output) {
@@ -181,20 +181,20 @@ void showSettings(const Output& output) {
         Stage stage(output, Embedded::demo(account::readOnly));
         stage.launch();
         stage.press("SettingView");
-        stage.photograph("40-settings-read-only", "the settings page of a user who may not change it");
+        stage.photograph("70-settings-read-only", "the settings page of a user who may not change it");
     }
     Stage stage(output, Embedded::demo());
     stage.launch();
     stage.press("SettingView");
     stage.find<QAbstractButton>("ListBoth")->click();
-    stage.photograph("41-settings", "the settings page");
+    stage.photograph("71-settings", "the settings page");
     stage.press("CloseBtn");
     stage.press("TrusteeRightsView");
     stage.press("addBtn");
-    stage.photograph("42-identify-source", "with both directories: which one is to be browsed?");
+    stage.photograph("72-identify-source", "with both directories: which one is to be browsed?");
     stage.find<QAbstractButton>("MorvaneBtn")->click();
     stage.press("OkBtn");
-    stage.photograph("43-next-sheet", "… and the browser that follows");
+    stage.photograph("73-next-sheet", "… and the browser that follows");
 }
 
 } // namespace
@@ -220,6 +220,11 @@ void showMainPages(const Output& output) {
     stage.press("TrusteeRightsView");
     stage.tick(2, "W");
     stage.photograph("02-trustees", "the trustee table, edited");
+    stage.press("addBtn");
+    stage.choose("userTypePopUp", "Users");
+    stage.choose("domainPopUp", "/Active Directory/NORDHAVN");
+    stage.press("btnFetch");
+    stage.photograph("61-browse-ad-fetched", "the Active Directory browser");
 }
 
 } // namespace quorvan::demo

@@ -20,46 +20,15 @@
 namespace quorvan::test {
 namespace {
 
-/// The window, used with mouse and keyboard, over the simulated server and the real directory.
-struct Window {
-    Window(simulator::Embedded& server, const std::shared_ptr<DirectoryServices>& directory)
-        : services([&] {
-            Services all = server.services();
-            all.directory = directory;
-            all.bundle = std::make_shared<QtBundle>(QStringLiteral(FEATURES));
-            all.alerts = alerts;
-            return all;
-        }()) {
-        fillMainStoryboard();
-        window = std::make_unique<MainWindow>();
-        window->load();
-        window->present();
-    }
-
-    /// A control of the sheet in front, or of the window when there is none.
-    template <class Control>
-    Control* find(const char* name) const {
-        QWidget* sheet = QApplication::activeModalWidget();
-        for (auto* control : (sheet != nullptr ? sheet : window.get())->findChildren<Control*>(name))
-            if (control->isVisible())
-                return control;
-        throw std::runtime_error(std::string("there is no ") + name);
-    }
-    void click(const char* button) const {
-        EXPECT_TRUE(find<QPushButton>(button)->isEnabled()) << button;
-        QTest::mouseClick(find<QPushButton>(button), Qt::LeftButton);
-    }
-    void pick(const char* popUp, const char* item) const {
-        auto* box = find<QComboBox>(popUp);
-        while (box->currentText() != item && box->currentIndex() + 1 < box->count())
-            QTest::keyClick(box, Qt::Key_Down);
-        EXPECT_EQ(box->currentText(), item);
-    }
-
-    std::shared_ptr<RecordingAlerts> alerts = std::make_shared<RecordingAlerts>();
-    ScopedServices services;
-    std::unique_ptr<MainWindow> window;
-};
+/// A control of the sheet in front, or of the window when there is none.
+template <class Control>
+Control* control(const MainWindow& window, const char* name) {
+    const QWidget* sheet = QApplication::activeModalWidget();
+    for (auto* each : (sheet != nullptr ? sheet : &window)->findChildren<Control*>(name))
+        if (each->isVisible())
+            return each;
+    throw std::runtime_error(name);
+}
 
 TEST_F(ActiveDirectory, MakesAnOddlyNamedUserATrusteeThroughTheWindow) {
     int count = 1;
@@ -79,34 +48,53 @@ TEST_F(ActiveDirectory, MakesAnOddlyNamedUserATrusteeThroughTheWindow) {
         return -1;
     };
 
+    const auto alerts = std::make_shared<RecordingAlerts>();
+    Services services = world.services();
+    services.directory = client();
+    services.bundle = std::make_shared<QtBundle>(QStringLiteral(FEATURES));
+    services.alerts = alerts;
+    const ScopedServices installed(services);
     const LogRecorder quiet;
-    const Window window(world, client());
-    window.click("TrusteeRightsView");
-    window.click("addBtn");
-    window.pick("userTypePopUp", "Users");
-    window.pick("domainPopUp", "/Active Directory/QUORVAN");
-    window.click("btnFetch");
-    auto* list = window.find<QTableView>("userListTable");
+    fillMainStoryboard();
+    MainWindow window;
+    window.load();
+    window.present();
+    const auto click = [&](const char* button) {
+        QTest::mouseClick(control<QPushButton>(window, button), Qt::LeftButton);
+    };
+    const auto pick = [&](const char* name, const QString& item) {
+        auto* popUp = control<QComboBox>(window, name);
+        while (popUp->currentText() != item && popUp->currentIndex() + 1 < popUp->count())
+            QTest::keyClick(popUp, Qt::Key_Down);
+    };
+
+    click("TrusteeRightsView");
+    click("addBtn");
+    pick("userTypePopUp", "Users");
+    pick("domainPopUp", "/Active Directory/QUORVAN");
+    click("btnFetch");
+    auto* list = control<QTableView>(window, "userListTable");
     EXPECT_GT(list->model()->rowCount(), 2500);
-    auto* search = window.find<QLineEdit>("searchField");
+    auto* search = control<QLineEdit>(window, "searchField");
     QTest::keyClicks(search, " (Q*X\\y");
     QTest::keyClick(search, Qt::Key_Return);
     ASSERT_EQ(list->model()->rowCount(), 1);
     const QModelIndex found = list->model()->index(0, 0);
     EXPECT_EQ(found.data().toString().toStdString(), odd);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(found).center());
-    window.click("selectButton");
+    click("selectButton");
     EXPECT_EQ(rights(), -1) << "nothing is sent before Apply";
-    window.click("applyBtn");
+    click("applyBtn");
     EXPECT_EQ(rights(), 0x41);
 
-    const auto* tab = dynamic_cast<RightsTabViewController*>(window.find<QPushButton>("addBtn")->parent());
+    const auto* tab =
+        dynamic_cast<RightsTabViewController*>(control<QPushButton>(window, "addBtn")->parent());
     ASSERT_NE(tab, nullptr);
     const auto& trustee = *tab->trusteeList.back();
     EXPECT_EQ(trustee.trusteeName, odd);
     EXPECT_EQ(trustee.trusteeID, sid);
     EXPECT_EQ(trustee.trusteeType, "Users") << "which only the directory knows";
-    EXPECT_THAT(window.alerts->shown, testing::IsEmpty());
+    EXPECT_THAT(alerts->shown, testing::IsEmpty());
     EXPECT_THAT(log, testing::IsEmpty());
 }
 

@@ -41,7 +41,6 @@ struct RightsTabFixture : testing::Test {
         Storyboard::named("Main") = Storyboard();
         Storyboard::named("Main").add("optionsViewController", [] { return new ViewController; });
         Shared::value().bothID = false;
-        world.sharedDefaults->values(groupSuiteName)["loggedUserType"] = "ActiveDirectory";
         for (const auto& [name, rights] : {std::pair<const char*, simulator::Mask>{"Müller", 0x1FB},
                                            {"admin", 0x041},
                                            {"Zoe", 0x000},
@@ -51,20 +50,26 @@ struct RightsTabFixture : testing::Test {
     }
 
     /// Opens the tab anew as the window does, for the rights that `user` holds on the folder.
-    void open(const char* user = simulator::demo::supervisor) {
+    void open(const char* user = simulator::demo::supervisor, const char* identityType = "ActiveDirectory") {
+        tab = openPage<RightsTabViewController>(user, identityType);
+    }
+    template <class Page>
+    Page* openPage(const char* user, const char* identityType) {
+        world.sharedDefaults->values(groupSuiteName)["loggedUserType"] = identityType;
         host = std::make_unique<PageHost>();
         DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
         ServerDetails::forget();
         world.logIn(user, simulator::demo::password);
-        tab = new RightsTabViewController;
-        host->insertChild(0, tab);
+        auto* page = new Page;
+        host->insertChild(0, page);
         host->beginAppearing();
-        tab->resize(800, 500);
+        page->resize(800, 500);
         host->resize(800, 500);
         host->show();
         host->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(host.get()));
         host->endAppearing();
+        return page;
     }
     void click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
     void clickCell(int row, const char* identifier, Qt::KeyboardModifiers modifiers = {}) {
@@ -84,9 +89,10 @@ struct RightsTabFixture : testing::Test {
         tab->endAppearing();
     }
 
-    Texts shown() const {
+    Texts shown() const { return names(*tab->rightsTable); }
+    static Texts names(const QTableView& table) {
         Texts names;
-        const QAbstractItemModel* model = tab->rightsTable->model();
+        const QAbstractItemModel* model = table.model();
         for (int row = 0; row < model->rowCount(); ++row)
             names.push_back(model->index(row, 0).data().toString().toStdString());
         return names;

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/Controller/MainStoryboard.h"
 #include "Quorvan/Controller/SettingsController.h"
 #include "Quorvan/Controller/Shared.h"
 #include "Tests/Quorvan/Controller/RightsTabFixture.h"
@@ -13,22 +12,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 namespace demo = simulator::demo;
 
-struct SettingsTest : RightsTabFixture {
-    SettingsController& openSettings(const char* user, const char* identityType) {
-        world.sharedDefaults->values(groupSuiteName)["loggedUserType"] = identityType;
-        host = std::make_unique<PageHost>();
-        DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
-        ServerDetails::forget();
-        world.logIn(user, demo::password);
-        auto* page = new SettingsController;
-        host->insertChild(0, page);
-        host->resize(600, 400);
-        host->beginAppearing();
-        host->show();
-        host->endAppearing();
-        return *page;
-    }
-};
+using SettingsTest = RightsTabFixture;
 
 TEST_F(SettingsTest, SwitchesBothDirectoriesOnForThoseWhoMay) {
     const struct {
@@ -40,7 +24,7 @@ TEST_F(SettingsTest, SwitchesBothDirectoriesOnForThoseWhoMay) {
     for (const auto& [user, type, title, mayChange] : cases) {
         SCOPED_TRACE(user);
         const bool before = Shared::value().bothID;
-        SettingsController& page = openSettings(user, type);
+        const auto& page = *openPage<SettingsController>(user, type);
         EXPECT_EQ(page.ListBoth->text(), title);
         EXPECT_EQ(page.ListBoth->isChecked(), before) << "the setting outlives the page";
         EXPECT_EQ(page.ListBoth->isEnabled(), mayChange);
@@ -56,9 +40,9 @@ TEST_F(SettingsTest, SwitchesBothDirectoriesOnForThoseWhoMay) {
 
 TEST_F(SettingsTest, IsLeftWhenTheServerDoesNotAnswer) {
     world.server->misbehaviour.openError = ENOENT;
-    openSettings(demo::supervisor, "ActiveDirectory");
+    openPage<SettingsController>(demo::supervisor, "ActiveDirectory");
     world.keychain->failure = -25300;
-    openSettings(demo::supervisor, "ActiveDirectory");
+    openPage<SettingsController>(demo::supervisor, "ActiveDirectory");
     EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed", "Err_Keychain_Not_Found"));
     EXPECT_THAT(host->titles, ElementsAre("Rights Management"));
 }

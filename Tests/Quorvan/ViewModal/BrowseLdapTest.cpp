@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/ViewModal/BrowseLdapViewModal.h"
-#include "Quorvan/ViewModal/OldBrowseLdapViewModal.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
 #include "Simulator/Embedded.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/Support/LogRecorder.h"
 
 #include <gmock/gmock.h>
-
-#include <cerrno>
 
 namespace quorvan::test {
 namespace {
@@ -18,7 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// The look-ups that no sheet performs, and failures, in the simulated directory.
+/// The look-ups that no sheet performs, in the simulated directory.
 struct BrowseLdap : testing::Test {
     simulator::Embedded world = simulator::Embedded::demo();
     FakeWorld fakes;
@@ -56,29 +53,6 @@ TEST_F(BrowseLdap, FindsGroupsAndSidsOfNamedObjects) {
     directory = {};
     directory.failQueries = true;
     EXPECT_DEATH(BrowseLdapViewModal::getGroupMembership(member.id), "does not say which groups");
-}
-
-TEST_F(BrowseLdap, SurvivesADirectoryThatFails) {
-    BrowseLdapViewModal browser("Users");
-    OldBrowseLdapViewModal old("");
-    browser.selectedDomain = "/Active Directory/NORDHAVN";
-    directory.failValues = true;
-    EXPECT_THAT(browser.searchAD("e", "Users"), IsEmpty());
-    EXPECT_THAT(browser.getUserListforType("Users"), IsEmpty());
-    EXPECT_TRUE(browser.listingFailed);
-    EXPECT_THAT(OldBrowseLdapViewModal::searchAD("e", "Users"), IsEmpty());
-    EXPECT_THAT(fakes.alerts->shown, SizeIs(1)) << "only the search of the first is reported";
-    directory.failNodes = true;
-    directory.failQueries = true;
-    EXPECT_THAT(BrowseLdapViewModal::getAvaialbleDomains(), IsEmpty());
-    EXPECT_THAT(log.take(), Contains("Error in Open Directory Session " + std::to_string(EIO)));
-    EXPECT_THAT(old.ldapGroupList(), IsEmpty());
-    directory = {};
-    EXPECT_THAT(browser.getUserListforType("Users"), SizeIs(simulator::demo::secondForestUsers))
-        << "an empty list is asked for anew";
-    EXPECT_THAT(old.ldapGroupList(), IsEmpty()) << "this one is asked for once";
-    EXPECT_EQ(fakes.busy->running, 0);
-    EXPECT_GT(fakes.busy->begun, 5);
 }
 
 } // namespace
