@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/MainStoryboard.h"
 
+#include "Quorvan/Controller/BrowseFolderViewController.h"
 #include "Quorvan/Controller/BrowseMorvaneUserListViewController.h"
 #include "Quorvan/Controller/BrowseUserListViewController.h"
+#include "Quorvan/Controller/FileSystemRightsViewController.h"
+#include "Quorvan/Controller/GroupRightsViewController.h"
 #include "Quorvan/Controller/IdentifySourceViewController.h"
 #include "Quorvan/Controller/InformationViewController.h"
 #include "Quorvan/Controller/MainViewController.h"
@@ -27,6 +30,11 @@ void fillMainStoryboard() {
     main.add("ViewBrowseMorvane", [] { return new BrowseMorvaneUserListViewController; });
     main.add("ViewBrowseAD", [] { return new BrowseUserListViewController; });
     main.add("oldViewBrowseAD", [] { return new OldBrowseUserListViewController; });
+    main.add("fileSystemRightsView", [] { return new FileSystemRightsViewController; });
+    main.add("groupRightsView", [] { return new GroupRightsViewController; });
+    main.add("NewFileBrowser", [] { return new BrowseFolderViewController; });
+    // Installations that ask for the browser with columns get the tree.
+    main.add("OldFileBrowser", [] { return new BrowseFolderViewController; });
 }
 
 } // namespace quorvan

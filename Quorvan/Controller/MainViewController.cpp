@@ -189,12 +189,8 @@ void MainViewController::initMainView() {
 /// No page can be opened before it is known who is logged in: every view works in that user's kind.
 void MainViewController::updateEntries() {
     const bool known = loggedInUserIsKnown();
-    for (const EntryKind& kind : entryKinds) {
-        MenuEntry* entry = this->*kind.view;
-        const bool exists = Storyboard::named("Main").knows(kind.page);
-        entry->setEnabled(known && exists);
-        entry->setToolTip(exists ? QString() : L("Page_Follows_Label"));
-    }
+    for (const EntryKind& kind : entryKinds)
+        (this->*kind.view)->setEnabled(known);
     tryAgainBtn->setVisible(!known);
 }
 

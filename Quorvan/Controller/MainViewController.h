@@ -19,8 +19,6 @@ class PathLabel;
 
 /// The options page: where every visit begins and from where all other pages are reached. Loading it
 /// asks the server who is logged in.
-///
-/// Entries whose pages are not in the storyboard are shown, but switched off.
 class MainViewController : public ViewController {
 public:
     MainViewController();

@@ -22,13 +22,6 @@ void TrusteeRightsTabView::loadView() {
     page->addWidget(closeBtn, 0, Qt::AlignLeft);
 }
 
-/// Room for long names beside the boxes, and for some fifteen trustees.
-QSize TrusteeRightsTabView::sizeHint() const {
-    const QFontMetrics metrics = fontMetrics();
-    return ViewController::sizeHint().expandedTo(
-        {100 * metrics.averageCharWidth() + 80, 38 * metrics.lineSpacing()});
-}
-
 void TrusteeRightsTabView::onReturnMainMenu() {
     returnToMainMenu(*this);
 }

@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/Toolkit/ViewController.h"
+#include "Quorvan/Toolkit/RightsPage.h"
 
 class QPushButton;
 
 namespace quorvan {
 
 /// The frame of the trustee rights page: the tabs, and the way back to the options page.
-class TrusteeRightsTabView : public ViewController {
+class TrusteeRightsTabView : public RightsPage {
 public:
-    using ViewController::ViewController;
+    using RightsPage::RightsPage;
 
     QPushButton* closeBtn = nullptr;
 
     void loadView() override;
-    QSize sizeHint() const override;
 
     void onReturnMainMenu();
 };

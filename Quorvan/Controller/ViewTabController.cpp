@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/ViewTabController.h"
 
-#include "Quorvan/Controller/PlaceholderViewController.h"
+#include "Quorvan/Controller/DirectoryTrusteeViewController.h"
+#include "Quorvan/Controller/EffectiveRightsViewController.h"
+#include "Quorvan/Controller/InheritedRightsViewController.h"
 #include "Quorvan/Controller/RightsTabViewController.h"
 #include "Quorvan/Toolkit/Localized.h"
 
@@ -13,14 +15,21 @@
 namespace quorvan {
 namespace {
 
+template <class View>
+ViewController* make() {
+    return new View;
+}
+
 struct TabKind {
     const char* titleKey;
     const char* tipKey;
+    ViewController* (*makeView)();
 };
-constexpr TabKind tabKinds[] = {{"Rights_Label", "Rights_Tip_Label"},
-                                {"Inherited_Rights_Label", "Inherited_Rights_Tip_Label"},
-                                {"Effective_Rights_Label", "Effective_Rights_Tip_Label"},
-                                {"Trustee_Directories_Label", "Trustee_Directories_Tip_Label"}};
+constexpr TabKind tabKinds[] = {
+    {"Rights_Label", "Rights_Tip_Label", make<RightsTabViewController>},
+    {"Inherited_Rights_Label", "Inherited_Rights_Tip_Label", make<InheritedRightsViewController>},
+    {"Effective_Rights_Label", "Effective_Rights_Tip_Label", make<EffectiveRightsViewController>},
+    {"Trustee_Directories_Label", "Trustee_Directories_Tip_Label", make<DirectoryTrusteeViewController>}};
 
 } // namespace
 
@@ -31,11 +40,7 @@ void ViewTabController::loadView() {
     page->addWidget(tabView);
     for (const TabKind& kind : tabKinds) {
         const int item = tabView->count();
-        ViewController* view = nullptr;
-        if (item == rightsTabLabel)
-            view = new RightsTabViewController;
-        else
-            view = new PlaceholderViewController(plainL(kind.titleKey), L(kind.tipKey));
+        ViewController* view = kind.makeView();
         tabView->addTab(view, L(kind.titleKey));
         tabView->setTabToolTip(item, L(kind.tipKey));
         insertChild(static_cast<std::size_t>(item), view);

@@ -44,4 +44,12 @@ TrusteeList copyOf(const TrusteeList& trustees) {
     return copies;
 }
 
+std::vector<DirectoryRights> copyOf(const std::vector<DirectoryRights>& rows) {
+    std::vector<DirectoryRights> copies;
+    copies.reserve(rows.size());
+    for (const DirectoryRights& row : rows)
+        copies.push_back({std::make_shared<Trustees>(*row.trustee), row.path});
+    return copies;
+}
+
 } // namespace quorvan

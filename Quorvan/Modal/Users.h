@@ -66,6 +66,9 @@ struct DirectoryRights {
     std::string path; ///< server path on which the trustee is set
 };
 
+/// The same of rows that stand for a trustee on a path.
+std::vector<DirectoryRights> copyOf(const std::vector<DirectoryRights>& rows);
+
 /// One path on which a trustee holds rights.
 struct FileRights {
     enum class Order { fpath };

@@ -121,10 +121,6 @@
     <source></source>
     <translation>Show the trustees of both directories</translation>
   </message>
-  <message id="Page_Follows_Label">
-    <source></source>
-    <translation>Not available yet: this page follows in a later version.</translation>
-  </message>
   <message id="Managed_Path_Label">
     <source></source>
     <translation>Path being managed</translation>
@@ -173,10 +169,6 @@
   <message id="Trustee_Directories_Tip_Label">
     <source></source>
     <translation>The trustees of the folders above and below</translation>
-  </message>
-  <message id="Tab_Follows_Label">
-    <source></source>
-    <translation>This view follows in a later version.</translation>
   </message>
   <message id="Close_title">
     <source></source>
@@ -599,6 +591,159 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   <message id="PB">
     <source></source>
     <translation>PB</translation>
+  </message>
+  <!-- The inherited rights filter -->
+  <message id="Inherited_Deselect_Label">
+    <source></source>
+    <translation>A ticked right passes from the folders above down to this path. Clear a box to stop that right here.</translation>
+  </message>
+  <message id="Inherited_Box_Tip_Label">
+    <source></source>
+    <translation>Ticked: %1 passes from the folders above. Cleared: it stops here.</translation>
+  </message>
+  <message id="Inherited_Supervisor_Tip_Label">
+    <source></source>
+    <translation>No filter stops the Supervisor right.</translation>
+  </message>
+  <!-- Effective rights -->
+  <message id="Effective_Label">
+    <source></source>
+    <translation>What the trustees of this path may really do here:</translation>
+  </message>
+  <message id="Select_Effective_Trustee_Label">
+    <source></source>
+    <translation>What any other user or group may really do here:</translation>
+  </message>
+  <message id="User_Group_Label">
+    <source></source>
+    <translation>User or group:</translation>
+  </message>
+  <message id="Nobody_Chosen_Label">
+    <source></source>
+    <translation>Nobody chosen yet</translation>
+  </message>
+  <message id="Choose_title">
+    <source></source>
+    <translation>C&amp;hoose…</translation>
+  </message>
+  <message id="Choose_Effective_Tip_Label">
+    <source></source>
+    <translation>Choose the user or group whose effective rights you want to see</translation>
+  </message>
+  <message id="Choose_Needs_Rights_Label">
+    <source></source>
+    <translation>Choosing a user or group takes the Supervisor or Access Control right here</translation>
+  </message>
+  <!-- Trustees of folders -->
+  <message id="Subdirectories_Label">
+    <source></source>
+    <translation>Trustees on this path and everything below it:</translation>
+  </message>
+  <message id="Parent_dir_Label">
+    <source></source>
+    <translation>Trustees on this path and the folders above it:</translation>
+  </message>
+  <message id="Remove_Trustee_Label">
+    <source></source>
+    <translation>Remove trustees:</translation>
+  </message>
+  <message id="Remove_Parent_title">
+    <source></source>
+    <translation>Rem&amp;ove</translation>
+  </message>
+  <message id="Col_Path">
+    <source></source>
+    <translation>Path</translation>
+  </message>
+  <message id="Search_Paths_Placeholder_Label">
+    <source></source>
+    <translation>Search by name or path</translation>
+  </message>
+  <message id="Search_Sub_Label">
+    <source></source>
+    <translation>Search this path and everything below it by name or path</translation>
+  </message>
+  <message id="Search_Parent_Label">
+    <source></source>
+    <translation>Search this path and the folders above it by name or path</translation>
+  </message>
+  <message id="No_Sub_Trustees_Label">
+    <source></source>
+    <translation>No trustees on this path or below it.</translation>
+  </message>
+  <message id="No_Parent_Trustees_Label">
+    <source></source>
+    <translation>No trustees on this path or the folders above it.</translation>
+  </message>
+  <message id="No_Match_Path_Label">
+    <source></source>
+    <translation>No name or path matches “%1”.</translation>
+  </message>
+  <!-- File-system rights -->
+  <message id="FSR_Label_Title">
+    <source></source>
+    <translation>Every path below on which one user or group is a trustee:</translation>
+  </message>
+  <message id="Choose_FSR_Tip_Label">
+    <source></source>
+    <translation>Choose the user or group whose paths you want to see</translation>
+  </message>
+  <message id="Group_Rights">
+    <source></source>
+    <translation>&amp;Group Rights…</translation>
+  </message>
+  <message id="Group_Rights_Tip_Label">
+    <source></source>
+    <translation>Show what this user holds through its groups</translation>
+  </message>
+  <message id="Add_Remove_Path_Label">
+    <source></source>
+    <translation>Add or remove paths:</translation>
+  </message>
+  <message id="Add_Path_Tip_Label">
+    <source></source>
+    <translation>Choose files and folders on which this user or group becomes a trustee</translation>
+  </message>
+  <message id="Remove_Path_Tip_Label">
+    <source></source>
+    <translation>Take this user or group off the selected paths</translation>
+  </message>
+  <message id="FSR_Read_Only_Label">
+    <source></source>
+    <translation>Choosing a user or group takes the Supervisor right on this path.</translation>
+  </message>
+  <message id="FSR_Nobody_Label">
+    <source></source>
+    <translation>Choose a user or group to see its paths.</translation>
+  </message>
+  <message id="FSR_No_Paths_Label">
+    <source></source>
+    <translation>Not a trustee of any path below.</translation>
+  </message>
+  <message id="Group_Rights_Title">
+    <source></source>
+    <translation>Rights through Groups</translation>
+  </message>
+  <message id="Col_Group">
+    <source></source>
+    <translation>Group</translation>
+  </message>
+  <message id="No_Group_Rights_Label">
+    <source></source>
+    <translation>No group of this user is a trustee of a path below.</translation>
+  </message>
+  <!-- The folder browser -->
+  <message id="Browse_Folder_Title">
+    <source></source>
+    <translation>Choose Files and Folders</translation>
+  </message>
+  <message id="Browse_Folder_Root_Label">
+    <source></source>
+    <translation>Mounted volume</translation>
+  </message>
+  <message id="Volume_Not_Mounted_Label">
+    <source></source>
+    <translation>The volume %1 is not mounted on this computer. Open it in the file manager, then try again.</translation>
   </message>
   <!-- Alerts -->
   <message id="Warning_Title">

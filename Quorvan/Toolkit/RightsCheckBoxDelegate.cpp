@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/RightsCheckBoxDelegate.h"
 
+#include "Quorvan/Toolkit/ReadOnlyPalette.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,12 +26,6 @@ QRect boxRect(const QRect& cell, const QWidget* widget) {
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, cell);
 }
 
-QColor mixed(const QColor& from, const QColor& to, float share) {
-    const auto mix = [share](float a, float b) { return a + (b - a) * share; };
-    return QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
-                            mix(from.blueF(), to.blueF()));
-}
-
 /// Styles outline a box with a darkened window colour, which is lost on a dark table, and grey out a
 /// disabled tick until it cannot be told from none. A table is there to be read.
 QPalette boxPalette(QPalette palette, bool enabled) {
@@ -37,10 +33,10 @@ QPalette boxPalette(QPalette palette, bool enabled) {
     const QColor base = palette.color(QPalette::Base);
     const QColor text = palette.color(QPalette::Text);
     if (base.lightness() < 128)
-        palette.setColor(QPalette::Window, mixed(base, text, enabled ? 0.75F : 0.4F));
+        palette.setColor(QPalette::Window, mixedColor(base, text, enabled ? 0.75F : 0.4F));
     if (!enabled) {
-        palette.setColor(QPalette::Base, mixed(base, text, 0.09F));
-        palette.setColor(QPalette::Text, mixed(base, text, 0.75F));
+        palette.setColor(QPalette::Base, mixedColor(base, text, 0.09F));
+        palette.setColor(QPalette::Text, mixedColor(base, text, 0.75F));
     }
     return palette;
 }

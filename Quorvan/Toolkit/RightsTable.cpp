@@ -11,16 +11,36 @@
 
 namespace quorvan {
 
+namespace {
+
+class LeftElidedDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideLeft;
+    }
+};
+
+} // namespace
+
 RightsTable::RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
                          QWidget* parent)
     : ListTable(new RightsTableModel(std::move(textColumns), std::move(rows)), parent)
     , model_(static_cast<RightsTableModel*>(model()))
     , boxes_(new RightsCheckBoxDelegate(this)) {
-    for (int column = 0; column < model_->columnCount(); ++column) {
-        const bool isBox = model_->right(column) != nullptr;
-        horizontalHeader()->setSectionResizeMode(column, isBox ? QHeaderView::Fixed : QHeaderView::Stretch);
-        if (isBox)
-            setItemDelegateForColumn(column, boxes_);
+    const int last = model_->textColumnCount() - 1;
+    for (int column = 0; column <= last; ++column) {
+        horizontalHeader()->setSectionResizeMode(column, column == last ? QHeaderView::Stretch
+                                                                        : QHeaderView::Interactive);
+        if (model_->textColumn(column).elide == Qt::ElideLeft)
+            setItemDelegateForColumn(column, new LeftElidedDelegate(this));
+    }
+    for (int column = last + 1; column < model_->columnCount(); ++column) {
+        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
+        setItemDelegateForColumn(column, boxes_);
     }
     viewport()->setMouseTracking(true);
     RightsTable::fitToFont();
@@ -34,6 +54,8 @@ void RightsTable::fitToFont() {
     verticalHeader()->setDefaultSectionSize(std::max(box.height(), fontMetrics().height() + 8));
     const int width = std::max(box.width(), fontMetrics().horizontalAdvance(QLatin1Char('W')) + 20);
     horizontalHeader()->setMinimumSectionSize(width);
+    for (int column = 0; column < model_->textColumnCount() - 1; ++column)
+        horizontalHeader()->resizeSection(column, 28 * fontMetrics().averageCharWidth());
     for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column)
         horizontalHeader()->resizeSection(column, width);
 }

@@ -34,6 +34,7 @@ public:
 struct RightsTextColumn {
     std::string identifier;
     QString header;
+    Qt::TextElideMode elide = Qt::ElideRight; ///< paths differ at their ends, and are cut off on the left
 };
 
 /// A rights check box in the moment in which the user has clicked it.
@@ -57,6 +58,9 @@ public:
     EnablingRule isEnabled; ///< which rights may be clicked; none without a rule
     ClickHandler onClick;   ///< puts a click into the rows; they are asked again afterwards
 
+    const RightsTextColumn& textColumn(int column) const {
+        return textColumns_[static_cast<std::size_t>(column)];
+    }
     int textColumnCount() const { return static_cast<int>(textColumns_.size()); }
     /// The right of a column; null for a text column.
     const RightsColumn* right(int column) const;

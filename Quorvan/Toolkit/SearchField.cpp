@@ -16,10 +16,12 @@ SearchField::SearchField(QWidget* list, QWidget* parent)
     setAccessibleName(L("Search_Placeholder_Label"));
     setToolTip(L("Search_Tip_Label"));
     auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
-    connect(find, &QShortcut::activated, this, [this] {
+    const auto takeFocus = [this] {
         setFocus(Qt::ShortcutFocusReason);
         selectAll();
-    });
+    };
+    connect(find, &QShortcut::activated, this, takeFocus);
+    connect(find, &QShortcut::activatedAmbiguously, this, takeFocus); // the fields of a window take turns
 }
 
 QSize SearchField::sizeHint() const {

@@ -21,8 +21,6 @@ public:
     /// Says how to create `identifier`, anew when it is known already.
     void add(const std::string& identifier, Factory factory) { factories_[identifier] = std::move(factory); }
 
-    bool knows(const std::string& identifier) const { return factories_.contains(identifier); }
-
     /// A new view without parent, for the caller to take; an unknown identifier is fatal.
     ViewController* instantiate(const std::string& identifier) const;
 

@@ -5,12 +5,21 @@
 
 namespace quorvan {
 
-QString TrusteeRows::text(int row, int /*textColumn*/) const {
-    return QString::fromStdString(at(row).trusteeName);
+QString ShowTrustee::text(const std::shared_ptr<Trustees>& trustee, int /*textColumn*/) {
+    return QString::fromStdString(trustee->trusteeName);
 }
 
-QIcon TrusteeRows::icon(int row, int /*textColumn*/) const {
-    return namedIcon(trusteeIconName(at(row).trusteeType));
+QIcon ShowTrustee::icon(const std::shared_ptr<Trustees>& trustee, int /*textColumn*/) {
+    return namedIcon(trusteeIconName(trustee->trusteeType));
+}
+
+QString ShowDirectoryRights::text(const DirectoryRights& entry, int textColumn) {
+    return textColumn == 0 ? ShowTrustee::text(entry.trustee, textColumn)
+                           : QString::fromStdString(entry.path);
+}
+
+QIcon ShowDirectoryRights::icon(const DirectoryRights& entry, int textColumn) {
+    return textColumn == 0 ? ShowTrustee::icon(entry.trustee, textColumn) : QIcon();
 }
 
 } // namespace quorvan

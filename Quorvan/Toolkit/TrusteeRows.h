@@ -10,23 +10,42 @@ inline const std::string& trusteeNameOf(const std::shared_ptr<Trustees>& trustee
     return trustee->trusteeName;
 }
 
-/// The rows of a list of trustees: one text column with name and icon.
-class TrusteeRows : public RightsRowSource {
+/// The rows of a view's list, which may change between reloads. `Show` says with static functions what a
+/// row looks like: text(row, textColumn), icon(row, textColumn), rights(row), object(row).
+template <class Row, class Show>
+class RowsOf : public RightsRowSource {
 public:
-    /// The list is the view's own and may change between reloads.
-    explicit TrusteeRows(const TrusteeList& trustees)
-        : trustees_(trustees) {}
+    explicit RowsOf(const std::vector<Row>& rows)
+        : rows_(rows) {}
 
-    int rowCount() const override { return static_cast<int>(trustees_.size()); }
-    QString text(int row, int textColumn) const override;
-    QIcon icon(int row, int textColumn) const override;
-    std::uint16_t rights(int row) const override { return at(row).rights; }
-    const void* object(int row) const override { return &at(row); }
+    int rowCount() const override { return static_cast<int>(rows_.size()); }
+    QString text(int row, int textColumn) const override { return Show::text(at(row), textColumn); }
+    QIcon icon(int row, int textColumn) const override { return Show::icon(at(row), textColumn); }
+    std::uint16_t rights(int row) const override { return Show::rights(at(row)); }
+    const void* object(int row) const override { return Show::object(at(row)); }
 
 private:
-    const Trustees& at(int row) const { return *trustees_[static_cast<std::size_t>(row)]; }
+    const Row& at(int row) const { return rows_[static_cast<std::size_t>(row)]; }
 
-    const TrusteeList& trustees_;
+    const std::vector<Row>& rows_;
 };
+
+/// A trustee: its name with an icon.
+struct ShowTrustee {
+    static QString text(const std::shared_ptr<Trustees>& trustee, int textColumn);
+    static QIcon icon(const std::shared_ptr<Trustees>& trustee, int textColumn);
+    static std::uint16_t rights(const std::shared_ptr<Trustees>& trustee) { return trustee->rights; }
+    static const void* object(const std::shared_ptr<Trustees>& trustee) { return trustee.get(); }
+};
+using TrusteeRows = RowsOf<std::shared_ptr<Trustees>, ShowTrustee>;
+
+/// A trustee on one of several paths.
+struct ShowDirectoryRights {
+    static QString text(const DirectoryRights& entry, int textColumn);
+    static QIcon icon(const DirectoryRights& entry, int textColumn);
+    static std::uint16_t rights(const DirectoryRights& entry) { return entry.trustee->rights; }
+    static const void* object(const DirectoryRights& entry) { return entry.trustee.get(); }
+};
+using DirectoryRightsRows = RowsOf<DirectoryRights, ShowDirectoryRights>;
 
 } // namespace quorvan

@@ -11,6 +11,9 @@ void showEverything(const Output& output);
 /// The part of that which is about attributes, owner and quotas.
 void showProperties(const Output& output);
 
+/// The tabs about inherited and effective rights and about folders, and the file-system rights.
+void showMoreRights(const Output& output);
+
 /// The pages that show most, for a look at another scale.
 void showMainPages(const Output& output);
 

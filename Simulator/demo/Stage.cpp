@@ -97,8 +97,8 @@ void Stage::type(const char* control, const char* text) {
     QApplication::processEvents();
 }
 
-void Stage::tick(int row, const char* right) {
-    auto* table = static_cast<RightsTable*>(find<QTableView>("rightsTable"));
+void Stage::tick(int row, const char* right, const char* tableName) {
+    auto* table = static_cast<RightsTable*>(find<QTableView>(tableName));
     table->setFocus();
     table->setCurrentIndex(table->box(row, right));
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ");
@@ -114,8 +114,8 @@ void Stage::choose(const char* popUp, const char* item) {
     QApplication::processEvents();
 }
 
-void Stage::select(std::initializer_list<int> rows) {
-    auto* list = find<QTableView>("userListTable");
+void Stage::select(std::initializer_list<int> rows, const char* listName) {
+    auto* list = find<QTableView>(listName);
     for (const int row : rows)
         list->selectionModel()->select(list->model()->index(row, 0),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);

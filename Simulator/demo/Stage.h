@@ -39,9 +39,11 @@ public:
     void launch() { delegate_.launch(); }
     void press(const char* control);                  ///< clicks a button, by its outlet
     void type(const char* control, const char* text); ///< into a text field
-    void tick(int row, const char* right);            ///< a box of the trustee table
+    /// Clicks a box of a rights table.
+    void tick(int row, const char* right, const char* tableName = "rightsTable");
     void choose(const char* popUp, const char* item); ///< an item of a pop-up
-    void select(std::initializer_list<int> rows);     ///< of the list of an identity browser
+    /// Selects rows of a list; of an identity browser when none is named.
+    void select(std::initializer_list<int> rows, const char* listName = "userListTable");
     QWidget* window() const;
     /// The sheet that is open over the window, or the window itself.
     QWidget* front() const;

@@ -118,11 +118,8 @@ TEST_F(MainWindowTest, AsksWhoIsLoggedInBeforeItOpens) {
     EXPECT_EQ(page.managedServer->text(), "on files.meridal.example");
     EXPECT_TRUE(page.TrusteeRightsView->isEnabled());
     EXPECT_TRUE(page.TrusteeRightsView->hasFocus());
-    for (const MenuEntry* follows : {page.FileSystemRightsView}) {
-        EXPECT_TRUE(follows->isVisible());
-        EXPECT_FALSE(follows->isEnabled());
-        EXPECT_EQ(follows->toolTip(), "Page_Follows_Label");
-    }
+    for (const MenuEntry* entry : {page.FileSystemRightsView, page.UserQuotaView, page.DirectoryQuotaView})
+        EXPECT_TRUE(entry->isEnabled());
 }
 
 TEST_F(MainWindowTest, OpensWithoutAnAnswerAndAsksAgainOnRequest) {
@@ -183,10 +180,9 @@ TEST_F(MainWindowTest, LeadsToTheTrusteesAndBackAskingAnew) {
 
     const std::size_t loads = requestsTo("/FilesCmdPipe");
     tabs.tabView->setCurrentIndex(ViewTabController::effectiveTabLabel);
-    EXPECT_EQ(tabs.childControllers()[2]->findChild<QLabel*>("followsLabel")->text(), "Tab_Follows_Label");
-    EXPECT_EQ(requestsTo("/FilesCmdPipe"), loads);
+    EXPECT_EQ(requestsTo("/FilesCmdPipe"), loads + 2) << "the user's own rights, and those of all trustees";
     tabs.tabView->setCurrentIndex(ViewTabController::rightsTabLabel);
-    EXPECT_EQ(requestsTo("/FilesCmdPipe"), 2 * loads) << "each visit to the tab loads anew";
+    EXPECT_EQ(requestsTo("/FilesCmdPipe"), 2 * loads + 2) << "each visit to the tab loads anew";
 
     defaults()["loggedUserType"] = "Morvane";
     const QPointer<QWidget> left = &frame;

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Modal/FileItem.h"
+
+#include "Common/Log.h"
+#include "Platform/PercentEscapes.h"
+#include "Platform/Services.h"
+
+#include <string_view>
+
+namespace quorvan {
+
+namespace {
+constexpr std::string_view fileScheme = "file://";
+}
+
+FileItem::FileItem(const std::string& path, bool isFolder)
+    : fileUrl(std::string(fileScheme) + platform::percentEscaped(path) + (isFolder ? "/" : "")) {}
+
+std::string FileItem::path() const {
+    std::string path = platform::percentUnescaped(std::string_view(fileUrl).substr(fileScheme.size()));
+    if (path.ends_with('/'))
+        path.pop_back();
+    return path;
+}
+
+std::string FileItem::lastPathComponent() const {
+    const std::string whole = path();
+    return whole.substr(whole.rfind('/') + 1);
+}
+
+std::vector<FileItem> FileItem::computeChildren() const {
+    platform::LocalVolumes& volumes = *platform::services().volumes;
+    const std::string folder = path();
+    const auto kind = volumes.kindOf(folder);
+    if (kind != platform::LocalVolumes::Kind::folder)
+        return {};
+    const platform::LocalListing listing = volumes.list(folder);
+    if (!listing.error.empty())
+        Log("%@", listing.error);
+    std::vector<FileItem> children;
+    children.reserve(listing.entries.size());
+    for (const platform::LocalEntry& entry : listing.entries)
+        children.emplace_back(folder + "/" + entry.name, entry.isFolder);
+    return children;
+}
+
+bool FileItem::isExpandable() const {
+    return isFolder() && platform::services().volumes->hasEntries(path());
+}
+
+} // namespace quorvan

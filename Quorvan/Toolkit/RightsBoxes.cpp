@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/RightsBoxes.h"
+
+#include "Common/Fatal.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/ReadOnlyPalette.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+
+namespace quorvan {
+
+RightsBoxes::RightsBoxes(int columns, QWidget* parent)
+    : QWidget(parent) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(3 * fontMetrics().averageCharWidth());
+    for (std::size_t right = 0; right < boxes_.size(); ++right) {
+        boxes_[right] = new QCheckBox(plainL(rightsColumns[right].nameKey), this);
+        const int place = static_cast<int>(right);
+        grid->addWidget(boxes_[right], place / columns, place % columns);
+    }
+    grid->setColumnStretch(columns, 1);
+    keepLegibleWhenDisabled(*this);
+}
+
+QCheckBox* RightsBoxes::box(std::uint16_t bit) const {
+    for (std::size_t right = 0; right < boxes_.size(); ++right)
+        if (rightsColumns[right].bit == bit)
+            return boxes_[right];
+    fatal("No right with the bit %d", bit);
+}
+
+std::uint16_t RightsBoxes::bitOf(const QCheckBox* box) const {
+    for (std::size_t right = 0; right < boxes_.size(); ++right)
+        if (boxes_[right] == box)
+            return rightsColumns[right].bit;
+    fatal("Not one of the eight rights was clicked");
+}
+
+void RightsBoxes::setRights(std::uint16_t mask) {
+    for (std::size_t right = 0; right < boxes_.size(); ++right)
+        boxes_[right]->setChecked((mask & rightsColumns[right].bit) != 0);
+}
+
+void RightsBoxes::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        keepLegibleWhenDisabled(*this);
+}
+
+} // namespace quorvan

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Quorvan/Toolkit/RightsColumns.h"
+
+#include <QWidget>
+
+#include <array>
+#include <cstdint>
+
+class QCheckBox;
+
+namespace quorvan {
+
+/// A rights mask as eight check boxes with the rights' names, row by row in the order of the tables'
+/// columns. Disabled boxes stay legible.
+class RightsBoxes : public QWidget {
+public:
+    explicit RightsBoxes(int columns, QWidget* parent = nullptr);
+
+    QCheckBox* box(std::uint16_t bit) const;
+    std::uint16_t bitOf(const QCheckBox* box) const;
+
+    /// Ticks each box whose bit is set.
+    void setRights(std::uint16_t mask);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    std::array<QCheckBox*, rightsColumns.size()> boxes_{};
+};
+
+} // namespace quorvan
