@@ -27,48 +27,48 @@ void showAttributes(const Output& output) {
     {
         Stage stage(output, Embedded::demo(account::supervisor, account::compressedFile));
         openInformation(stage);
-        stage.photograph("60-file-attributes", "the attributes of a compressed file, which has no quota");
+        stage.photograph("25-file-attributes", "the attributes of a compressed file, which has no quota");
         stage.find<QAbstractButton>("readChk")->click();
-        stage.photograph("61-read-only", "read only implies two others");
+        stage.photograph("26-read-only", "read only implies two others");
     }
     {
         Stage stage(output, Embedded::demo(account::supervisor, account::fileOfNobody));
         openInformation(stage);
-        stage.photograph("62-owner-gone", "a file whose owner is gone");
+        stage.photograph("27-owner-gone", "a file whose owner is gone");
     }
     Stage stage(output, Embedded::demo(account::readOnly));
     openInformation(stage);
-    stage.photograph("63-information-read-only", "without Supervisor: owner and limit cannot be changed");
+    stage.photograph("28-information-read-only", "without Supervisor: owner and limit cannot be changed");
 }
 
 void showDirectoryQuota(const Output& output) {
     {
         Stage stage(output, Embedded::demo());
         openInformation(stage);
-        stage.photograph("64-folder-attributes", "the attributes of a folder");
+        stage.photograph("29-folder-attributes", "the attributes of a folder");
         showQuota(stage);
-        stage.photograph("65-directory-quota", "a folder with a limit");
+        stage.photograph("30-directory-quota", "a folder with a limit");
         stage.press("editLimitBtn");
-        stage.photograph("66-limit-edited", "its limit can be typed");
+        stage.photograph("31-limit-edited", "its limit can be typed");
         stage.type("dirQuotaLimit", "1.5");
-        stage.expectDialog("67-invalid-limit", "the sheet after Apply with a limit that is none");
+        stage.expectDialog("32-invalid-limit", "the sheet after Apply with a limit that is none");
         stage.press("applyButton");
-        stage.photograph("68-limit-as-before", "the limit as it was");
+        stage.photograph("33-limit-as-before", "the limit as it was");
         stage.press("removeLimitBtn");
-        stage.photograph("69-limit-removed", "the limit is to be removed");
+        stage.photograph("34-limit-removed", "the limit is to be removed");
         stage.press("applyButton");
-        stage.photograph("70-unlimited", "the limit after that");
+        stage.photograph("35-unlimited", "the limit after that");
     }
     {
         Stage stage(output, Embedded::demo(account::supervisorTree, "VOL1:\\Public\\Briefkasten"));
         openInformation(stage);
         showQuota(stage);
-        stage.photograph("71-over-the-limit", "a folder over its limit, seen by a user of the tree");
+        stage.photograph("36-over-the-limit", "a folder over its limit, seen by a user of the tree");
     }
     Stage stage(output, Embedded::demo(account::supervisor, account::folderWithoutQuota));
     openInformation(stage);
     showQuota(stage);
-    stage.photograph("72-quota-not-set", "a folder whose quota nobody has set");
+    stage.photograph("37-quota-not-set", "a folder whose quota nobody has set");
 }
 
 void selectUsers(Stage& stage, std::initializer_list<int> rows) {
@@ -87,52 +87,52 @@ void showUserQuotas(const Output& output) {
     {
         Stage stage(output, Embedded::demo());
         openUserQuotas(stage);
-        stage.photograph("50-user-quotas", "the users with a quota on the volume; some are over it");
+        stage.photograph("80-user-quotas", "the users with a quota on the volume; some are over it");
         stage.type("searchField", "m*a");
-        stage.photograph("51-user-quotas-searched", "names that match a pattern");
+        stage.photograph("81-user-quotas-searched", "names that match a pattern");
         stage.type("searchField", "");
         selectUsers(stage, {1, 2, 4});
         stage.press("editUQButton");
         stage.type("quotaLimitTextField", "25");
-        stage.photograph("52-edit-user-quotas", "another limit for three users");
+        stage.photograph("82-edit-user-quotas", "another limit for three users");
         stage.type("quotaLimitTextField", "10 GB");
-        stage.expectDialog("53-edit-invalid-limit", "the sheet after OK with a limit that is none");
+        stage.expectDialog("83-edit-invalid-limit", "the sheet after OK with a limit that is none");
         stage.press("okBtn");
         stage.type("quotaLimitTextField", "25");
         stage.press("okBtn");
-        stage.photograph("54-user-quotas-edited", "those that were edited come first");
+        stage.photograph("84-user-quotas-edited", "those that were edited come first");
         selectUsers(stage, {0});
         stage.press("removeUQButton");
         stage.press("applyButton");
-        stage.photograph("55-user-quotas-applied", "one removed, and all of it sent");
+        stage.photograph("85-user-quotas-applied", "one removed, and all of it sent");
         stage.press("addUQButton");
-        stage.photograph("56-add-user-quotas", "the dialog for new users, before any are chosen");
+        stage.photograph("86-add-user-quotas", "the dialog for new users, before any are chosen");
         stage.press("cancelBtn");
     }
     {
         Stage stage(output, Embedded::demo(account::readOnlyTree));
         openUserQuotas(stage);
-        stage.photograph("57-user-quotas-read-only", "the tree's users, for reading only");
+        stage.photograph("87-user-quotas-read-only", "the tree's users, for reading only");
     }
     Stage stage(output, Embedded::demo());
     stage.world.server->misbehaviour.onlyPipe = "/Manage_KELP/user.cmd";
     stage.world.server->misbehaviour.openError = EACCES;
-    stage.expectDialog("58-alert-quotas-failed", "the alert when the quotas cannot be read");
+    stage.expectDialog("88-alert-quotas-failed", "the alert when the quotas cannot be read");
     openUserQuotas(stage);
-    stage.photograph("59-no-user-quotas", "… and the page then");
+    stage.photograph("89-no-user-quotas", "… and the page then");
 }
 
 void showDeletedFiles(const Output& output) {
     Stage stage(output, Embedded::demo());
     stage.launch();
     stage.press("SalvageView");
-    stage.photograph("73-salvage", "the page for salvaging, which says that it cannot");
+    stage.photograph("38-salvage", "the page for salvaging, which says that it cannot");
     stage.press("moreInfoButton");
-    stage.photograph("74-more-information", "the sheet that says more");
+    stage.photograph("39-more-information", "the sheet that says more");
     stage.press("cancelButton");
     stage.press("closeButton");
     stage.press("PurgeView");
-    stage.photograph("75-purge", "the page for purging");
+    stage.photograph("40-purge", "the page for purging");
 }
 
 } // namespace
@@ -142,6 +142,27 @@ void showProperties(const Output& output) {
     showAttributes(output);
     showDirectoryQuota(output);
     showDeletedFiles(output);
+}
+
+void showMainProperties(const Output& output) {
+    Stage stage(output, Embedded::demo());
+    openInformation(stage);
+    stage.photograph("29-folder-attributes", "the attributes of a folder");
+    showQuota(stage);
+    stage.press("editLimitBtn");
+    stage.photograph("31-limit-edited", "its limit can be typed");
+    stage.press("closeButton");
+    stage.press("UserQuotaView");
+    stage.photograph("80-user-quotas", "the users with a quota on the volume");
+    selectUsers(stage, {1, 2, 4});
+    stage.press("editUQButton");
+    stage.photograph("82-edit-user-quotas", "another limit for three users");
+    stage.press("cancelBtn");
+    stage.press("closeButton");
+    stage.press("SalvageView");
+    stage.press("moreInfoButton");
+    stage.photograph("39-more-information", "the sheet about deleted files");
+    stage.press("cancelButton");
 }
 
 } // namespace quorvan::demo

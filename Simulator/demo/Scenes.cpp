@@ -211,17 +211,20 @@ void showEverything(const Output& output) {
 }
 
 void showMainPages(const Output& output) {
-    Stage stage(output, Embedded::demo());
-    stage.launch();
-    stage.photograph("01-options", "the options page");
-    stage.press("TrusteeRightsView");
-    stage.tick(2, "W");
-    stage.photograph("02-trustees", "the trustee table, edited");
-    stage.press("addBtn");
-    stage.choose("userTypePopUp", "Users");
-    stage.choose("domainPopUp", "/Active Directory/NORDHAVN");
-    stage.press("btnFetch");
-    stage.photograph("61-browse-ad-fetched", "the Active Directory browser");
+    {
+        Stage stage(output, Embedded::demo());
+        stage.launch();
+        stage.photograph("01-options", "the options page");
+        stage.press("TrusteeRightsView");
+        stage.tick(2, "W");
+        stage.photograph("02-trustees", "the trustee table, edited");
+        stage.press("addBtn");
+        stage.choose("userTypePopUp", "Users");
+        stage.choose("domainPopUp", "/Active Directory/NORDHAVN");
+        stage.press("btnFetch");
+        stage.photograph("61-browse-ad-fetched", "the Active Directory browser");
+    }
+    showMainProperties(output);
 }
 
 } // namespace quorvan::demo

@@ -10,6 +10,7 @@ void showEverything(const Output& output);
 
 /// The part of that which is about attributes, owner and quotas.
 void showProperties(const Output& output);
+void showMainProperties(const Output& output); ///< for a look at another scale
 
 /// The tabs about inherited and effective rights and about folders, and the file-system rights.
 void showMoreRights(const Output& output);
