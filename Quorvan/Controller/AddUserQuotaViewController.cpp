@@ -148,13 +148,13 @@ void AddUserQuotaViewController::add(const std::vector<std::string>& names,
         if (user->SID)
             listed.insert(*user->SID);
     bool isDuplicate = false;
-    for (std::size_t at = 0; at < ids.size(); ++at) {
+    for (std::size_t at = 0; at < ids.size() && at < names.size(); ++at) {
         if (!listed.insert(ids[at]).second) {
             isDuplicate = true;
             continue;
         }
         auto user = std::make_shared<UserQuotaData>();
-        user->displayName = names.at(at);
+        user->displayName = names[at];
         user->SID = ids[at];
         user->action = UserQuotaConstants::Actions::ADD;
         user->domainIdentity = domainIdentity;

@@ -210,7 +210,7 @@ bool InformationViewController::onReturnMorvaneSelectedUser(const std::vector<Us
 bool InformationViewController::onReturnSelectedUser(const std::vector<std::string>& names,
                                                      const std::vector<std::string>& ids,
                                                      const std::string& /*category*/) {
-    if (!ids.empty())
+    if (!ids.empty() && !names.empty())
         takeOwner(names.front(), ids.front());
     return true;
 }

@@ -35,7 +35,7 @@ void UserQuotaViewController::buildControls() {
     QHeaderView* header = userQuotaTable->horizontalHeader();
     header->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int column = 1; column < rows->columnCount(); ++column)
-        header->resizeSection(column, 16 * fontMetrics().averageCharWidth());
+        header->resizeSection(column, 12 * fontMetrics().averageCharWidth());
     searchField = outlet(new SearchField(userQuotaTable, this), "searchField");
     addUQButton = outlet(new QPushButton(L("Add_title"), this), "addUQButton");
     editUQButton = outlet(new QPushButton(L("Edit_title"), this), "editUQButton");

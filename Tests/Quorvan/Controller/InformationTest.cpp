@@ -136,6 +136,28 @@ TEST_F(InformationTest, ChangesTheOwnerThroughEitherDirectory) {
     EXPECT_TRUE(view->editLimitBtn->isEnabled());
 }
 
+TEST_F(InformationTest, TakesTheOwnerFromTheSheetsOfEitherDirectory) {
+    fillMainStoryboard();
+    Shared::value().bothID = true;
+    openView(demo::fileOfNobody);
+    for (const auto& [choice, place] :
+         {std::pair("MorvaneBtn", ".OU=Verlag.O=Meridal."), {"ADBtn", "/Active Directory/MERIDAL"}}) {
+        click(view->changeOwnerButton);
+        click(front<QRadioButton>(choice));
+        click(front<QPushButton>("OkBtn"));
+        pickUsers(place, {1});
+        const std::string name = view->ownerField->text().toStdString();
+        EXPECT_NE(name, "");
+        click(view->applyButton);
+        const simulator::Identity* owner = world.identities->findById(node(demo::fileOfNobody).owner);
+        ASSERT_NE(owner, nullptr) << place;
+        EXPECT_EQ(view->ownerField->text().toStdString(), owner->name);
+        EXPECT_THAT(name, testing::HasSubstr(owner->name));
+        EXPECT_TRUE(view->ownerIcon->isVisible());
+    }
+    EXPECT_THAT(alerts(), IsEmpty());
+}
+
 TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
     EXPECT_THAT((std::vector<QString>{byteCount(0), byteCount(1023), byteCount(1536), byteCount(-18874368),
                                       byteCount(std::int64_t{2} << 40), byteCount((1 << 30) - 1),

@@ -2,11 +2,17 @@
 #pragma once
 
 #include "Quorvan/Controller/IdentityBrowsers.h"
+#include "Quorvan/Controller/MainStoryboard.h"
 #include "Quorvan/Controller/Shared.h"
 #include "Tests/Quorvan/Controller/RightsTabFixture.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QMessageBox>
+#include <QRadioButton>
+#include <QTableView>
+
+#include <stdexcept>
 
 namespace quorvan::test {
 
@@ -87,6 +93,31 @@ struct PropertyFixture : testing::Test {
     }
     static void closeBrowser(const QWidget* view) {
         browser(view).endSheet();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    /// A control of the sheet in front.
+    template <class Control>
+    static Control* front(const char* name) {
+        const QWidget* sheet = QApplication::activeModalWidget();
+        Control* control = sheet != nullptr ? sheet->findChild<Control*>(name) : nullptr;
+        if (control == nullptr)
+            throw std::runtime_error(std::string("there is no ") + name);
+        return control;
+    }
+    /// Picks rows of the real browser in front: of the tree's users below `place`, or of those of a domain.
+    static void pickUsers(const char* place, std::initializer_list<int> rows) {
+        choose(front<QComboBox>("userTypePopUp"), 0);
+        if (*place == '.')
+            type(front<QLineEdit>("treeTextField"), place);
+        else
+            while (front<QComboBox>("domainPopUp")->currentText() != place)
+                QTest::keyClick(front<QComboBox>("domainPopUp"), Qt::Key_Down);
+        click(front<QPushButton>("btnFetch"));
+        auto* list = front<QTableView>("userListTable");
+        for (const int row : rows)
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                              list->visualRect(list->model()->index(row, 0)).center());
+        click(front<QPushButton>("selectButton"));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     std::vector<std::string> alerts() {

@@ -79,12 +79,6 @@ struct UserQuotaTest : PropertyFixture {
         enterLimit(limit);
         EXPECT_FALSE(dialogIsOpen());
     }
-    void pick(const std::vector<std::string>& ids) {
-        click(dialog().selectTrusteeBtn);
-        EXPECT_TRUE(browser(view).wish.isMultipleSel);
-        browser(view).delegate->onReturnSelectedUser(ids, ids, "Users");
-        closeBrowser(view);
-    }
     bool changesEnabled() const {
         EXPECT_EQ(view->applyButton->isEnabled(), view->revert->isEnabled());
         return view->applyButton->isEnabled();
@@ -268,6 +262,28 @@ TEST_F(UserQuotaTest, PicksFromEitherDirectory) {
     click(view->addUQButton);
     click(dialog().selectTrusteeBtn);
     EXPECT_EQ(browser(view).objectName(), "oldViewBrowseAD");
+}
+
+TEST_F(UserQuotaTest, TakesUsersFromTheSheetsOfEitherDirectory) {
+    fillMainStoryboard();
+    Shared::value().bothID = true;
+    openViewOfDirectory();
+    click(view->addUQButton);
+    for (const auto& [choice, place] :
+         {std::pair("MorvaneBtn", ".OU=Verlag.O=Meridal."), {"ADBtn", "/Active Directory/MERIDAL"}}) {
+        click(dialog().selectTrusteeBtn);
+        click(front<QRadioButton>(choice));
+        click(front<QPushButton>("OkBtn"));
+        pickUsers(place, {0, 1});
+    }
+    ASSERT_THAT(dialog().users, SizeIs(4));
+    const std::string tree = *dialog().users[0]->SID;
+    const std::string domain = *dialog().users[3]->SID;
+    enterLimit("9");
+    click(view->applyButton);
+    EXPECT_THAT(alerts(), IsEmpty());
+    EXPECT_EQ(onServer(tree), 9 * gigabyte);
+    EXPECT_EQ(onServer(domain), 9 * gigabyte);
 }
 
 TEST_F(UserQuotaTest, SendsThreeHundredAtATime) {
