@@ -146,9 +146,9 @@ TEST(QtWaitCursor, StaysUntilTheOutermostEnd) {
 }
 
 TEST(Icons, AreDrawnAtEverySize) {
-    for (const char* name :
-         {"user", "group", "user_Morvane", "group_Morvane", "quorvan", "tab_follows", "page_trustee_rights",
-          "page_file_system_rights", "page_user_quota", "page_information", "page_settings"})
+    for (const char* name : {"user", "group", "user_Morvane", "group_Morvane", "quorvan", "page_salvage",
+                             "page_purge", "page_trustee_rights", "page_file_system_rights",
+                             "page_user_quota", "page_information", "page_settings"})
         for (const int size : {16, 96}) {
             const QIcon icon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(name)));
             const QImage image = icon.pixmap(size, size).toImage();
