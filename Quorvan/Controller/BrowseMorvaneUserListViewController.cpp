@@ -113,7 +113,7 @@ void BrowseMorvaneUserListViewController::onChangeUserType(QObject* sender) {
     if (popUp->property("identifier") == "idUserType")
         currUserType = category;
     fetched_ = false;
-    clearSearchField();
+    searchField->clear();
     forgetRows();
 }
 

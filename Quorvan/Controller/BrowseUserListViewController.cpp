@@ -74,7 +74,7 @@ void BrowseUserListViewController::onChangeDomainPopUp(QObject* sender) {
     btnFetch->setEnabled(true);
     searchField->setEnabled(isPlaceChosen());
     fetched_ = false;
-    clearSearchField();
+    searchField->clear();
     forgetRows();
 }
 

@@ -92,18 +92,10 @@ void IdentityBrowserSheet::reload() {
 
 void IdentityBrowserSheet::searchTextChanged() {
     searchDelay_.stop();
-    if (isClearing_)
-        return;
     if (searchDelay_.interval() == 0 || searchField->text().isEmpty())
         onSearch(searchField);
     else
         searchDelay_.start();
-}
-
-void IdentityBrowserSheet::clearSearchField() {
-    isClearing_ = true;
-    searchField->clear();
-    isClearing_ = false;
 }
 
 /// The dialog around this view would take Return in a text field for Select.

@@ -60,8 +60,6 @@ protected:
     /// Waits for the user to stop typing before a search, which otherwise follows each letter.
     void setSearchIsSlow() { searchDelay_.setInterval(300); }
     std::vector<int> selectedRowIndexes() const; ///< ascending
-    /// Empties the search field without a search.
-    void clearSearchField();
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -69,7 +67,6 @@ private:
     void searchTextChanged();
 
     QTimer searchDelay_;
-    bool isClearing_ = false;
 };
 
 /// A sheet that lists what was fetched from a place that the user names, one category at a time.
