@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Simulator/Conversation.h"
 #include "Simulator/DemoData.h"
 #include "Simulator/SocketServer.h"
 #include "Tests/Simulator/SmallServer.h"
@@ -9,7 +10,6 @@
 #include <thread>
 
 #include <arpa/inet.h>
-#include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -18,93 +18,40 @@ namespace {
 
 using testing::HasSubstr;
 
-/// One connection to the server.
-class Client {
-public:
-    explicit Client(std::uint16_t port)
-        : socket_(::socket(AF_INET, SOCK_STREAM, 0)) {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(port);
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        EXPECT_EQ(::connect(socket_, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    }
-    ~Client() { ::close(socket_); }
-    Client(const Client&) = delete;
-    Client& operator=(const Client&) = delete;
-
-    /// The payload, or the line itself when it is no "ok"; "hung up" when there is none. Words are
-    /// written with "|" for the tab.
-    std::string ask(std::string line, const std::string& payload = {}) {
-        std::replace(line.begin(), line.end(), '|', '\t');
-        send(line + "\n" + payload);
-        return answer();
-    }
-
-    void send(const std::string& bytes) { ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL); }
-
-    std::string answer() {
-        std::string line;
-        for (char c = 0; c != '\n'; line += c) {
-            if (::recv(socket_, &c, 1, 0) != 1)
-                return "hung up";
-        }
-        if (line.compare(0, 3, "ok ") != 0)
-            return line;
-        std::string payload(std::stoul(line.substr(3)), '\0');
-        if (!payload.empty())
-            ::recv(socket_, payload.data(), payload.size(), MSG_WAITALL);
-        return payload;
-    }
-
-    std::string write(const std::string& bytes, std::size_t offset = 0) {
-        return ask("write|" + std::to_string(offset) + "|" + std::to_string(bytes.size()), bytes);
-    }
-
-private:
-    int socket_;
-};
-
-struct Served {
-    KelpServer server;
-    std::atomic<bool> quit = false;
-    SocketServer sockets{server, [this] { quit = true; }};
-    Served() {
-        addDemoData(server);
-        EXPECT_TRUE(sockets.start());
-    }
-};
-
 class Protocol : public testing::Test {
 protected:
-    Protocol() {
-        addDemoData(server);
-        EXPECT_TRUE(sockets.start());
-        client.emplace(sockets.port());
-    }
+    Protocol() { addDemoData(server); }
 
+    /// The payload, the failure, or "hung up". Words are written with "|" for the tab.
+    static std::string ask(Conversation& client, std::string line, const std::string& payload = "") {
+        std::replace(line.begin(), line.end(), '|', '\t');
+        const ProtocolAnswer answer = client.handle(line, payload);
+        if (answer.hangUp)
+            return "hung up";
+        return answer.error == 0 ? answer.payload : Conversation::format(answer);
+    }
     void expect(const std::vector<std::pair<std::string, const char*>>& conversation) {
         for (const auto& [line, answer] : conversation)
-            EXPECT_EQ(client->ask(line), answer) << line;
+            EXPECT_EQ(ask(client, line), answer) << line;
     }
 
     KelpServer server;
-    std::atomic<bool> quit = false;
-    SocketServer sockets{server, [this] { quit = true; }};
-    std::optional<Client> client;
+    bool quit = false;
+    ConversationHost host{server, [this] { quit = true; }};
+    Conversation client{host};
 };
 
 TEST_F(Protocol, CarriesRequestsAndRepliesOfSeveralPipes) {
-    Client second(sockets.port());
-    EXPECT_EQ(client->ask("open|rvogt|ipc$|\\ZelSmbPipe"), "");
-    EXPECT_EQ(second.ask("open|ingrid.holm|_admin|Manage_KELP\\user.cmd"), "");
-    EXPECT_EQ(second.ask("open|ingrid.holm|IPC$|ZelSmbPipe"), ""); // takes the place of the other
-    EXPECT_EQ(client->write(userTypeRequest.substr(0, 20)), "");
-    EXPECT_EQ(second.write(userTypeRequest), "");
-    EXPECT_EQ(client->write(userTypeRequest.substr(20), 20), "");
-    EXPECT_THAT(second.ask("read|4096"), HasSubstr("<userType>ActiveDirectory<"));
-    EXPECT_EQ(client->ask("read|10"), "<zelSmbGet");
-    EXPECT_THAT(client->ask("read|4096"), HasSubstr("<userType>Morvane<"));
+    Conversation second(host);
+    EXPECT_EQ(ask(client, "open|rvogt|ipc$|\\ZelSmbPipe"), "");
+    EXPECT_EQ(ask(second, "open|ingrid.holm|_admin|Manage_KELP\\user.cmd"), "");
+    EXPECT_EQ(ask(second, "open|ingrid.holm|IPC$|ZelSmbPipe"), ""); // takes the place of the other
+    EXPECT_EQ(ask(client, "write|0|20", userTypeRequest.substr(0, 20)), "");
+    EXPECT_EQ(ask(second, "write|0|42", userTypeRequest), "");
+    EXPECT_EQ(ask(client, "write|20|22", userTypeRequest.substr(20)), "");
+    EXPECT_THAT(ask(second, "read|4096"), HasSubstr("<userType>ActiveDirectory<"));
+    EXPECT_EQ(ask(client, "read|10"), "<zelSmbGet");
+    EXPECT_THAT(ask(client, "read|4096"), HasSubstr("<userType>Morvane<"));
     expect({{"read|4096", ""}, {"close", ""}, {"close", "error 9\n"}, {"requests", "2"}});
 }
 
@@ -135,21 +82,18 @@ TEST_F(Protocol, ShowsAndChangesTheModelAndRefusesWhatItDoesNotKnow) {
             {"set-trustee|no path|S-0|1", "error 22\n"},
             {"set-filter|VOL1:\\|65536", "error 22\n"},
             {"set-attributes|VOL1:\\|visible", "error 22\n"},
-            {"misbehave|delay|soon", "error 22\n"}});
-    EXPECT_THAT(client->ask("user-quotas|VOL1"), HasSubstr(sid + "\t5\t7\tlea.fournier\n"));
-    EXPECT_THAT(client->ask("accounts"), HasSubstr("rvogt\tkelp\tMorvane\n"));
-    expect({{"quit", ""}, {"write|0|18446744073709551615", "hung up"}});
+            {"misbehave|delay|soon", "error 22\n"},
+            {"quit", ""}});
+    EXPECT_THAT(ask(client, "user-quotas|VOL1"), HasSubstr(sid + "\t5\t7\tlea.fournier\n"));
+    EXPECT_THAT(ask(client, "accounts"), HasSubstr("rvogt\tkelp\tMorvane\n"));
     EXPECT_TRUE(quit);
-    Client endless(sockets.port());
-    endless.send(std::string(200000, 'x'));
-    EXPECT_EQ(endless.answer(), "hung up");
 }
 
 TEST_F(Protocol, Misbehaves) {
-    for (const char* line :
+    for (const char* field :
          {"openError|5", "mountError|17", "onlyPipe|/FilesCmdPipe", "code|77", "garbage|<x",
           "replyMegabytes|2", "cutAfter|1", "dropAfter|2", "delay|3", "passingReadErrors|4"})
-        EXPECT_EQ(client->ask(std::string("misbehave|") + line), "") << line;
+        EXPECT_EQ(ask(client, std::string("misbehave|") + field), "") << field;
     const Misbehaviour& wrong = server.misbehaviour;
     EXPECT_EQ(wrong.code, 77);
     EXPECT_EQ(wrong.garbage, "<x");
@@ -164,28 +108,52 @@ TEST_F(Protocol, Misbehaves) {
             {"misbehave|delay|1", ""},
             {"misbehave|passingReadErrors|1", ""},
             {"misbehave|dropAfter|9", ""}});
-    client->write("anything");
+    ask(client, "write|0|8", "anything");
     expect({{"read|99", "error 4\n"}, {"read|99", "<adminRep"}, {"read|99", "hung up"}});
 }
 
+int connectTo(std::uint16_t port) {
+    sockaddr_in address{AF_INET, htons(port), {htonl(INADDR_LOOPBACK)}, {}};
+    const int descriptor = ::socket(AF_INET, SOCK_STREAM, 0);
+    EXPECT_EQ(::connect(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    return descriptor;
+}
+
+/// All that comes back before the server hangs up.
+std::string answersTo(std::uint16_t port, const std::string& lines) {
+    const int descriptor = connectTo(port);
+    ::send(descriptor, lines.data(), lines.size(), MSG_NOSIGNAL);
+    ::shutdown(descriptor, SHUT_WR);
+    std::string answers;
+    for (char c = 0; ::recv(descriptor, &c, 1, 0) == 1;)
+        answers += c;
+    ::close(descriptor);
+    return answers;
+}
+
 TEST_F(Protocol, ServesManyConnectionsAtOnce) {
+    SocketServer sockets(server, [] {});
+    ASSERT_TRUE(sockets.start());
+    const int idle = connectTo(sockets.port());
+    const std::string lines =
+        "open\trvogt\tIPC$\tZelSmbPipe\nwrite\t0\t42\n" + userTypeRequest + "read\t10\nnonsense\n";
     std::atomic<int> answered = 0;
     std::vector<std::thread> threads;
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&] {
-            for (int j = 0; j < 20; ++j) {
-                Client each(sockets.port());
-                each.ask("open|rvogt|IPC$|ZelSmbPipe");
-                each.write(userTypeRequest);
-                answered += each.ask("read|4096").find("Morvane") != std::string::npos ? 1 : 0;
-            }
+            for (int j = 0; j < 20; ++j)
+                answered += answersTo(sockets.port(), lines) == "ok 0\nok 0\nok 10\n<zelSmbGeterror 22\n";
         });
     }
     for (std::thread& each : threads)
         each.join();
     EXPECT_EQ(answered, 160);
+    EXPECT_EQ(answersTo(sockets.port(), "write\t0\t18446744073709551615\n"), "");
+    EXPECT_EQ(answersTo(sockets.port(), std::string(200000, 'x')), "");
     sockets.stop();
-    EXPECT_EQ(client->ask("requests"), "hung up");
+    char byte = 0;
+    EXPECT_EQ(::recv(idle, &byte, 1, 0), 0) << "hung up";
+    ::close(idle);
 }
 
 } // namespace

@@ -144,15 +144,12 @@ TEST(Strictness, RefusesOtherContents) {
         {trustees, "\\Dir\\Sub<", "\\Dir<"},            // another path without the doubled prefix
         {trustees, "\\Dir\\Sub<", "\\Dir\\\xC3<"},      // ill-formed UTF-8
         {trustees, "<adminRequest>", "<?xml version=\"1.0\"?><adminRequest>"},
-        {trustees, "</adminRequest>", "</adminRequest>\n"},
-        {trustees, trustees, ""},
         {trustees, "<trustees>",
          "<trustees><modifyInheritedRightsFilter><fileName>VOL1:\\Dir\\Sub</fileName>"
          "<symLink/><inheritedRightsFilter/></modifyInheritedRightsFilter>"},
         {filter, commandStream, commandStream + commandStream},
         {owner, " type = ", " type="},
         {getOwner, "<idInfo/>", "<rightsInfo/>"},
-        {getOwner, "\\Dir\\Sub<", "\\Dir\\Su\u0301b<"},
         {effective, commandStream + commandStream, commandStream},
         {setAttributes({"hidden"}), "enabled=\"no\"", "enabled=\"off\""},
         {setAttributes({"hidden"}), hidden, ""},                // on, but not announced
@@ -193,7 +190,7 @@ TEST(RequestReader, ReadsTextAndReferences) {
     for (const char* bad :
          {"<a b=\"1\" b=\"2\"/>", "<a b='1'/>", "<a>x<b/></a>", "<a><b/>x</a>", "<a>&nbsp;</a>", "<a>R&D</a>",
           "<a>&#0;</a>", "<a>&#xD800;</a>", "<a>&#99999999999;</a>", "<a></b>", "<a>", "<1/>",
-          "<a b= \"1\"/>", "<a b =\"1\"/>", "<a/> <b/>"})
+          "<a b= \"1\"/>", "<a b =\"1\"/>", "<a/> <b/>", "<a/>\n", ""})
         EXPECT_FALSE(readRequest(bad)) << bad;
     std::string deep;
     for (int i = 0; i < 100000; ++i)
