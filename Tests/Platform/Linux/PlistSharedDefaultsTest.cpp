@@ -99,6 +99,8 @@ TEST_F(SharedDefaults, NamesTheCauseOnceWhenTheFileIsOfNoUseAndLeavesItAlone) {
         PlistSharedDefaults fresh([this](std::string_view line) { log.emplace_back(line); },
                                   file.parent_path());
         const auto suite = fresh.openSuite("group.tarnix.common");
+        suite->synchronize();
+        EXPECT_EQ(suite->string("serverIP"), std::nullopt);
         suite->setString("serverIP", "mine");
         suite->synchronize();
         EXPECT_EQ(suite->string("serverIP"), "mine") << "for this process";
