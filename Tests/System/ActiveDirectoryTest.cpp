@@ -1,5 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Tests/System/ActiveDirectoryFixture.h"
+#include "Platform/Linux/LdapDirectory.h"
+#include "Platform/Qt/QtBundle.h"
+#include "Quorvan/Controller/MainStoryboard.h"
+#include "Quorvan/Controller/MainWindow.h"
+#include "Quorvan/Controller/RightsTabViewController.h"
+#include "Simulator/Embedded.h"
+#include "Tests/Support/Fakes.h"
+#include "Tests/Support/LogRecorder.h"
+#include "Tests/System/ActiveDirectoryServer.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,6 +28,7 @@
 namespace quorvan::test {
 namespace {
 
+using namespace platform;
 using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
@@ -20,6 +36,63 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::UnorderedElementsAre;
+using Texts = std::vector<std::string>;
+
+const std::string recordName = "dsAttrTypeStandard:RecordName";
+const std::string smbSid = "dsAttrTypeStandard:SMBSID";
+const Texts users{"dsRecTypeStandard:Users"};
+const Texts groups{"dsRecTypeStandard:Groups"};
+const Texts both{"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
+const std::string domainNode = "/Active Directory/QUORVAN/All Domains";
+const std::string odd = "Zoë (q*x\\y)";
+
+struct OneItem : Keychain {
+    std::string server, account = DomainController::administrator, data = DomainController::password;
+    KeychainResult findInternetPassword(const std::string& wanted) override {
+        if (wanted != server)
+            return {-25300, std::nullopt};
+        return {0, KeychainItem{account, data}};
+    }
+};
+
+/// A client of the domain controller that all tests share.
+class ActiveDirectory : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        if (DomainController::obstacle().empty())
+            controller = std::make_unique<DomainController>();
+    }
+    static void TearDownTestSuite() { controller.reset(); }
+    void SetUp() override {
+        if (!controller)
+            GTEST_SKIP() << DomainController::obstacle();
+        keychain->server = controller->address;
+    }
+
+    std::unique_ptr<LdapDirectory> client(std::chrono::milliseconds timeLimit = std::chrono::seconds(20)) {
+        return std::make_unique<LdapDirectory>(
+            keychain, [this](std::string_view line) { log.emplace_back(line); }, timeLimit);
+    }
+    static Texts namesOf(const std::optional<DirectoryRecords>& records) {
+        Texts names;
+        for (const auto& record : records.value())
+            names.push_back(record->values(recordName).value().at(0));
+        return names;
+    }
+    Texts find(const DirectoryQuery& query) {
+        const auto node = client()->openNode(domainNode);
+        return node ? namesOf(node->query(query)) : Texts{"no node"};
+    }
+    static std::shared_ptr<DirectoryRecord> one(DirectoryNode& node, const Texts& types,
+                                                const std::string& attribute, const std::string& value) {
+        const auto found = node.query({types, attribute, DirectoryMatch::equalTo, {value}});
+        return found && found->size() == 1 ? found->front() : nullptr;
+    }
+
+    static inline std::unique_ptr<DomainController> controller;
+    std::shared_ptr<OneItem> keychain = std::make_shared<OneItem>();
+    Texts log;
+};
 
 TEST_F(ActiveDirectory, ListsMoreThanOnePageOfUsersAndGroupsButNoComputers) {
     const auto directory = client();
@@ -237,6 +310,84 @@ TEST_F(ActiveDirectory, ResolvesManyIdentifiersAtOnce) {
             delay / 1000, 1e3 * together, 1e3 * oneByOne, oneByOne / together);
     }
     EXPECT_THAT(log, IsEmpty());
+}
+
+/// A control of the sheet in front, or of the window when there is none.
+template <class Control>
+Control* control(const MainWindow& window, const char* name) {
+    const QWidget* sheet = QApplication::activeModalWidget();
+    for (auto* each : (sheet != nullptr ? sheet : &window)->findChildren<Control*>(name))
+        if (each->isVisible())
+            return each;
+    throw std::runtime_error(name);
+}
+
+TEST_F(ActiveDirectory, MakesAnOddlyNamedUserATrusteeThroughTheWindow) {
+    int count = 1;
+    char name[] = "active_directory_tests";
+    char* arguments[] = {name, nullptr};
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    const QApplication application(count, arguments);
+    const auto user = one(*client()->openNetworkNode(), users, recordName, odd);
+    ASSERT_NE(user, nullptr);
+    const std::string sid = user->values(smbSid).value().at(0);
+    auto world = simulator::Embedded::demo();
+    world.identities->addDomainUser(odd, sid);
+    const auto rights = [&] {
+        for (const auto& entry : world.server->trustees(simulator::demo::selection))
+            if (entry.identity->id == sid)
+                return static_cast<int>(entry.rights);
+        return -1;
+    };
+
+    const auto alerts = std::make_shared<RecordingAlerts>();
+    Services services = world.services();
+    services.directory = client();
+    services.bundle = std::make_shared<QtBundle>(QStringLiteral(FEATURES));
+    services.alerts = alerts;
+    const ScopedServices installed(services);
+    const LogRecorder quiet;
+    fillMainStoryboard();
+    MainWindow window;
+    window.load();
+    window.present();
+    const auto click = [&](const char* button) {
+        QTest::mouseClick(control<QPushButton>(window, button), Qt::LeftButton);
+    };
+    const auto pick = [&](const char* name, const QString& item) {
+        auto* popUp = control<QComboBox>(window, name);
+        while (popUp->currentText() != item && popUp->currentIndex() + 1 < popUp->count())
+            QTest::keyClick(popUp, Qt::Key_Down);
+    };
+
+    click("TrusteeRightsView");
+    click("addBtn");
+    pick("userTypePopUp", "Users");
+    pick("domainPopUp", "/Active Directory/QUORVAN");
+    click("btnFetch");
+    auto* list = control<QTableView>(window, "userListTable");
+    EXPECT_GT(list->model()->rowCount(), 2500);
+    auto* search = control<QLineEdit>(window, "searchField");
+    QTest::keyClicks(search, " (Q*X\\y");
+    QTest::keyClick(search, Qt::Key_Return);
+    ASSERT_EQ(list->model()->rowCount(), 1);
+    const QModelIndex found = list->model()->index(0, 0);
+    EXPECT_EQ(found.data().toString().toStdString(), odd);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(found).center());
+    click("selectButton");
+    EXPECT_EQ(rights(), -1) << "nothing is sent before Apply";
+    click("applyBtn");
+    EXPECT_EQ(rights(), 0x41);
+
+    const auto* tab =
+        dynamic_cast<RightsTabViewController*>(control<QPushButton>(window, "addBtn")->parent());
+    ASSERT_NE(tab, nullptr);
+    const auto& trustee = *tab->trusteeList.back();
+    EXPECT_EQ(trustee.trusteeName, odd);
+    EXPECT_EQ(trustee.trusteeID, sid);
+    EXPECT_EQ(trustee.trusteeType, "Users") << "which only the directory knows";
+    EXPECT_THAT(alerts->shown, testing::IsEmpty());
+    EXPECT_THAT(log, testing::IsEmpty());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/ViewModal/UsersViewModal.h"
+#include "Quorvan/ViewModal/BrowseLdapViewModal.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/Support/LogRecorder.h"
 
@@ -91,6 +92,28 @@ TEST_F(UsersViewModal, SetsATrusteesType) {
     world.directory->records[sid].clear();
     add({{recordType, {"Users"}}});
     EXPECT_DEATH(typeOf(sid), "no second part");
+}
+
+TEST_F(UsersViewModal, FindsGroupsAndSidsOfNamedObjects) {
+    const char* const memberOf = "dsAttrTypeNative:memberOf";
+    const auto sidOf = [](const char* type) {
+        return BrowseLdapViewModal::getSidforObject(sid, type, "dsAttrTypeNative:distinguishedName");
+    };
+    EXPECT_EQ(sidOf("Users"), "");
+    add({{kODAttributeTypeSMBSID, {"S-1", "S-2"}}, {memberOf, {"CN=a", "CN=b"}}});
+    add({{kODAttributeTypeSMBSID, {"S-3"}}});
+    EXPECT_EQ(sidOf("Groups"), "S-3");
+    EXPECT_EQ(world.directory->queries.back().attribute, "dsAttrTypeNative:distinguishedName");
+    EXPECT_THAT(world.directory->queries.back().recordTypes, ElementsAre("dsRecTypeStandard:Groups"));
+    EXPECT_THAT(BrowseLdapViewModal::getGroupMembership(sid), ElementsAre("CN=a", "CN=b"));
+    EXPECT_EQ(world.directory->queries.back().attribute, "dsAttrTypeStandard:SMBSID");
+    EXPECT_THAT(log.lines, IsEmpty());
+    add({});
+    EXPECT_EQ(sidOf("Users"), "S-3");
+    EXPECT_THAT(log.lines, ElementsAre("Error in Open Directory Session"));
+    EXPECT_THAT(world.alerts->shown, IsEmpty());
+    world.directory->answers = false;
+    EXPECT_DEATH(BrowseLdapViewModal::getGroupMembership(sid), "does not say which groups");
 }
 
 } // namespace
