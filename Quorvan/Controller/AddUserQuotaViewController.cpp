@@ -178,6 +178,8 @@ void AddUserQuotaViewController::onChangeUnit() {
 void AddUserQuotaViewController::onClickOk() {
     const auto bytes = quotaLimitInBytes(quotaLimitTextField->text(), selectedUnit);
     if (!bytes) {
+        quotaLimitTextField->setFocus();
+        quotaLimitTextField->selectAll();
         presentInvalidQuotaLimit(*this);
         return;
     }

@@ -143,14 +143,21 @@ void InformationViewController::applyQuotaLimit() {
     if (!limit.empty()) {
         editedDirQuota.quotaAmount = limit;
         setDirectoryQuota();
+        showKnownQuota();
         getDirectoryQuota();
-    } else if (dirQuota.quotaAmount) {
-        updateDirectoryQuota(); // what is no limit must not stay on show as if it were one
     } else {
-        dirQuotaLimit->clear();
+        showKnownQuota();
     }
     applyDirQuota = false;
     removeQuota = false;
+}
+
+/// What was typed must not stay on show as if it were the limit, unless the server says so.
+void InformationViewController::showKnownQuota() {
+    if (dirQuota.quotaAmount)
+        updateDirectoryQuota();
+    else
+        dirQuotaLimit->clear();
 }
 
 void InformationViewController::setDirectoryQuota() {

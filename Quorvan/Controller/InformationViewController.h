@@ -143,6 +143,7 @@ private:
     void setDirectoryQuota();
     std::string attributeTags() const;
     void applyQuotaLimit();
+    void showKnownQuota();
     void takeOwner(const std::string& name, const std::string& id);
     void showOwner(const std::string& name, const std::string& id);
     void showUsage(int percent);

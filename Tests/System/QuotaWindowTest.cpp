@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/ServerDetails.h"
 #include "Platform/Linux/SmbClientFileSystem.h"
-#include "Quorvan/Controller/AddUserQuotaViewController.h"
 #include "Quorvan/Controller/MainStoryboard.h"
 #include "Quorvan/Controller/MainWindow.h"
+#include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/ListTable.h"
+#include "Quorvan/Toolkit/QuotaLimit.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 #include "Simulator/Embedded.h"
 #include "Tests/Support/Fakes.h"
@@ -17,8 +18,6 @@
 #include <QTest>
 
 #include <gmock/gmock.h>
-
-#include <limits>
 
 namespace quorvan::test {
 namespace {
@@ -72,26 +71,24 @@ struct QuotaWindow : testing::Test {
             QTest::mouseClick(table().viewport(), Qt::LeftButton, Qt::ControlModifier,
                               table().visualRect(table().model()->index(row, 0)).center());
     }
-    /// The rows as "NAME LIMIT".
-    std::vector<std::string> shown() const {
-        std::vector<std::string> rows;
+    using Limits = std::vector<std::pair<std::string, std::string>>; ///< of users, by name
+    Limits shown() const {
+        Limits rows;
         for (int row = 0; row < table().model()->rowCount(); ++row)
-            rows.push_back((table().model()->index(row, 0).data().toString().section('\\', -1) + ' ' +
-                            table().model()->index(row, 1).data().toString())
-                               .toStdString());
+            rows.emplace_back(
+                table().model()->index(row, 0).data().toString().section('\\', -1).toStdString(),
+                table().model()->index(row, 1).data().toString().toStdString());
         return rows;
     }
-    /// The same from the server itself: its users of Active Directory that have a limit.
-    std::vector<std::string> onServer() const {
-        std::vector<std::string> rows;
+    /// What the server itself says of its users of Active Directory that have a limit.
+    Limits onServer() const {
+        Limits rows;
         std::istringstream lines(server->kelp.ask("user-quotas\tVOL1"));
         for (std::string id, limit, used, name; std::getline(lines, id, '\t') &&
                                                 std::getline(lines, limit, '\t') &&
                                                 std::getline(lines, used, '\t') && std::getline(lines, name);)
-            if (id.starts_with("S-1-") && limit != "9223372036854775807")
-                rows.push_back(name + (std::stoll(limit) >> 30 > 0
-                                           ? " " + std::to_string(std::stoll(limit) >> 30) + " GB"
-                                           : " " + std::to_string(std::stoll(limit) >> 20) + " MB"));
+            if (id.starts_with("S-1-") && limit != DirectoryQuotaConstants::UNLIMITED)
+                rows.emplace_back(name, byteCount(std::stoll(limit)).toStdString());
         return rows;
     }
 
@@ -105,7 +102,7 @@ struct QuotaWindow : testing::Test {
 
 TEST_F(QuotaWindow, ChangesTwoLimitsAndRemovesOne) {
     click("UserQuotaView");
-    const std::vector<std::string> before = onServer();
+    const Limits before = onServer();
     EXPECT_EQ(before.size(), simulator::demo::usersWithQuota / 2);
     EXPECT_THAT(shown(), ElementsAreArray(before));
 
@@ -122,9 +119,9 @@ TEST_F(QuotaWindow, ChangesTwoLimitsAndRemovesOne) {
     EXPECT_THAT(alerts->shown, IsEmpty());
     EXPECT_FALSE(find<QPushButton>("applyButton")->isEnabled());
 
-    std::vector<std::string> after = before;
+    Limits after = before;
     for (const std::size_t row : {1, 3})
-        after[row].replace(after[row].find(' '), std::string::npos, " 7 GB");
+        after[row].second = "7 GB";
     after.erase(after.begin() + 4);
     EXPECT_EQ(onServer(), after);
     EXPECT_THAT(shown(), ElementsAreArray(after));

@@ -20,11 +20,15 @@ using testing::Not;
 namespace demo = simulator::demo;
 namespace attribute = simulator::attribute;
 
+/// Paths of the demo data, as they are mounted.
+constexpr const char* folder = "VOL1/Projects/Aurora";
+constexpr const char* file = "VOL1/Projects/Aurora/Concept.odt";
+
 struct InformationTest : PropertyFixture {
-    void openView(const char* path = demo::limitedFolder, const char* user = demo::supervisor,
+    void openView(const char* local = folder, const char* user = demo::supervisor,
                   const char* userType = "ActiveDirectory") {
-        view = open<InformationViewController>(path, user, userType);
-        seen = world.server->requests().size();
+        view = openAt<InformationViewController>(local, user, userType);
+        view->directoryQuotaTabView->setCurrentWidget(view->directoryQuotaTab);
     }
     std::string limit() const { return view->dirQuotaLimit->text().toStdString(); }
     void applyLimit(const char* text, int unit) {
@@ -33,14 +37,15 @@ struct InformationTest : PropertyFixture {
         choose(view->selectUnit, unit);
         click(view->applyButton);
     }
-    std::vector<std::string> amounts() { return sent("<quotaAmount>", "<"); }
+    Texts amounts() { return sent("<quotaAmount>", "<"); }
+    simulator::Node& node(const char* path) { return *world.server->volumes().find(path); }
 
     InformationViewController* view = nullptr;
 };
 
 TEST_F(InformationTest, SendsTheAttributesThatAreOnTwice) {
     const char* path = demo::fileOfNobody;
-    openView(path);
+    openView(file);
     EXPECT_EQ(view->directoryQuotaTabView->count(), 1) << "a file has no quota";
     EXPECT_FALSE(view->applyButton->isEnabled());
     click(view->hideChk);
@@ -74,88 +79,54 @@ TEST_F(InformationTest, SendsTheAttributesThatAreOnTwice) {
     EXPECT_THAT(sent("<setFileInfo>", "<"), testing::SizeIs(1)) << "closing drops what was not applied";
 
     // What the server refuses comes back as it was, with the boxes that it implies.
-    openView(path, demo::readOnly);
+    openView(file, demo::readOnly);
     EXPECT_FALSE(view->changeOwnerButton->isEnabled());
     EXPECT_TRUE(view->readOnlyLabel->isVisible());
     click(view->readChk);
     click(view->applyButton);
     EXPECT_TRUE(view->readChk->isChecked() && !view->renameInhibitChk->isEnabled());
-    EXPECT_THAT(alerts(), IsEmpty());
+    EXPECT_THAT(takeAlerts(), IsEmpty());
 }
 
-TEST_F(InformationTest, ChangesTheOwnerThroughEitherDirectory) {
-    openView(demo::fileOfNobody);
+TEST_F(InformationTest, TakesTheOwnerFromEitherDirectory) {
+    const auto expectNewOwner = [this](const char* place) {
+        const std::string name = view->ownerField->text().toStdString();
+        EXPECT_TRUE(view->ownerIcon->isVisible());
+        click(view->applyButton);
+        const simulator::Identity* owner = world.identities->findById(node(demo::fileOfNobody).owner);
+        ASSERT_NE(owner, nullptr) << place;
+        EXPECT_THAT(name, testing::HasSubstr(owner->name));
+        EXPECT_EQ(view->ownerField->text().toStdString(), owner->name);
+        EXPECT_EQ(view->editedOwner.ownerID, "");
+    };
+    openView(file);
     EXPECT_EQ(view->ownerField->text(), "");
     EXPECT_FALSE(view->ownerIcon->isVisible());
-    click(view->changeOwnerButton);
-    EXPECT_EQ(browser(view).objectName(), "ViewBrowseAD");
-    EXPECT_EQ(browser(view).wish.listType, "Users");
-    EXPECT_FALSE(browser(view).wish.isMultipleSel);
-    const std::string sid = world.server->findAccount(demo::accessControl)->identity->id;
-    EXPECT_TRUE(browser(view).delegate->onReturnSelectedUser({}, {}, "Users"));
-    EXPECT_FALSE(view->applyButton->isEnabled());
-    EXPECT_TRUE(browser(view).delegate->onReturnSelectedUser({"tomas", "x"}, {sid, "y"}, "Users"));
-    EXPECT_EQ(view->ownerField->text(), "tomas");
-    closeBrowser(view);
-    click(view->applyButton);
-    EXPECT_THAT(sent("<creatorID", "</"), ElementsAre(" type = \"adID\">" + sid));
-    EXPECT_EQ(view->ownerField->text(), demo::accessControl);
-    EXPECT_TRUE(view->ownerIcon->isVisible());
+    pickUsers(view->changeOwnerButton, inDomain, {1});
+    expectNewOwner(inDomain);
+    EXPECT_TRUE(view->onReturnSelectedUser({}, {}, "Users"));
+    EXPECT_TRUE(view->onReturnMorvaneSelectedUser({}));
+    EXPECT_FALSE(view->applyButton->isEnabled()) << "nobody was picked";
+    openView(file, demo::supervisorTree, "Morvane");
+    pickUsers(view->changeOwnerButton, inTree, {0});
+    expectNewOwner(inTree);
 
-    bundle->features->at("multiForest") = false;
-    openView();
-    click(view->changeOwnerButton);
-    EXPECT_EQ(browser(view).objectName(), "oldViewBrowseAD");
-
-    bundle->features->at("multiForest") = true;
-    openView(demo::limitedFolder, demo::supervisorTree, "Morvane");
-    click(view->changeOwnerButton);
-    EXPECT_EQ(browser(view).objectName(), "ViewBrowseMorvane");
-
-    // Both directories: the user is asked first, and the answer is what the page works in from then on.
     Shared::value().bothID = true;
-    openView();
-    click(view->changeOwnerButton);
-    EXPECT_EQ(browser(view).objectName(), "IdentifySource");
-    browser(view).delegate->onReturnIdentifySource("Morvane");
-    EXPECT_EQ(browser(view).objectName(), "ViewBrowseMorvane");
-    EXPECT_FALSE(browser(view).wish.isMultipleSel);
-    const std::string guid = world.server->findAccount(demo::supervisorTree)->identity->id;
-    EXPECT_TRUE(browser(view).delegate->onReturnMorvaneSelectedUser({User("Renate", "user", guid)}));
-    closeBrowser(view);
-    closeBrowser(view);
-    seen = world.server->requests().size();
-    click(view->applyButton);
-    EXPECT_THAT(sent("<creatorID", "</"), ElementsAre(">" + guid));
-    EXPECT_EQ(node(demo::limitedFolder).owner, guid);
-    EXPECT_EQ(view->editedOwner.ownerID, "");
-
+    openView(file);
+    for (const char* place : {inTree, inDomain}) {
+        pickUsers(view->changeOwnerButton, place, {2});
+        expectNewOwner(place);
+    }
     bundle->features->at("addBothTrustees") = false;
     openView();
     EXPECT_FALSE(view->changeOwnerButton->isEnabled());
     EXPECT_TRUE(view->editLimitBtn->isEnabled());
-}
 
-TEST_F(InformationTest, TakesTheOwnerFromTheSheetsOfEitherDirectory) {
-    fillMainStoryboard();
-    Shared::value().bothID = true;
-    openView(demo::fileOfNobody);
-    for (const auto& [choice, place] :
-         {std::pair("MorvaneBtn", ".OU=Verlag.O=Meridal."), {"ADBtn", "/Active Directory/MERIDAL"}}) {
-        click(view->changeOwnerButton);
-        click(front<QRadioButton>(choice));
-        click(front<QPushButton>("OkBtn"));
-        pickUsers(place, {1});
-        const std::string name = view->ownerField->text().toStdString();
-        EXPECT_NE(name, "");
-        click(view->applyButton);
-        const simulator::Identity* owner = world.identities->findById(node(demo::fileOfNobody).owner);
-        ASSERT_NE(owner, nullptr) << place;
-        EXPECT_EQ(view->ownerField->text().toStdString(), owner->name);
-        EXPECT_THAT(name, testing::HasSubstr(owner->name));
-        EXPECT_TRUE(view->ownerIcon->isVisible());
-    }
-    EXPECT_THAT(alerts(), IsEmpty());
+    Shared::value().bothID = false;
+    bundle->features->at("multiForest") = false;
+    openView();
+    click(view->changeOwnerButton);
+    EXPECT_TRUE(front<QWidget>("userTypeTable")->isVisible()) << "the browser of a single forest";
 }
 
 TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
@@ -167,10 +138,10 @@ TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
         const char *path, *limit, *used, *available;
         int percent; ///< -1: no bar
     } cases[] = {
-        {demo::limitedFolder, "20 GB", "13.5 GB", "6.5 GB", 67},
-        {demo::unlimitedFolder, "User_Quota_Unlimited", "0 KB", "User_Quota_Maximum", -1},
-        {demo::folderWithoutQuota, "User_Quota_Not_Set", "0 KB", "User_Quota_Maximum", -1},
-        {"VOL1:\\Public\\Briefkasten", "512 MB", "530 MB", "-18 MB", 100},
+        {folder, "20 GB", "13.5 GB", "6.5 GB", 67},
+        {"VOL1/Archiv", "User_Quota_Unlimited", "0 KB", "User_Quota_Maximum", -1},
+        {"VOL1/Projects", "User_Quota_Not_Set", "0 KB", "User_Quota_Maximum", -1},
+        {"VOL1/Public/Briefkasten", "512 MB", "530 MB", "-18 MB", 100},
     };
     for (const auto& each : cases) {
         openView(each.path);
@@ -192,7 +163,6 @@ TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
 
 TEST_F(InformationTest, SendsALimitInBytes) {
     openView();
-    view->directoryQuotaTabView->setCurrentIndex(1);
     click(view->editLimitBtn);
     EXPECT_EQ(limit(), "20");
     EXPECT_EQ(view->selectUnit->currentText(), "GB");
@@ -215,7 +185,7 @@ TEST_F(InformationTest, SendsALimitInBytes) {
 
     for (const char* text : {"", "1.5", "10 GB", "   ", "0x10", "9223372036854775808"}) {
         applyLimit(text, 1);
-        EXPECT_EQ(dismissSheet(view), "Invalid_Quota_Limit") << text;
+        EXPECT_EQ(dismissAlert(), "Invalid_Quota_Limit") << text;
         EXPECT_THAT(log.take(), Contains("Close Modal"));
         EXPECT_THAT(amounts(), IsEmpty());
         EXPECT_EQ(limit(), "3 GB");
@@ -225,7 +195,6 @@ TEST_F(InformationTest, SendsALimitInBytes) {
     // Small units cannot be entered; GB counts then, and is what the pop-up shows.
     node(demo::limitedFolder).quota.limit = 512 << 10;
     openView();
-    view->directoryQuotaTabView->setCurrentIndex(1);
     click(view->editLimitBtn);
     EXPECT_EQ(limit(), "512");
     EXPECT_EQ(view->selectUnit->currentIndex(), -1);
@@ -261,32 +230,34 @@ TEST_F(InformationTest, ReportsEveryFailureAndGoesOn) {
     world.server->misbehaviour.openError = EACCES;
     log.take();
     click(view->applyButton);
-    EXPECT_THAT(alerts(), testing::AllOf(testing::SizeIs(4), testing::Each("Err_Operation_Failed")));
+    EXPECT_THAT(takeAlerts(), testing::AllOf(testing::SizeIs(4), testing::Each("Err_Operation_Failed")));
     EXPECT_THAT(log.take(), Contains("Failed with err - -1"));
     EXPECT_FALSE(view->applyAttrs || view->applyDirQuota || view->applyButton->isEnabled());
-    EXPECT_EQ(limit(), "7");
+    EXPECT_EQ(limit(), "7 GB") << "as it was read last";
 
     DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
     ServerDetails::serverInfo().keychainStatus = errSecItemNotFound;
     click(view->hideChk);
     click(view->applyButton);
-    EXPECT_THAT(alerts(), ElementsAre("Err_Keychain_Not_Found", "Err_Keychain_Not_Found"));
+    EXPECT_THAT(takeAlerts(), ElementsAre("Err_Keychain_Not_Found", "Err_Keychain_Not_Found"));
     EXPECT_THAT(log.take(), Not(Contains("Failed with err - -25300")));
+    click(view->editLimitBtn);
+    EXPECT_EQ(limit(), "7");
     click(view->removeLimitBtn);
     click(view->applyButton);
     EXPECT_THAT(log.take(), Contains("Failed with err - -25300")) << "the quota says so in the log, too";
-    alerts();
+    takeAlerts();
 
     // Nothing could be read at all: four alerts, an empty page, and nothing that ends the program.
     ServerDetails::forget();
     openView();
-    EXPECT_EQ(alerts().size(), 4U);
+    EXPECT_EQ(takeAlerts().size(), 4U);
     EXPECT_EQ(limit(), "");
     EXPECT_FALSE(view->editLimitBtn->isEnabled());
     world.server->misbehaviour = {};
     world.server->misbehaviour.code = 20903;
     openView();
-    EXPECT_THAT(alerts(), testing::Each("Err_Operation_Failed"));
+    EXPECT_THAT(takeAlerts(), testing::Each("Err_Operation_Failed"));
     EXPECT_EQ(world.network->openDescriptors(), 0U);
 }
 
