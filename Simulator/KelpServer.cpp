@@ -63,6 +63,8 @@ std::string KelpServer::handle(std::string_view pipeFile, std::string_view user,
     requests_.push_back({std::string(pipeFile), std::string(user), std::string(request)});
     if (!misbehaviour.appliesTo(pipeFile))
         return answer(pipeFile, user, request, std::nullopt);
+    if (request.find(misbehaviour.onlyWith) == std::string_view::npos)
+        return answer(pipeFile, user, request, std::nullopt);
     if (misbehaviour.garbage)
         return *misbehaviour.garbage;
     std::string reply = answer(pipeFile, user, request, misbehaviour.code);

@@ -12,6 +12,7 @@ namespace quorvan::simulator {
 /// What a server does wrong until it is told otherwise; a fresh value behaves.
 struct Misbehaviour {
     std::string onlyPipe;    ///< "/FilesCmdPipe": all but mountError only on this pipe; "" = on all
+    std::string onlyWith;    ///< `code` and `garbage` only for requests that hold this text; "" = for all
     int mountError = 0;      ///< errno with which every mount fails
     int openError = 0;       ///< errno with which every open fails
     std::optional<int> code; ///< every request fails with this code and changes nothing

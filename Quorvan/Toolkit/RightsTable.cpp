@@ -54,10 +54,22 @@ void RightsTable::fitToFont() {
     verticalHeader()->setDefaultSectionSize(std::max(box.height(), fontMetrics().height() + 8));
     const int width = std::max(box.width(), fontMetrics().horizontalAdvance(QLatin1Char('W')) + 20);
     horizontalHeader()->setMinimumSectionSize(width);
-    for (int column = 0; column < model_->textColumnCount() - 1; ++column)
-        horizontalHeader()->resizeSection(column, 28 * fontMetrics().averageCharWidth());
     for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column)
         horizontalHeader()->resizeSection(column, width);
+}
+
+void RightsTable::resizeEvent(QResizeEvent* event) {
+    ListTable::resizeEvent(event);
+    shareTextWidth();
+}
+
+/// Names get what they usually need and paths the rest, which is never the smaller part.
+void RightsTable::shareTextWidth() {
+    const int texts = model_->textColumnCount();
+    const int boxes = model_->columnCount() - texts;
+    const int room = viewport()->width() - boxes * columnWidth(model_->columnCount() - 1);
+    for (int column = 0; column < texts - 1; ++column)
+        setColumnWidth(column, std::min(28 * fontMetrics().averageCharWidth(), room * 2 / 5));
 }
 
 void RightsTable::setSwitchedOn(bool on) {

@@ -38,8 +38,11 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void fitToFont() override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void shareTextWidth();
+
     RightsTableModel* model_;
     RightsCheckBoxDelegate* boxes_;
     bool switchedOn_ = true;

@@ -35,54 +35,54 @@ void showInheritedRights(const Output& output) {
     {
         Stage stage(output, Embedded::demo(account::supervisor, "VOL1:\\Projects\\Aurora\\Drawings"));
         openTab(stage, inheritedTab);
-        stage.photograph("50-inherited", "a filter that holds one right back");
+        stage.photograph("80-inherited", "a filter that holds one right back");
         stage.find<QAbstractButton>("writeIRF")->click();
-        stage.photograph("51-inherited-edited", "another one cleared");
+        stage.photograph("81-inherited-edited", "another one cleared");
         stage.press("applyBtn");
-        stage.photograph("52-inherited-applied", "… and sent");
+        stage.photograph("82-inherited-applied", "… and sent");
     }
     Stage stage(output, Embedded::demo(account::readOnly));
     openTab(stage, inheritedTab);
-    stage.photograph("53-inherited-read-only", "the filter for reading only");
+    stage.photograph("83-inherited-read-only", "the filter for reading only");
 }
 
 void showEffectiveRights(const Output& output) {
     {
         Stage stage(output, Embedded::demo());
         openTab(stage, effectiveTab);
-        stage.photograph("54-effective", "what the trustees may really do");
+        stage.photograph("84-effective", "what the trustees may really do");
         stage.press("selectUserBtn");
         pick(stage, "Users", 5);
-        stage.photograph("55-effective-chosen", "… and what one that was chosen may do");
+        stage.photograph("85-effective-chosen", "… and what one that was chosen may do");
         stage.type("searchField", "team");
-        stage.photograph("56-effective-search", "a search");
+        stage.photograph("86-effective-search", "a search");
     }
     Stage stage(output, Embedded::demo(account::readOnly));
     openTab(stage, effectiveTab);
-    stage.photograph("57-effective-read-only", "nobody can be chosen without Supervisor or Access Control");
+    stage.photograph("87-effective-read-only", "nobody can be chosen without Supervisor or Access Control");
 }
 
 void showDirectoryTrustees(const Output& output) {
     {
         Stage stage(output, Embedded::demo());
         openTab(stage, directoriesTab);
-        stage.photograph("58-directories", "the trustees of the folders below and above");
+        stage.photograph("88-directories", "the trustees of the folders below and above");
         stage.tick(1, "W", "subdirTable");
         stage.select({0}, "parentdirTable");
         stage.press("removeBtnParent");
-        stage.photograph("59-directories-edited", "a right ticked below, a trustee removed above");
+        stage.photograph("89-directories-edited", "a right ticked below, a trustee removed above");
         stage.type("searchInSubField", "drawings");
         stage.type("searchInParentField", "zzz");
-        stage.photograph("60-directories-search", "a search by path, and one without a match");
+        stage.photograph("90-directories-search", "a search by path, and one without a match");
     }
     {
         Stage stage(output, Embedded::demo(account::readOnly, "VOL1:\\Projects\\Tideline"));
         openTab(stage, directoriesTab);
-        stage.photograph("61-directories-read-only", "for reading only, and nothing below");
+        stage.photograph("91-directories-read-only", "for reading only, and nothing below");
     }
     Stage stage(output, Embedded::demo(account::supervisorTree, "VOL1:\\"));
     openTab(stage, directoriesTab);
-    stage.photograph("62-directories-root", "a whole volume, with the trustees of the tree");
+    stage.photograph("92-directories-root", "a whole volume, with the trustees of the tree");
 }
 
 void showFileSystemRights(const Output& output) {
@@ -90,31 +90,31 @@ void showFileSystemRights(const Output& output) {
         Stage stage(output, Embedded::demo(account::supervisor, "VOL1:\\"));
         stage.launch();
         stage.press("FileSystemRightsView");
-        stage.photograph("63-file-system-rights", "nobody is chosen yet");
+        stage.photograph("93-file-system-rights", "nobody is chosen yet");
         stage.press("selectUserBtn");
         pick(stage, "Groups", 3);
-        stage.photograph("64-paths-of-a-group", "the paths of a group");
+        stage.photograph("94-paths-of-a-group", "the paths of a group");
         stage.tick(0, "W", "fsrTable");
         stage.press("addBtn");
         auto* tree = stage.find<QTreeView>("fileBrowser");
         const QModelIndex root = tree->model()->index(0, 0);
         tree->expand(tree->model()->index(tree->model()->rowCount(root) - 1, 0, root));
-        stage.photograph("65-folder-browser", "the folder browser as it opens");
+        stage.photograph("95-folder-browser", "the folder browser as it opens");
         tree->setCurrentIndex(tree->model()->index(0, 0, root));
         stage.press("selectBtn");
-        stage.photograph("66-path-added", "a path added and a right ticked");
+        stage.photograph("96-path-added", "a path added and a right ticked");
         stage.press("applyBtn");
-        stage.photograph("67-path-applied", "… and sent");
+        stage.photograph("97-path-applied", "… and sent");
         stage.press("selectUserBtn");
         pick(stage, "Users", 14);
-        stage.photograph("68-paths-of-a-user", "the paths of a user");
+        stage.photograph("98-paths-of-a-user", "the paths of a user");
         stage.press("grpBtn");
-        stage.photograph("69-group-rights", "what that user holds through its groups");
+        stage.photograph("99-group-rights", "what that user holds through its groups");
     }
     Stage stage(output, Embedded::demo(account::accessControl));
     stage.launch();
     stage.press("FileSystemRightsView");
-    stage.photograph("70-file-system-rights-read-only", "Access Control is not enough here");
+    stage.photograph("100-file-system-rights-read-only", "Access Control is not enough here");
 }
 
 } // namespace

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Tests/Quorvan/Controller/PropertyFixture.h"
+
+namespace quorvan::test {
+
+/// The folder of RightsTabFixture with trustees above, below and beside it, and browsers that hand on an
+/// answer.
+struct RightsViewsFixture : RightsTabFixture {
+    RightsViewsFixture() {
+        const auto set = [this](const char* where, const char* id, simulator::Mask rights) {
+            world.server->setTrustee(where, *world.identities->findById(id), rights);
+        };
+        set("VOL1:\\Tests\\Box\\Low", "admin", 0x041);
+        set("VOL1:\\Tests\\Box\\Low", "Zoe", 0x0FB);
+        set("VOL1:\\Tests", "admin", 0x0C1);
+        set("VOL1:\\Tests\\Boxes", "Zoe", 0x041);
+        for (const char* name : {"IdentifySource", "oldViewBrowseAD", "ViewBrowseAD", "ViewBrowseMorvane"})
+            Storyboard::named("Main").add(name, [name] { return new FakeBrowser(name); });
+    }
+    ~RightsViewsFixture() override { Shared::value().bothID = false; }
+
+    static void clickCell(RightsTable& table, int row, const char* identifier) {
+        QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                          table.visualRect(table.box(row, identifier)).center());
+    }
+    static bool ticked(const RightsTable& table, int row, const char* identifier) {
+        return table.box(row, identifier).data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    }
+    static FakeBrowser& browser(const QWidget* view) { return PropertyFixture::browser(view); }
+    static void type(QLineEdit* field, const char* text) { PropertyFixture::type(field, text); }
+};
+
+} // namespace quorvan::test
