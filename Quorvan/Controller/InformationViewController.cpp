@@ -96,6 +96,7 @@ void InformationViewController::showOwner(const std::string& name, const std::st
     ownerField->setPlaceholderText(id.empty() ? L("No_Owner_Label")
                                               : L("Owner_Gone_Label").arg(QString::fromStdString(id)));
     ownerField->setText(QString::fromStdString(name));
+    ownerField->setToolTip(QString::fromStdString(id));
     ownerField->setCursorPosition(0);
     const int edge = ownerField->fontMetrics().height();
     // The owner may be of either directory, whichever the page works in.

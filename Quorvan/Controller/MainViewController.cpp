@@ -132,7 +132,7 @@ void MainViewController::buildEntries() {
         auto* entry = outlet(new MenuEntry(kind.iconName, L(kind.descriptionKey), this), kind.viewName);
         this->*kind.view = entry;
         this->*kind.label = outlet(entry->title, kind.labelName);
-        (isMain ? static_cast<QBoxLayout*>(main) : deletedFiles)->addWidget(entry);
+        (isMain ? static_cast<QBoxLayout*>(main) : deletedFiles)->addWidget(entry, isMain ? 0 : 1);
         connect(entry, &QPushButton::clicked, this, [this, &kind] { kind.follow(*this, kind.page); });
     }
     layout()->addWidget(MainView);

@@ -338,7 +338,7 @@
   </message>
   <message id="Hidden_Label">
     <source></source>
-    <translation>&amp;Hidden</translation>
+    <translation>Hi&amp;dden</translation>
   </message>
   <message id="Hidden_Tip_Label">
     <source></source>
@@ -370,7 +370,7 @@
   </message>
   <message id="Delete_Inhibit_Label">
     <source></source>
-    <translation>&amp;Delete Inhibit</translation>
+    <translation>De&amp;lete Inhibit</translation>
   </message>
   <message id="Delete_Inhibit_Tip_Label">
     <source></source>
@@ -394,7 +394,7 @@
   </message>
   <message id="Directory_Quota_Label">
     <source></source>
-    <translation>Directory &amp;Quota</translation>
+    <translation>Directory Q&amp;uota</translation>
   </message>
   <message id="Limit_Label">
     <source></source>
@@ -451,11 +451,11 @@
   </message>
   <message id="Salvage_Description_Label">
     <source></source>
-    <translation>Deleted files to bring back</translation>
+    <translation>Bring deleted files back</translation>
   </message>
   <message id="Purge_Description_Label">
     <source></source>
-    <translation>Deleted files to remove for good</translation>
+    <translation>Remove deleted files</translation>
   </message>
   <message id="Salvage_Purpose_Label">
     <source></source>
