@@ -27,14 +27,6 @@ struct FileSystemRightsTest : RightsViewsFixture {
     FileSystemRightsViewController* openView(const char* user = demo::supervisor) {
         return openPage<FileSystemRightsViewController>(user, "ActiveDirectory");
     }
-    template <class View>
-    static View* sheet(const QWidget* over) {
-        View* last = nullptr;
-        for (QWidget* each : over->window()->findChildren<QWidget*>())
-            if (auto* found = dynamic_cast<View*>(each))
-                last = found;
-        return last;
-    }
     /// "add VOL1:\a 0x41" for each change that reached the server.
     Texts changes() const {
         static const QRegularExpression change(

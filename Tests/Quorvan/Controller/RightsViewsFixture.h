@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Controller/IdentityBrowsers.h"
 #include "Tests/Quorvan/Controller/PropertyFixture.h"
 
 namespace quorvan::test {
+
+/// Stands in for a browser of identities, to answer what the real ones would not; says what was wanted.
+struct FakeBrowser : ViewController, IdentityBrowser {
+    explicit FakeBrowser(const char* browserName) { setObjectName(QLatin1String(browserName)); }
+    void prepare(ViewController&, IdentityBrowserDelegate&, const IdentityWish& wanted) override {
+        wish = wanted;
+    }
+    IdentityWish wish;
+};
 
 /// The folder of RightsTabFixture with trustees above, below and beside it, and browsers that hand on an
 /// answer.
@@ -28,7 +38,17 @@ struct RightsViewsFixture : RightsTabFixture {
     static bool ticked(const RightsTable& table, int row, const char* identifier) {
         return table.box(row, identifier).data(Qt::CheckStateRole).toInt() == Qt::Checked;
     }
-    static FakeBrowser& browser(const QWidget* view) { return PropertyFixture::browser(view); }
+    /// The browser that was opened last over the window of a view.
+    static FakeBrowser& browser(const QWidget* view) { return *sheet<FakeBrowser>(view); }
+    template <class View>
+    static View* sheet(const QWidget* over) {
+        View* last = nullptr;
+        for (QWidget* each : over->window()->findChildren<QWidget*>())
+            if (auto* found = dynamic_cast<View*>(each))
+                last = found;
+        EXPECT_NE(last, nullptr);
+        return last;
+    }
     static void type(QLineEdit* field, const char* text) { PropertyFixture::type(field, text); }
 };
 
