@@ -23,6 +23,7 @@ void InformationViewController::loadView() {
     buildHeader(*page);
     directoryQuotaTabView = outlet(new QTabWidget(this), "directoryQuotaTabView");
     KelpAttributesTab = outlet(buildAttributes(), "KelpAttributesTab");
+    KelpAttributesTab->setEnabled(false); // applied unread, all of them would be switched off
     directoryQuotaTab = outlet(buildQuota(), "directoryQuotaTab");
     directoryQuotaTabView->addTab(KelpAttributesTab, QString());
     directoryQuotaTabView->addTab(directoryQuotaTab, QString());

@@ -116,6 +116,7 @@ void InformationViewController::getFileAttributes() {
 void InformationViewController::updateFileAttributes() {
     if (!fileAttributes.attributes)
         return;
+    KelpAttributesTab->setEnabled(true);
     editedFileAttributes = *fileAttributes.attributes;
     clearFileAttributes();
     for (const std::string& name : editedFileAttributes) {
