@@ -57,6 +57,9 @@ struct UserQuotaTest : PropertyFixture {
         }
         return found;
     }
+    void clickHeader() {
+        QTest::mouseClick(table->horizontalHeader()->viewport(), Qt::LeftButton, {}, {20, 8});
+    }
     void enterLimit(const char* limit) {
         type(front<QLineEdit>("quotaLimitTextField"), limit);
         click(front<QPushButton>("okBtn"));
@@ -108,7 +111,7 @@ TEST_F(UserQuotaTest, ListsSearchesAndSorts) {
     EXPECT_THAT(rows(), ElementsAre("Smith 1 GB"));
     type(view->searchField, "*j*n");
     EXPECT_THAT(rows(), ElementsAre("jürgen 1 GB", "Jan 1 GB"));
-    QTest::mouseClick(table->horizontalHeader()->viewport(), Qt::LeftButton, {}, {20, 8});
+    clickHeader();
     EXPECT_THAT(rows(), ElementsAre("Jan 1 GB", "jürgen 1 GB"));
     type(view->searchField, "q");
     EXPECT_EQ(table->emptyText(), "nothing like q");
@@ -305,13 +308,15 @@ TEST_F(UserQuotaTest, HoldsAHundredThousandUsers) {
     QElapsedTimer clock;
     clock.start();
     openView();
-    QTest::mouseClick(table->horizontalHeader()->viewport(), Qt::LeftButton, {}, {20, 8});
+    const qint64 loading = clock.restart();
+    clickHeader();
     QTest::keyClicks(view->searchField, "9");
     QTest::keyClick(view->searchField, Qt::Key_Escape);
     QItemSelection tenth;
     for (int row = 0; row < count; row += 10)
         tenth.select(cell(row, 0), cell(row, 3));
     table->selectionModel()->select(tenth, QItemSelectionModel::Select);
+    clickHeader(); // the selection follows the order
     click(view->removeUQButton);
     EXPECT_EQ(view->usersEdited.size(), count / 10 * 9);
     EXPECT_EQ(view->usersDisplay.size(), count / 10 * 9);
@@ -319,7 +324,7 @@ TEST_F(UserQuotaTest, HoldsAHundredThousandUsers) {
     click(view->editUQButton);
     enterLimit("5");
     EXPECT_EQ(view->usersEdited.back()->action, "MODIFY");
-    EXPECT_LT(clock.elapsed(), 15000) << "something looks for each user among all others";
+    EXPECT_LT(clock.elapsed(), 6 * loading) << "something looks for each user among all others";
 }
 
 } // namespace
