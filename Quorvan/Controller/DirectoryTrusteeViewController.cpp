@@ -214,11 +214,8 @@ void DirectoryTrusteeViewController::onRevertClick(QObject* /*sender*/) {
 void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
     if (trackTrusteeList.empty())
         return;
-    const std::int32_t status = renewController().openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
-    if (status != 0) {
-        reportFailedStatus(status);
+    if (!openPipe("/IPC$", "/FilesCmdPipe"))
         return;
-    }
     xmlController->setTrusteeforDir(trackTrusteeList, domainIdentity);
     XMLReadWriteController::closePipe();
     trackTrusteeList.clear();

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/EffectiveRightsViewController.h"
 
-#include "Common/FeatureFlags.h"
+#include "Common/Fatal.h"
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/MainMenu.h"
-#include "Quorvan/Controller/OwnRights.h"
 #include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
@@ -22,16 +21,13 @@ namespace quorvan {
 
 void EffectiveRightsViewController::viewDidLoad() {
     effRightsTable->setSortDescriptorPrototype(0, {"TrusteeName", true});
-    featureFlagDict = readFeatureFlags();
-    multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
-    addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
+    readFlags();
 }
 
 void EffectiveRightsViewController::viewDidAppear() {
     initEffRightsMainView();
     domainIdentity = ServerDetails::serverInfo().getIdentityType();
-    if (Shared::value().bothID && !addBothTrusteesFlag)
-        selectUserBtn->setEnabled(false);
+    disableWhereBothAreShown();
     initEffRightsTable();
     redisplay();
 }
@@ -46,11 +42,8 @@ void EffectiveRightsViewController::initEffRightsMainView() {
 }
 
 void EffectiveRightsViewController::checkMappedInUserRights() {
-    const auto own = loadOwnRights(renewController(), selectedPath, serverIP, mappedPath, domainIdentity);
-    if (!own)
+    if (!loadOwnRights())
         return;
-    isSupervisor = own->isSupervisor;
-    isAccessControl = own->isAccessControl;
     if (isSupervisor || isAccessControl)
         selectUserBtn->setEnabled(true);
     else
@@ -86,17 +79,7 @@ void EffectiveRightsViewController::redisplay() {
     quorvan::redisplay(*effRightsTable, isSearching, *searchField);
 }
 
-void EffectiveRightsViewController::onSelectTrusteeClick(QObject* /*sender*/) {
-    openIdentityBrowser(*this, *this, domainIdentity, {"", false}, Shared::value().bothID, multiForestFlag);
-}
-
-void EffectiveRightsViewController::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity = identityType;
-    openIdentityBrowser(*this, *this, domainIdentity, {"", false});
-}
-
-bool EffectiveRightsViewController::onReturnMorvaneSelectedUser(
-    const std::vector<User>& users) {
+bool EffectiveRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
     require(!users.empty(), "The browser returned no identity");
     userGroupField->setPath(QString::fromStdString(users.back().trusteeName));
     initEffRforUser(users.back().trusteeID);
@@ -114,11 +97,8 @@ bool EffectiveRightsViewController::onReturnSelectedUser(const std::vector<std::
 }
 
 void EffectiveRightsViewController::initEffRforUser(const std::string& userID) {
-    const std::int32_t status = renewController().openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
-    if (status != 0) {
-        reportFailedStatus(status);
+    if (!openPipe("/IPC$", "/FilesCmdPipe"))
         return;
-    }
     xmlController->getEffectiveRightsforUserOnPath(selectedPath, userID, effRforUser, domainIdentity);
     XMLReadWriteController::closePipe();
     setEffR();

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Bundle.h"
-#include "Quorvan/Controller/IdentityBrowsers.h"
-#include "Quorvan/Controller/SelectionContext.h"
+#include "Quorvan/Controller/IdentityChoice.h"
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
@@ -11,7 +9,6 @@
 
 class QCheckBox;
 class QLabel;
-class QPushButton;
 
 namespace quorvan {
 
@@ -23,10 +20,11 @@ class RightsBoxes;
 ///
 /// Each visit asks the server anew. A search that is on survives that and goes on over the rows it began
 /// with.
-class EffectiveRightsViewController : public ViewController,
-                                      public SelectionContext,
-                                      public IdentityBrowserDelegate {
+class EffectiveRightsViewController : public ViewController, public IdentityChoice {
 public:
+    EffectiveRightsViewController()
+        : IdentityChoice(static_cast<ViewController&>(*this)) {}
+
     // Outlets
     PathLabel* currentPath = nullptr;
     QLabel* effectiveLabel = nullptr;
@@ -44,16 +42,10 @@ public:
     QCheckBox* fsChk = nullptr;
     QCheckBox* accessChk = nullptr;
     QCheckBox* supervisorChk = nullptr;
-    QPushButton* selectUserBtn = nullptr;
 
     TrusteeList trusteeList;             ///< the rows; while searching, those that match
     TrusteeList backupEditedTrusteeList; ///< the rows as they were when the search started
     Rights effRforUser;                  ///< of the chosen identity
-    bool isSupervisor = false;
-    bool isAccessControl = false;
-    std::optional<platform::FeatureDictionary> featureFlagDict;
-    bool multiForestFlag = false;
-    bool addBothTrusteesFlag = false;
     bool isSearching = false;
 
     void loadView() override;
@@ -70,8 +62,6 @@ public:
     void reloadTrusteeList();
     void sortDescriptorsDidChange();
 
-    void onSelectTrusteeClick(QObject* sender);
-    void onReturnIdentifySource(const std::string& identityType) override;
     bool onReturnMorvaneSelectedUser(const std::vector<User>& users) override;
     bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
                               const std::string& category) override;

@@ -6,12 +6,9 @@
 #include "Platform/PercentEscapes.h"
 #include "Quorvan/Controller/GroupRightsViewController.h"
 #include "Quorvan/Controller/MainMenu.h"
-#include "Quorvan/Controller/OwnRights.h"
-#include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/Utils.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -36,14 +33,11 @@ bool isUserType(const std::string& type) {
 } // namespace
 
 void FileSystemRightsViewController::viewDidLoad() {
-    featureFlagDict = readFeatureFlags();
+    readFlags();
     newFileBrowserFlag = featureFlag(*featureFlagDict, "newFileBrowser");
-    multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
-    addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
     initFSRMainView();
     fsrTable->setSortDescriptorPrototype(0, {"fpath", true});
-    if (Shared::value().bothID && !addBothTrusteesFlag)
-        selectUserBtn->setEnabled(false);
+    disableWhereBothAreShown();
     redisplay();
 }
 
@@ -61,11 +55,7 @@ void FileSystemRightsViewController::initFSRMainView() {
 }
 
 void FileSystemRightsViewController::checkMappedInUserRights() {
-    const auto own = loadOwnRights(renewController(), selectedPath, serverIP, mappedPath, domainIdentity);
-    if (own) {
-        isSupervisor = own->isSupervisor;
-        isAccessControl = own->isAccessControl;
-    }
+    loadOwnRights();
     if (isSupervisor)
         selectUserBtn->setEnabled(true);
     readOnlyLabel->setVisible(!isSupervisor);
@@ -82,12 +72,10 @@ void FileSystemRightsViewController::setBtnState() {
 void FileSystemRightsViewController::initFSRRightsTable(const std::string& userID) {
     frightsList.clear();
     trackfrightsList.clear();
-    const std::int32_t status = renewController().openPipe(serverIP, "/IPC$", "/RightsCmdPipe");
-    if (status == 0) {
+    if (openPipe("/IPC$", "/RightsCmdPipe")) {
         xmlController->getFSRights(selectedPath, {userID}, frightsList, domainIdentity);
         XMLReadWriteController::closePipe();
     } else {
-        reportFailedStatus(status);
         onReturnMainMenu();
     }
     showLoadedRows();
@@ -107,15 +95,6 @@ void FileSystemRightsViewController::redisplay() {
 
 void FileSystemRightsViewController::setChangesEnabled(bool enabled) {
     quorvan::setChangesEnabled(enabled, revertBtn, applyBtn, fsrTable);
-}
-
-void FileSystemRightsViewController::onSelectTrusteeClick(QObject* /*sender*/) {
-    openIdentityBrowser(*this, *this, domainIdentity, {"", false}, Shared::value().bothID, multiForestFlag);
-}
-
-void FileSystemRightsViewController::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity = identityType;
-    openIdentityBrowser(*this, *this, domainIdentity, {"", false});
 }
 
 bool FileSystemRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {

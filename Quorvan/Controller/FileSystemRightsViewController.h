@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Bundle.h"
 #include "Quorvan/Controller/BrowseFolderViewController.h"
-#include "Quorvan/Controller/IdentityBrowsers.h"
-#include "Quorvan/Controller/SelectionContext.h"
+#include "Quorvan/Controller/IdentityChoice.h"
 #include "Quorvan/Toolkit/RightsPage.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
@@ -21,17 +19,16 @@ class Segue;
 /// holds rights, changes them, and adds and removes paths.
 ///
 /// Apply sends one request for each pending change. Choosing another identity drops them.
-class FileSystemRightsViewController : public RightsPage,
-                                       public SelectionContext,
-                                       public IdentityBrowserDelegate,
-                                       public BrowseFolderDelegate {
+class FileSystemRightsViewController : public RightsPage, public IdentityChoice, public BrowseFolderDelegate {
 public:
+    FileSystemRightsViewController()
+        : IdentityChoice(static_cast<ViewController&>(*this)) {}
+
     // Outlets
     PathLabel* currentPath = nullptr;
     QLabel* fsrTitle = nullptr;
     QLabel* usergrpTitle = nullptr;
     PathLabel* namefield = nullptr; ///< the chosen identity
-    QPushButton* selectUserBtn = nullptr;
     QPushButton* grpBtn = nullptr;
     RightsTable* fsrTable = nullptr;
     QLabel* addRemoveTitle = nullptr;
@@ -57,12 +54,7 @@ public:
     std::string SelectedTrusteeType;
     FileRights::Order sortOrder = FileRights::Order::fpath;
     bool sortAscending = true; ///< of this view alone
-    bool isSupervisor = false;
-    bool isAccessControl = false;
-    std::optional<platform::FeatureDictionary> featureFlagDict;
     bool newFileBrowserFlag = false;
-    bool multiForestFlag = false;
-    bool addBothTrusteesFlag = false;
 
     void loadView() override;
     void viewDidLoad() override;
@@ -76,8 +68,6 @@ public:
     void prepare(const Segue& segue);
     void sortDescriptorsDidChange();
 
-    void onSelectTrusteeClick(QObject* sender);
-    void onReturnIdentifySource(const std::string& identityType) override;
     bool onReturnMorvaneSelectedUser(const std::vector<User>& users) override;
     bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
                               const std::string& category) override;

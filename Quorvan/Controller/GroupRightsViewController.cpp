@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/GroupRightsViewController.h"
 
-#include "Common/Fatal.h"
-#include "Common/ServerDetails.h"
+#include "Common/Log.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/DistinguishedName.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
 #include "Quorvan/ViewModal/BrowseLdapViewModal.h"
@@ -50,10 +48,6 @@ private:
 };
 
 } // namespace
-
-GroupRightsViewController::GroupRightsViewController()
-    : domainIdentity(ServerDetails::serverInfo().getIdentityType())
-    , serverIP(unwrap(ServerDetails::serverInfo().serverIP, "There is no server to work on")) {}
 
 void GroupRightsViewController::loadView() {
     groupRightsTable =
@@ -103,14 +97,6 @@ void GroupRightsViewController::viewDidAppear() {
 
 void GroupRightsViewController::redisplay() {
     quorvan::redisplay(*groupRightsTable, isSearching, *searchField, "No_Group_Rights_Label");
-}
-
-bool GroupRightsViewController::openPipe(const char* share, const char* pipe) {
-    xmlController = std::make_unique<XMLReadWriteController>();
-    const std::int32_t status = xmlController->openPipe(serverIP, share, pipe);
-    if (status != 0)
-        reportFailedStatus(status);
-    return status == 0;
 }
 
 std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const std::string& id) {

@@ -1,31 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Controller/SelectionContext.h"
 #include "Quorvan/Modal/Users.h"
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/ViewController.h"
-#include "Quorvan/ViewModal/XMLReadWrite.h"
 
 class QPushButton;
 
 namespace quorvan {
 
 /// The sheet that shows, for reading, what one user holds below the selected path through its groups.
-class GroupRightsViewController : public ViewController {
+class GroupRightsViewController : public ViewController, public SelectionContext {
 public:
-    GroupRightsViewController();
-
     // Outlets
     SearchField* searchField = nullptr;
     RightsTable* groupRightsTable = nullptr;
     QPushButton* closeBtn = nullptr;
 
-    // Set before the sheet is presented
+    // Set before the sheet is presented, as are selectedPath and domainIdentity
     std::string trusteeID;
     std::string SelectedTrusteeName; ///< the user's name in the tree
-    std::string selectedPath;
-    std::string domainIdentity;
 
     /// What a group holds on a path.
     struct GroupRow {
@@ -39,8 +35,6 @@ public:
     std::vector<GroupRow> grpTrusteeList;       ///< the rows; while searching, those that match
     std::vector<GroupRow> backupGrpTrusteeList; ///< the rows as they were when the search started
     std::vector<Group> grouplist;               ///< the user's groups of the tree
-    std::unique_ptr<XMLReadWriteController> xmlController;
-    std::string serverIP;
     bool isSearching = false;
 
     void loadView() override;
@@ -60,7 +54,6 @@ public:
 
 private:
     std::vector<std::string> groupsOfTheTree();
-    bool openPipe(const char* share, const char* pipe);
     void redisplay();
 
     RowSearch<GroupRow> search_{grpTrusteeList,

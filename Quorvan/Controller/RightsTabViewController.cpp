@@ -209,11 +209,8 @@ void RightsTabViewController::onRevertClick(QObject* /*sender*/) {
 void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
     if (trackTrusteeList.empty())
         return;
-    const std::int32_t status = renewController().openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
-    if (status != 0) {
-        reportFailedStatus(status);
+    if (!openPipe("/IPC$", "/FilesCmdPipe"))
         return;
-    }
     xmlController->setTrustee(trackTrusteeList, selectedPath, domainIdentity);
     XMLReadWriteController::closePipe();
     trackTrusteeList.clear();

@@ -4,6 +4,7 @@
 #include "Common/Fatal.h"
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Shared.h"
+#include "Quorvan/Toolkit/FailedStatus.h"
 
 namespace quorvan {
 
@@ -21,6 +22,13 @@ SelectionContext::SelectionContext()
 XMLReadWriteController& SelectionContext::renewController() {
     xmlController = std::make_unique<XMLReadWriteController>();
     return *xmlController;
+}
+
+bool SelectionContext::openPipe(const char* share, const char* pipe) {
+    const std::int32_t status = renewController().openPipe(serverIP, share, pipe);
+    if (status != 0)
+        reportFailedStatus(status);
+    return status == 0;
 }
 
 QString SelectionContext::selectedPathName() {

@@ -17,6 +17,10 @@ struct SelectionContext {
     /// A request controller for the next operation.
     XMLReadWriteController& renewController();
 
+    /// Opens a pipe for the next operation, whose request controller is new; a failure is reported to the
+    /// user.
+    bool openPipe(const char* share, const char* pipe);
+
     /// The path that was selected, to be shown; requests go to where a link on it leads.
     static QString selectedPathName();
 
