@@ -14,7 +14,8 @@ inline std::string percentEscaped(std::string_view path) {
     constexpr std::string_view hexDigits = "0123456789ABCDEF";
     std::string escaped;
     for (const char character : path) {
-        if (urlAlphanumerics.find(character) != std::string_view::npos ||
+        const char letter = static_cast<char>(character | 0x20);
+        if ((letter >= 'a' && letter <= 'z') || (character >= '0' && character <= '9') ||
             std::string_view("/-._~$").find(character) != std::string_view::npos) {
             escaped += character;
         } else {

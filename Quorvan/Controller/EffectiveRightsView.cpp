@@ -37,7 +37,6 @@ void EffectiveRightsViewController::buildChosenIdentity() {
     userGroupField = outlet(new PathLabel(this), "userGroupField", L("User_Group_Label"));
     userGroupField->setPlaceholderText(L("Nobody_Chosen_Label"));
     selectUserBtn = outlet(new QPushButton(L("Choose_title"), this), "selectUserBtn");
-    selectUserBtn->setToolTip(L("Choose_Effective_Tip_Label"));
     selectUserBtn->setEnabled(false);
     connect(selectUserBtn, &QPushButton::clicked, this, [this] { onSelectTrusteeClick(selectUserBtn); });
 

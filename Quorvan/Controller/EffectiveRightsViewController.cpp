@@ -44,10 +44,10 @@ void EffectiveRightsViewController::initEffRightsMainView() {
 void EffectiveRightsViewController::checkMappedInUserRights() {
     if (!loadOwnRights())
         return;
-    if (isSupervisor || isAccessControl)
+    const bool mayChoose = isSupervisor || isAccessControl;
+    if (mayChoose)
         selectUserBtn->setEnabled(true);
-    else
-        selectUserBtn->setToolTip(L("Choose_Needs_Rights_Label"));
+    selectUserBtn->setToolTip(L(mayChoose ? "Choose_Effective_Tip_Label" : "Choose_Needs_Rights_Label"));
 }
 
 void EffectiveRightsViewController::initEffRightsTable() {

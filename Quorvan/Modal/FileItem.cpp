@@ -16,6 +16,9 @@ constexpr std::string_view fileScheme = "file://";
 FileItem::FileItem(const std::string& path, bool isFolder)
     : fileUrl(std::string(fileScheme) + platform::percentEscaped(path) + (isFolder ? "/" : "")) {}
 
+FileItem::FileItem(const FileItem& folder, const std::string& name, bool isFolder)
+    : fileUrl(folder.fileUrl + platform::percentEscaped(name) + (isFolder ? "/" : "")) {}
+
 std::string FileItem::path() const {
     std::string path = platform::percentUnescaped(std::string_view(fileUrl).substr(fileScheme.size()));
     if (path.ends_with('/'))
@@ -31,8 +34,7 @@ std::string FileItem::lastPathComponent() const {
 std::vector<FileItem> FileItem::computeChildren() const {
     platform::LocalVolumes& volumes = *platform::services().volumes;
     const std::string folder = path();
-    const auto kind = volumes.kindOf(folder);
-    if (kind != platform::LocalVolumes::Kind::folder)
+    if (!isFolder() || volumes.kindOf(folder) != platform::LocalVolumes::Kind::folder)
         return {};
     const platform::LocalListing listing = volumes.list(folder);
     if (!listing.error.empty())
@@ -40,7 +42,7 @@ std::vector<FileItem> FileItem::computeChildren() const {
     std::vector<FileItem> children;
     children.reserve(listing.entries.size());
     for (const platform::LocalEntry& entry : listing.entries)
-        children.emplace_back(folder + "/" + entry.name, entry.isFolder);
+        children.emplace_back(*this, entry.name, entry.isFolder);
     return children;
 }
 

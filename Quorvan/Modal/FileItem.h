@@ -13,6 +13,9 @@ public:
     /// `path` begins with /Volumes; what is there need not exist.
     FileItem(const std::string& path, bool isFolder);
 
+    /// What lies in a folder.
+    FileItem(const FileItem& folder, const std::string& name, bool isFolder);
+
     /// Percent-escaped, with a slash at its end for a folder: file:///Volumes/VOL1/my%20docs/
     std::string fileUrl;
 

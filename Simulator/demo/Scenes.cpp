@@ -225,6 +225,7 @@ void showMainPages(const Output& output) {
         stage.photograph("61-browse-ad-fetched", "the Active Directory browser");
     }
     showMainProperties(output);
+    showMoreRights(output);
 }
 
 } // namespace quorvan::demo

@@ -31,6 +31,7 @@ struct RightsViewsTest : RightsViewsFixture {
     void visit(int item) {
         QTabBar* bar = tabs->tabView->tabBar();
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(item).center());
+        QCoreApplication::processEvents(); // the controls of a view that loads under the eyes follow
     }
     /// The rows of a folder tab's table as "admin VOL1:\Tests 0x41".
     static Texts rows(const DirectoryTrusteeViewController::Rows& list) {
@@ -39,6 +40,15 @@ struct RightsViewsTest : RightsViewsFixture {
             texts.push_back(trustee->trusteeName + " " + path + " 0x" +
                             QString::number(trustee->rights, 16).toStdString());
         return texts;
+    }
+    static QStringList visitedFrom(QWidget* control, int steps) {
+        control->setFocus();
+        QStringList visited;
+        for (int step = 0; step < steps; ++step) {
+            visited.append(QApplication::focusWidget()->objectName());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        return visited;
     }
     ViewTabController* tabs = nullptr;
 };
@@ -177,6 +187,33 @@ TEST_F(RightsViewsTest, BothIdentitiesComeTogetherAndTheFirstFailsInSilence) {
     bundle->features->at("addBothTrustees") = false;
     view = openTab<EffectiveRightsViewController>(ViewTabController::effectiveTabLabel);
     EXPECT_FALSE(view->selectUserBtn->isEnabled()) << "even for a supervisor";
+}
+
+TEST_F(RightsViewsTest, NameEveryControlAndReachItByTab) {
+    const auto* filter = openTab<InheritedRightsViewController>(ViewTabController::inheritedTabLabel);
+    click(filter->readIRF);
+    EXPECT_EQ(visitedFrom(filter->readIRF, 9),
+              QStringList({"readIRF", "writeIRF", "eraseIRF", "createIRF", "modifyIRF", "fscanIRF",
+                           "accessIRF", "revertBtn", "applyBtn"}));
+    const auto* effective = openTab<EffectiveRightsViewController>(ViewTabController::effectiveTabLabel);
+    EXPECT_EQ(visitedFrom(effective->searchField, 3),
+              QStringList({"searchField", "effRightsTable", "selectUserBtn"}));
+    const auto* folders = openTab<DirectoryTrusteeViewController>(ViewTabController::trusteeDirTabLabel);
+    click(folders->removeBtnSub);
+    EXPECT_EQ(visitedFrom(folders->searchInSubField, 8),
+              QStringList({"searchInSubField", "subdirTable", "removeBtnSub", "searchInParentField",
+                           "parentdirTable", "removeBtnParent", "revertbtn", "applybtn"}));
+    QTest::keySequence(tabs, QKeySequence::Find);
+    const QString first = QApplication::focusWidget()->objectName();
+    QTest::keySequence(tabs, QKeySequence::Find);
+    EXPECT_NE(first, QApplication::focusWidget()->objectName()) << "the search fields take turns";
+    for (const QWidget* control : tabs->findChildren<QWidget*>())
+        if (control->focusPolicy() != Qt::NoFocus && !control->objectName().isEmpty() &&
+            !control->objectName().startsWith("qt_") && !control->objectName().startsWith("Scroll")) {
+            const auto* button = qobject_cast<const QAbstractButton*>(control);
+            EXPECT_FALSE((button != nullptr ? button->text() : control->accessibleName()).isEmpty())
+                << control->objectName().toStdString();
+        }
 }
 
 TEST(ParentPaths, EndWithTheRootInBothSpellings) {
