@@ -624,7 +624,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Choose_title">
     <source></source>
-    <translation>C&amp;hoose…</translation>
+    <translation>Ch&amp;oose…</translation>
   </message>
   <message id="Choose_Effective_Tip_Label">
     <source></source>
