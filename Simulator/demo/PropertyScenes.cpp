@@ -87,39 +87,39 @@ void showUserQuotas(const Output& output) {
     {
         Stage stage(output, Embedded::demo());
         openUserQuotas(stage);
-        stage.photograph("80-user-quotas", "the users with a quota on the volume; some are over it");
+        stage.photograph("50-user-quotas", "the users with a quota on the volume; some are over it");
         stage.type("searchField", "m*a");
-        stage.photograph("81-user-quotas-searched", "names that match a pattern");
+        stage.photograph("51-user-quotas-searched", "names that match a pattern");
         stage.type("searchField", "");
         selectUsers(stage, {1, 2, 4});
         stage.press("editUQButton");
         stage.type("quotaLimitTextField", "25");
-        stage.photograph("82-edit-user-quotas", "another limit for three users");
+        stage.photograph("52-edit-user-quotas", "another limit for three users");
         stage.type("quotaLimitTextField", "10 GB");
-        stage.expectDialog("83-edit-invalid-limit", "the sheet after OK with a limit that is none");
+        stage.expectDialog("53-edit-invalid-limit", "the sheet after OK with a limit that is none");
         stage.press("okBtn");
         stage.type("quotaLimitTextField", "25");
         stage.press("okBtn");
-        stage.photograph("84-user-quotas-edited", "those that were edited come first");
+        stage.photograph("54-user-quotas-edited", "those that were edited come first");
         selectUsers(stage, {0});
         stage.press("removeUQButton");
         stage.press("applyButton");
-        stage.photograph("85-user-quotas-applied", "one removed, and all of it sent");
+        stage.photograph("55-user-quotas-applied", "one removed, and all of it sent");
         stage.press("addUQButton");
-        stage.photograph("86-add-user-quotas", "the dialog for new users, before any are chosen");
+        stage.photograph("56-add-user-quotas", "the dialog for new users, before any are chosen");
         stage.press("cancelBtn");
     }
     {
         Stage stage(output, Embedded::demo(account::readOnlyTree));
         openUserQuotas(stage);
-        stage.photograph("87-user-quotas-read-only", "the tree's users, for reading only");
+        stage.photograph("57-user-quotas-read-only", "the tree's users, for reading only");
     }
     Stage stage(output, Embedded::demo());
     stage.world.server->misbehaviour.onlyPipe = "/Manage_KELP/user.cmd";
     stage.world.server->misbehaviour.openError = EACCES;
-    stage.expectDialog("88-alert-quotas-failed", "the alert when the quotas cannot be read");
+    stage.expectDialog("58-alert-quotas-failed", "the alert when the quotas cannot be read");
     openUserQuotas(stage);
-    stage.photograph("89-no-user-quotas", "… and the page then");
+    stage.photograph("59-no-user-quotas", "… and the page then");
 }
 
 void showDeletedFiles(const Output& output) {
@@ -153,10 +153,10 @@ void showMainProperties(const Output& output) {
     stage.photograph("31-limit-edited", "its limit can be typed");
     stage.press("closeButton");
     stage.press("UserQuotaView");
-    stage.photograph("80-user-quotas", "the users with a quota on the volume");
+    stage.photograph("50-user-quotas", "the users with a quota on the volume");
     selectUsers(stage, {1, 2, 4});
     stage.press("editUQButton");
-    stage.photograph("82-edit-user-quotas", "another limit for three users");
+    stage.photograph("52-edit-user-quotas", "another limit for three users");
     stage.press("cancelBtn");
     stage.press("closeButton");
     stage.press("SalvageView");
