@@ -8,6 +8,7 @@
 #include "Quorvan/Toolkit/PathLabel.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTreeView>
@@ -19,7 +20,8 @@ namespace quorvan {
 
 namespace {
 
-/// Shows no arrow at folders that turn out to be empty when they come into view.
+/// Shows no arrow at folders that turn out to be empty when they come into view. One key must not open all
+/// folders of a volume.
 class FileTree : public QTreeView {
 public:
     using QTreeView::QTreeView;
@@ -28,6 +30,10 @@ protected:
     void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override {
         if (static_cast<const FileTreeModel*>(model())->isExpandable(index))
             QTreeView::drawBranches(painter, rect, index);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() != Qt::Key_Asterisk)
+            QTreeView::keyPressEvent(event);
     }
 };
 

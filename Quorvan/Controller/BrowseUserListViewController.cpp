@@ -2,6 +2,7 @@
 #include "Quorvan/Controller/BrowseUserListViewController.h"
 
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PlainToolTip.h"
 
 #include <QComboBox>
 #include <QPushButton>
@@ -69,7 +70,7 @@ void BrowseUserListViewController::onChangeDomainPopUp(QObject* sender) {
     } else if (identifier == QLatin1String("idDomainName")) {
         selectedDomain = popUp->currentText().toStdString();
         ldapList().selectedDomain = selectedDomain;
-        domainPopUp->setToolTip(popUp->currentText()); // it may be too long for its place
+        domainPopUp->setToolTip(plainToolTip(popUp->currentText())); // it may be too long for its place
     }
     btnFetch->setEnabled(true);
     searchField->setEnabled(isPlaceChosen());

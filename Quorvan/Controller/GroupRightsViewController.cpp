@@ -4,6 +4,7 @@
 #include "Common/Log.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/DistinguishedName.h"
+#include "Quorvan/Modal/Utils.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
 #include "Quorvan/ViewModal/BrowseLdapViewModal.h"
@@ -124,7 +125,7 @@ std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
         if (!convertDntoContextAndNameRootLeft(group.groupName, context, name))
             Log("error in DN conversion");
         const std::string guid = xmlController->getGuid_Morvane(context, name);
-        if (guid.empty())
+        if (guid.empty() || decimalNumber(guid)) // a number is the status with which the server has none
             continue;
         guids.push_back(guid);
         group.id = guid;

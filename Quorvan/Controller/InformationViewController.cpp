@@ -11,6 +11,7 @@
 #include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
+#include "Quorvan/Toolkit/PlainToolTip.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 
 #include <QCheckBox>
@@ -96,7 +97,7 @@ void InformationViewController::showOwner(const std::string& name, const std::st
     ownerField->setPlaceholderText(id.empty() ? L("No_Owner_Label")
                                               : L("Owner_Gone_Label").arg(QString::fromStdString(id)));
     ownerField->setText(QString::fromStdString(name));
-    ownerField->setToolTip(QString::fromStdString(id));
+    ownerField->setToolTip(plainToolTip(QString::fromStdString(id)));
     ownerField->setCursorPosition(0);
     const int edge = ownerField->fontMetrics().height();
     // The owner may be of either directory, whichever the page works in.

@@ -2,6 +2,7 @@
 #include "Quorvan/Toolkit/ListTable.h"
 
 #include "Quorvan/Toolkit/ListModel.h"
+#include "Quorvan/Toolkit/PlainToolTip.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -164,8 +165,8 @@ bool ListTable::viewportEvent(QEvent* event) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const QModelIndex index = indexAt(help->pos());
         if (index.isValid() && !index.data(Qt::ToolTipRole).isValid()) {
-            QToolTip::showText(help->globalPos(), showsInFull(index) ? QString() : index.data().toString(),
-                               viewport(), visualRect(index));
+            const QString tip = showsInFull(index) ? QString() : plainToolTip(index.data().toString());
+            QToolTip::showText(help->globalPos(), tip, viewport(), visualRect(index));
             return true;
         }
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/PathLabel.h"
 
+#include "Quorvan/Toolkit/PlainToolTip.h"
+
 namespace quorvan {
 
 PathLabel::PathLabel(QWidget* parent)
@@ -12,7 +14,7 @@ PathLabel::PathLabel(QWidget* parent)
 
 void PathLabel::setPath(const QString& path) {
     setText(path);
-    setToolTip(path);
+    setToolTip(plainToolTip(path));
     setCursorPosition(0);
 }
 

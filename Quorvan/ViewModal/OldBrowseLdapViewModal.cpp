@@ -61,8 +61,8 @@ Names OldBrowseLdapViewModal::searchAD(const std::string& text, const std::strin
         failed = !values;
         if (failed)
             break;
-        require(!values->empty(), "A record that was found by its name has none");
-        names.push_back(values->front());
+        if (!values->empty())
+            names.push_back(values->front());
     }
     if (failed)
         Log("Error in Open Directory Session");

@@ -131,6 +131,9 @@ TEST_F(FileSystemRightsTest, TheFolderBrowserHandsOnWhatIsSelectedInTheOrderOfTh
         return QModelIndex();
     };
     const QModelIndex tests = child(tree.model()->index(0, 0), "Tests");
+    tree.setCurrentIndex(tests);
+    QTest::keyClick(&tree, Qt::Key_Asterisk);
+    EXPECT_FALSE(tree.isExpanded(child(tests, "Box"))) << "one key would open all folders of the volume";
     tree.expand(tests);
     const QModelIndex box = child(tests, "Box");
     tree.expand(box);
@@ -231,6 +234,14 @@ TEST_F(FileSystemRightsTest, GroupRightsOfEitherDirectoryAppearWithEveryAppearan
     groups->grouplist.clear();
     groups->addToDataSource(groups->frightsList);
     EXPECT_EQ(groups->grpTrusteeList.back().groupName, "Unknown");
+    click(groups->closeBtn);
+
+    world.server->misbehaviour.code = 7;
+    world.server->misbehaviour.onlyWith = "<attributeName>guid<";
+    click(view->grpBtn);
+    groups = sheet<GroupRightsViewController>(view);
+    EXPECT_EQ(groups->grouplist.size(), 1U);
+    EXPECT_THAT(groups->grpIDs, IsEmpty()) << "the server's code is no ID";
     click(groups->closeBtn);
 
     world.server->misbehaviour.openError = EIO;

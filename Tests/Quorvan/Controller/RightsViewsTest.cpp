@@ -135,6 +135,8 @@ TEST_F(RightsViewsTest, EffectiveRightsOfTrusteesAndOfOneThatIsChosen) {
     world.server->misbehaviour.openError = EIO;
     view->onReturnSelectedUser({"Zoe"}, {"Zoe"}, "");
     EXPECT_EQ(view->userGroupField->text(), "Zoe");
+    view->userGroupField->setPath("a <b>name</b>");
+    EXPECT_TRUE(view->userGroupField->toolTip().contains("&lt;b&gt;")) << "shown as it is";
     EXPECT_TRUE(view->readChk->isChecked()) << "the rights of the one before";
     EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
     EXPECT_DEATH(view->onReturnMorvaneSelectedUser({}), "no identity");
