@@ -19,6 +19,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace quorvan {
 
@@ -165,10 +166,13 @@ std::string FileSystemRightsViewController::formatPath(const std::string& selpat
 }
 
 void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std::string>& selpath) {
+    std::unordered_set<std::string> listed;
+    for (const auto& row : editedfrightsList)
+        listed.insert(row->fpath);
     for (const std::string& address : selpath) {
         // The address is a URL, the server's path is not.
         const std::string path = formatPath(platform::percentUnescaped(address));
-        if (std::ranges::any_of(editedfrightsList, [&path](const auto& row) { return row->fpath == path; }))
+        if (!listed.insert(path).second)
             continue;
         Log("Appended %@ to FSR table", address);
         editedfrightsList.push_back(std::make_shared<FileRights>(FileRights{path, newTrusteeRights}));
