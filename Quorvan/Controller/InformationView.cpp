@@ -94,6 +94,7 @@ QWidget* InformationViewController::buildQuota() {
     QSizePolicy keepingPlace = selectUnit->sizePolicy();
     keepingPlace.setRetainSizeWhenHidden(true);
     selectUnit->setSizePolicy(keepingPlace);
+    setLimitEditable(false);
 
     auto* limit = new QHBoxLayout;
     limit->addWidget(dirQuotaLimit);

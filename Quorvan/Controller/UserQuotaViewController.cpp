@@ -182,6 +182,8 @@ void UserQuotaViewController::prepare(const Segue& segue) {
 
 void UserQuotaViewController::updateOperationsToPerformWithModify() {
     for (const int row : userQuotaTable->selectedRowIndexes()) {
+        if (static_cast<std::size_t>(row) >= usersEdited.size())
+            break; // users who share a SID can stand in more rows than there are users
         auto& action = usersEdited[static_cast<std::size_t>(row)]->action;
         if (action == Actions::NONE)
             action = Actions::MODIFY;
@@ -193,8 +195,8 @@ bool UserQuotaViewController::onReturnAddedUsers(const UserQuotaList& returned) 
         return true;
     const UserQuotaList before = usersEdited;
     std::unordered_map<Sid, std::size_t> positions;
-    for (const auto& user : usersEdited)
-        positions.emplace(user->SID, positions.size());
+    for (std::size_t position = 0; position < usersEdited.size(); ++position)
+        positions.emplace(usersEdited[position]->SID, position); // of several, the first
     std::unordered_set<std::size_t> touched;
     usersDisplay.clear();
     for (const auto& user : returned) {

@@ -253,6 +253,7 @@ TEST_F(InformationTest, ReportsEveryFailureAndGoesOn) {
     openView();
     EXPECT_EQ(takeAlerts().size(), 4U);
     EXPECT_EQ(limit(), "");
+    EXPECT_TRUE(view->selectUnit->isHidden()) << "a unit of nothing";
     EXPECT_FALSE(view->editLimitBtn->isEnabled() || view->hideChk->isEnabled());
     world.server->misbehaviour = {};
     world.server->misbehaviour.code = 20903;

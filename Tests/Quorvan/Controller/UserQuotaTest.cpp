@@ -193,6 +193,24 @@ TEST_F(UserQuotaTest, MarksTheRowsOfTheWholeListWhileASearchIsOn) {
     EXPECT_THAT(changes(), ElementsAre("guid-0=1073741824 "));
 }
 
+TEST_F(UserQuotaTest, LivesWithUsersWhoShareAnId) {
+    addTreeUsers(1);
+    simulator::Identity& twin = world.identities->addTreeUser("Twin", "Verlag", "guid-twin");
+    twin.id = "guid-0";
+    addQuota(twin);
+    addQuota(world.identities->addTreeUser("Other", "Verlag", "guid-2"));
+    openView();
+    edit({2}, "5");
+    EXPECT_THAT(rows(), ElementsAre("Other 5 GB", "User 0 1 GB", "Twin 1 GB"));
+    click(view->revert);
+
+    edit({0, 1}, "6"); // both stand for the first, and the second is still listed
+    EXPECT_THAT(rows(), ElementsAre("User 0 6 GB", "User 0 6 GB", "Twin 6 GB", "Other 1 GB"));
+    edit({3}, "7"); // the row has no number in the whole list, so nobody is marked
+    click(view->applyButton);
+    EXPECT_THAT(changes(), ElementsAre("guid-0=6442450944 guid-0=6442450944 "));
+}
+
 TEST_F(UserQuotaTest, KeepsTheDialogOpenForWhatIsNoLimit) {
     addTreeUsers(1);
     openView();
