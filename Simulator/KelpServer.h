@@ -83,7 +83,6 @@ public:
 
     // The model. Rights of a path that is not there are 0; setters make the path.
     Identities& identities() { return *identities_; }
-    std::shared_ptr<Identities> sharedIdentities() { return identities_; }
     Volumes& volumes() { return volumes_; }
     const Volumes& volumes() const { return volumes_; }
     void addPath(std::string_view path) { volumes_.make(path); }

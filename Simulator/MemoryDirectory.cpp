@@ -52,22 +52,17 @@ Values valuesOf(const Identity& identity, const std::string& attribute) {
 
 class MemoryRecord : public platform::DirectoryRecord {
 public:
-    MemoryRecord(const Identity& identity, std::shared_ptr<const Identities> owner,
-                 std::shared_ptr<const State> state)
+    MemoryRecord(const Identity& identity, std::shared_ptr<const Identities> owner)
         : identity_(identity)
-        , owner_(std::move(owner))
-        , state_(std::move(state)) {}
+        , owner_(std::move(owner)) {}
 
     std::optional<Values> values(const std::string& attribute) override {
-        if (state_->failValues)
-            return std::nullopt;
         return valuesOf(identity_, attribute);
     }
 
 private:
     const Identity& identity_;
     std::shared_ptr<const Identities> owner_; ///< keeps identity_ alive
-    std::shared_ptr<const State> state_;
 };
 
 class MemoryNode : public platform::DirectoryNode {
@@ -90,7 +85,7 @@ public:
             if (query.limit != 0 && records.size() == query.limit)
                 break;
             if (isAsked(*identity, query))
-                records.push_back(std::make_shared<MemoryRecord>(*identity, identities_, state_));
+                records.push_back(std::make_shared<MemoryRecord>(*identity, identities_));
         }
         return records;
     }
@@ -189,7 +184,6 @@ std::optional<std::vector<std::string>> MemoryDirectory::nodeNames() {
 }
 
 std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNode(const std::string& name) {
-    state_->openedNodes.push_back(name);
     if (state_->bound && !state_->failNodes) {
         for (const std::string& domain : domains()) {
             if (name == nodePrefix + domain || name == nodePrefix + domain + forestSuffix)
@@ -203,7 +197,6 @@ std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNode(const std::st
 }
 
 std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNetworkNode() {
-    state_->openedNodes.emplace_back("network");
     if (state_->bound && !state_->failNodes)
         return std::make_shared<MemoryNode>(identities_, state_, std::nullopt);
     errno = EHOSTUNREACH;

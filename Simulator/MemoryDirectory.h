@@ -34,16 +34,14 @@ public:
     managedIdentities(platform::IdentityClass identityClass) override;
     void prefetch(const std::vector<std::string>& sids) override;
 
-    /// What goes wrong and what was asked; nodes and records refer to it as well.
+    /// What goes wrong and what was asked; nodes refer to it as well.
     struct State {
         bool bound = true;                    ///< false: this machine knows no Active Directory
         bool failNodes = false;               ///< no node can be opened, nor their names be read
         bool failQueries = false;             ///< queries are not answered
-        bool failValues = false;              ///< reading an attribute fails
         std::vector<std::string> unreachable; ///< domains that have nodes which cannot be opened
         std::size_t queries = 0;
-        std::vector<std::string> openedNodes; ///< by name; "network" for the network node
-        std::vector<std::string> prefetched;  ///< all hints, in order
+        std::vector<std::string> prefetched; ///< all hints, in order
     };
     State& state() { return *state_; }
 

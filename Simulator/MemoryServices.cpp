@@ -45,7 +45,6 @@ MemorySharedDefaults::Values& MemorySharedDefaults::values(const std::string& su
 }
 
 platform::KeychainResult MemoryKeychain::findInternetPassword(const std::string& server) {
-    lookedUp.push_back(server);
     if (failure)
         return {*failure, {}};
     const auto found = items.find(server);

@@ -10,7 +10,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace quorvan::simulator {
 
@@ -45,7 +44,6 @@ public:
 
     std::map<std::string, platform::KeychainItem> items; ///< by server, exactly as spelled
     std::optional<std::int32_t> failure;                 ///< every look-up fails with this status
-    std::vector<std::string> lookedUp;                   ///< servers asked for, oldest first
 };
 
 } // namespace quorvan::simulator

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstring>
 #include <thread>
+#include <utility>
 
 namespace quorvan::simulator {
 
@@ -54,8 +55,7 @@ std::string SimulatedFileSystem::resolve(const std::string& host) {
 
 int SimulatedFileSystem::createContext(const std::string& server) {
     calls.push_back("context " + server);
-    const auto refused = contextErrors_.find(server);
-    return refused == contextErrors_.end() ? 0 : refused->second;
+    return 0;
 }
 
 std::string SimulatedFileSystem::freeMountPoint(const std::string& share) const {
@@ -74,12 +74,9 @@ platform::MountResult SimulatedFileSystem::mount(const std::string& url, const s
         return {EHOSTUNREACH, {}};
     if (const int error = at->server->checkMount(user, password, share); error != 0)
         return {error, {}};
-    std::vector<std::string> mountPoints{freeMountPoint(share)};
-    if (reported_)
-        mountPoints = *std::exchange(reported_, std::nullopt);
-    for (const std::string& path : mountPoints)
-        mounts_[path] = {at->server, share, user};
-    return {0, mountPoints};
+    const std::string mountPoint = freeMountPoint(share);
+    mounts_[mountPoint] = {at->server, share, user};
+    return {0, {mountPoint}};
 }
 
 int SimulatedFileSystem::unmount(const std::string& path, bool force) {

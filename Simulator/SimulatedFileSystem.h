@@ -6,10 +6,8 @@
 
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace quorvan::simulator {
@@ -41,12 +39,6 @@ public:
 
     /// Takes a mount away as if the network had; no call is recorded.
     void unmountBehindTheBack(const std::string& path) { mounts_.erase(path); }
-
-    /// Has createContext answer with this error (0: none) for a server, under the name it is asked for.
-    void refuseContext(const std::string& server, int error) { contextErrors_[server] = error; }
-
-    /// Has the next mount succeed and report these mount points instead of its own.
-    void reportMountPoints(std::vector<std::string> mountPoints) { reported_ = std::move(mountPoints); }
 
     std::vector<std::string> mountedPaths() const;
     std::size_t openDescriptors() const { return files_.size(); }
@@ -84,8 +76,6 @@ private:
     std::vector<Server> servers_;
     std::map<std::string, Mount> mounts_; ///< by mount point
     std::map<int, OpenFile> files_;
-    std::optional<std::vector<std::string>> reported_;
-    std::map<std::string, int> contextErrors_; ///< by server
     int nextDescriptor_ = 3;
 };
 

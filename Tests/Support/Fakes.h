@@ -140,8 +140,6 @@ struct FakeDirectory : platform::DirectoryServices {
     std::map<std::string, platform::DirectoryRecords> records; ///< by the value that is asked for
     bool answers = true;
     int stateReads = 0;
-    std::optional<std::vector<std::string>> names;
-    std::map<platform::IdentityClass, std::optional<std::vector<platform::ManagedIdentity>>> identities;
     std::vector<std::string> openedNodes; ///< "" is the network node
     std::vector<platform::DirectoryQuery> queries;
     std::vector<std::vector<std::string>> prefetches;
@@ -164,10 +162,10 @@ struct FakeDirectory : platform::DirectoryServices {
         return std::make_shared<Node>(*this);
     }
     std::shared_ptr<platform::DirectoryNode> openNetworkNode() override { return openNode(""); }
-    std::optional<std::vector<std::string>> nodeNames() override { return names; }
+    std::optional<std::vector<std::string>> nodeNames() override { return std::nullopt; }
     std::optional<std::vector<platform::ManagedIdentity>>
-    managedIdentities(platform::IdentityClass identityClass) override {
-        return identities[identityClass];
+    managedIdentities(platform::IdentityClass /*identityClass*/) override {
+        return std::nullopt;
     }
     void prefetch(const std::vector<std::string>& sids) override { prefetches.push_back(sids); }
 };
