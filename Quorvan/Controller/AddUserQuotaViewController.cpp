@@ -2,9 +2,8 @@
 #include "Quorvan/Controller/AddUserQuotaViewController.h"
 
 #include "Common/Error.h"
-#include "Common/FeatureFlags.h"
+#include "Common/Log.h"
 #include "Common/ServerDetails.h"
-#include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Controller/UserQuotaRows.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/ListTable.h"
@@ -23,14 +22,9 @@
 
 namespace quorvan {
 
-namespace {
-
-const IdentityWish moreUsers{"Users", true};
-
-} // namespace
-
 AddUserQuotaViewController::AddUserQuotaViewController()
-    : domainIdentity(ServerDetails::serverInfo().getIdentityType()) {}
+    : IdentityChoice(static_cast<ViewController&>(*this), domainIdentity, {"Users", true})
+    , domainIdentity(ServerDetails::serverInfo().getIdentityType()) {}
 
 void AddUserQuotaViewController::loadView() {
     userNameLabel = outlet(new QLabel(this), "userNameLabel");
@@ -73,7 +67,8 @@ void AddUserQuotaViewController::layOutControls() {
 }
 
 void AddUserQuotaViewController::connectControls() {
-    connect(selectTrusteeBtn, &QPushButton::clicked, this, [this] { onSelectTrusteeClick(); });
+    connect(selectTrusteeBtn, &QPushButton::clicked, this,
+            [this] { onSelectTrusteeClick(selectTrusteeBtn); });
     connect(quotaLimitTextField, &QLineEdit::textEdited, this, [this] { onChangeQuotaLimit(); });
     connect(selectUnit, &QComboBox::activated, this, [this] { onChangeUnit(); });
     connect(okBtn, &QPushButton::clicked, this, [this] { onClickOk(); });
@@ -81,8 +76,7 @@ void AddUserQuotaViewController::connectControls() {
 }
 
 void AddUserQuotaViewController::viewDidLoad() {
-    featureFlagDict = readFeatureFlags();
-    multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
+    readMultiForest();
     initAddUserQuotaView();
     selectUnit->setCurrentIndex(quotaUnitGB);
     userList->reloadData();
@@ -112,15 +106,6 @@ QSize AddUserQuotaViewController::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();
     return ViewController::sizeHint().expandedTo(
         {60 * metrics.averageCharWidth(), 24 * metrics.lineSpacing()});
-}
-
-void AddUserQuotaViewController::onSelectTrusteeClick() {
-    openIdentityBrowser(*this, *this, domainIdentity, moreUsers, Shared::value().bothID, multiForestFlag);
-}
-
-void AddUserQuotaViewController::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity = identityType;
-    openIdentityBrowser(*this, *this, domainIdentity, moreUsers);
 }
 
 bool AddUserQuotaViewController::onReturnMorvaneSelectedUser(const std::vector<User>& chosen) {

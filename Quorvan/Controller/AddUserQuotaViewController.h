@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Bundle.h"
-#include "Quorvan/Controller/IdentityBrowsers.h"
+#include "Quorvan/Controller/IdentityChoice.h"
 #include "Quorvan/Modal/UserQuotaData.h"
 #include "Quorvan/Toolkit/ViewController.h"
 #include "Quorvan/Toolkit/WeakDelegate.h"
@@ -28,7 +27,7 @@ public:
 
 /// The sheet in which one limit is entered for several users: those that it is opened with, and those that
 /// the user picks. It sends nothing itself.
-class AddUserQuotaViewController : public ViewController, public IdentityBrowserDelegate {
+class AddUserQuotaViewController : public ViewController, public IdentityChoice {
 public:
     AddUserQuotaViewController();
 
@@ -47,8 +46,6 @@ public:
     int selectedUnit = -1;                       ///< until the user picks one
     UserQuotaList users;                         ///< those to be edited are the caller's own rows
     std::string domainIdentity;                  ///< the identity type that is browsed
-    std::optional<platform::FeatureDictionary> featureFlagDict;
-    bool multiForestFlag = false;
 
     void loadView() override;
     void viewDidLoad() override;
@@ -56,13 +53,11 @@ public:
     QSize sizeHint() const override;
 
     void initAddUserQuotaView();
-    void onSelectTrusteeClick();
     void onChangeQuotaLimit();
     void onChangeUnit();
     void onClickOk();
     void onCancel();
 
-    void onReturnIdentifySource(const std::string& identityType) override;
     bool onReturnMorvaneSelectedUser(const std::vector<User>& chosen) override;
     bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
                               const std::string& category) override;

@@ -27,7 +27,7 @@ void EffectiveRightsViewController::viewDidLoad() {
 void EffectiveRightsViewController::viewDidAppear() {
     initEffRightsMainView();
     domainIdentity = ServerDetails::serverInfo().getIdentityType();
-    disableWhereBothAreShown();
+    disableWhereBothAreShown(selectUserBtn);
     initEffRightsTable();
     redisplay();
 }
@@ -42,7 +42,7 @@ void EffectiveRightsViewController::initEffRightsMainView() {
 }
 
 void EffectiveRightsViewController::checkMappedInUserRights() {
-    if (!loadOwnRights())
+    if (!loadOwnRights(renewController()))
         return;
     const bool mayChoose = isSupervisor || isAccessControl;
     if (mayChoose)

@@ -9,6 +9,7 @@
 
 class QCheckBox;
 class QLabel;
+class QPushButton;
 
 namespace quorvan {
 
@@ -20,10 +21,10 @@ class RightsBoxes;
 ///
 /// Each visit asks the server anew. A search that is on survives that and goes on over the rows it began
 /// with.
-class EffectiveRightsViewController : public ViewController, public IdentityChoice {
+class EffectiveRightsViewController : public ViewController, public IdentityChoiceOnPath {
 public:
     EffectiveRightsViewController()
-        : IdentityChoice(static_cast<ViewController&>(*this)) {}
+        : IdentityChoiceOnPath(static_cast<ViewController&>(*this), {"", false}) {}
 
     // Outlets
     PathLabel* currentPath = nullptr;
@@ -33,6 +34,7 @@ public:
     SearchField* searchField = nullptr;
     RightsTable* effRightsTable = nullptr;
     PathLabel* userGroupField = nullptr;
+    QPushButton* selectUserBtn = nullptr;
     RightsBoxes* effectiveBoxes = nullptr; ///< holds the eight boxes below
     QCheckBox* readChk = nullptr;
     QCheckBox* writeChk = nullptr;

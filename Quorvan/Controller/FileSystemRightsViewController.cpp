@@ -38,7 +38,7 @@ void FileSystemRightsViewController::viewDidLoad() {
     newFileBrowserFlag = featureFlag(*featureFlagDict, "newFileBrowser");
     initFSRMainView();
     fsrTable->setSortDescriptorPrototype(0, {"fpath", true});
-    disableWhereBothAreShown();
+    disableWhereBothAreShown(selectUserBtn);
     redisplay();
 }
 
@@ -56,7 +56,7 @@ void FileSystemRightsViewController::initFSRMainView() {
 }
 
 void FileSystemRightsViewController::checkMappedInUserRights() {
-    loadOwnRights();
+    loadOwnRights(renewController());
     if (isSupervisor)
         selectUserBtn->setEnabled(true);
     readOnlyLabel->setVisible(!isSupervisor);

@@ -19,16 +19,19 @@ class Segue;
 /// holds rights, changes them, and adds and removes paths.
 ///
 /// Apply sends one request for each pending change. Choosing another identity drops them.
-class FileSystemRightsViewController : public RightsPage, public IdentityChoice, public BrowseFolderDelegate {
+class FileSystemRightsViewController : public RightsPage,
+                                       public IdentityChoiceOnPath,
+                                       public BrowseFolderDelegate {
 public:
     FileSystemRightsViewController()
-        : IdentityChoice(static_cast<ViewController&>(*this)) {}
+        : IdentityChoiceOnPath(static_cast<ViewController&>(*this), {"", false}) {}
 
     // Outlets
     PathLabel* currentPath = nullptr;
     QLabel* fsrTitle = nullptr;
     QLabel* usergrpTitle = nullptr;
     PathLabel* namefield = nullptr; ///< the chosen identity
+    QPushButton* selectUserBtn = nullptr;
     QPushButton* grpBtn = nullptr;
     RightsTable* fsrTable = nullptr;
     QLabel* addRemoveTitle = nullptr;

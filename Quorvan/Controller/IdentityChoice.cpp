@@ -7,17 +7,39 @@
 
 #include <QPushButton>
 
+#include <utility>
+
 namespace quorvan {
 
-void IdentityChoice::readFlags() {
+IdentityChoice::IdentityChoice(ViewController& view, std::string& domainIdentity, IdentityWish wish)
+    : view_(view)
+    , domainIdentity_(domainIdentity)
+    , wish_(std::move(wish)) {}
+
+void IdentityChoice::readMultiForest() {
     featureFlagDict = readFeatureFlags();
     multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
+}
+
+void IdentityChoice::onSelectTrusteeClick(QObject* /*sender*/) {
+    openIdentityBrowser(view_, *this, domainIdentity_, wish_, Shared::value().bothID, multiForestFlag);
+}
+
+void IdentityChoice::onReturnIdentifySource(const std::string& identityType) {
+    domainIdentity_ = identityType;
+    openIdentityBrowser(view_, *this, domainIdentity_, wish_);
+}
+
+IdentityChoiceOnPath::IdentityChoiceOnPath(ViewController& view, IdentityWish wish)
+    : IdentityChoice(view, SelectionContext::domainIdentity, std::move(wish)) {}
+
+void IdentityChoiceOnPath::readFlags() {
+    readMultiForest();
     addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
 }
 
-bool IdentityChoice::loadOwnRights() {
-    const auto own =
-        quorvan::loadOwnRights(renewController(), selectedPath, serverIP, mappedPath, domainIdentity);
+bool IdentityChoiceOnPath::loadOwnRights(XMLReadWriteController& controller) {
+    const auto own = quorvan::loadOwnRights(controller, selectedPath, serverIP, mappedPath, domainIdentity);
     if (own) {
         isSupervisor = own->isSupervisor;
         isAccessControl = own->isAccessControl;
@@ -25,18 +47,9 @@ bool IdentityChoice::loadOwnRights() {
     return own.has_value();
 }
 
-void IdentityChoice::disableWhereBothAreShown() {
+void IdentityChoiceOnPath::disableWhereBothAreShown(QPushButton* chooseBtn) const {
     if (Shared::value().bothID && !addBothTrusteesFlag)
-        selectUserBtn->setEnabled(false);
-}
-
-void IdentityChoice::onSelectTrusteeClick(QObject* /*sender*/) {
-    openIdentityBrowser(view_, *this, domainIdentity, {"", false}, Shared::value().bothID, multiForestFlag);
-}
-
-void IdentityChoice::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity = identityType;
-    openIdentityBrowser(view_, *this, domainIdentity, {"", false});
+        chooseBtn->setEnabled(false);
 }
 
 } // namespace quorvan

@@ -6,39 +6,50 @@
 #include "Quorvan/Controller/SelectionContext.h"
 
 #include <optional>
+#include <string>
 
 class QObject;
 class QPushButton;
 
 namespace quorvan {
 
-/// What the views share in which the user chooses one user or group to learn about.
-class IdentityChoice : public SelectionContext, public IdentityBrowserDelegate {
+/// What the views share in which the user chooses identities: the way to the browsers.
+class IdentityChoice : public IdentityBrowserDelegate {
 public:
-    QPushButton* selectUserBtn = nullptr; ///< an outlet; laid out disabled
-
-    bool isSupervisor = false;
-    bool isAccessControl = false;
     std::optional<platform::FeatureDictionary> featureFlagDict;
     bool multiForestFlag = false;
-    bool addBothTrusteesFlag = false;
 
     void onSelectTrusteeClick(QObject* sender);
     void onReturnIdentifySource(const std::string& identityType) override;
 
 protected:
-    /// `view` is the view itself, over which the browsers open.
-    explicit IdentityChoice(ViewController& view)
-        : view_(view) {}
+    /// `view` is the view itself, over which the browsers open, `domainIdentity` the identity type that it
+    /// works in, which changes with the directory that the user chooses.
+    IdentityChoice(ViewController& view, std::string& domainIdentity, IdentityWish wish);
 
-    void readFlags();
-    /// Asks what the logged-in user may do with the path; a failure is reported, and nothing is learnt.
-    bool loadOwnRights();
-    /// Some installations do not let the user choose while both directories are shown.
-    void disableWhereBothAreShown();
+    void readMultiForest();
 
 private:
     ViewController& view_;
+    std::string& domainIdentity_;
+    const IdentityWish wish_;
+};
+
+/// The same for a view about the selected path, where the choice hangs on what the user may do there.
+class IdentityChoiceOnPath : public SelectionContext, public IdentityChoice {
+public:
+    bool isSupervisor = false;
+    bool isAccessControl = false;
+    bool addBothTrusteesFlag = false;
+
+protected:
+    IdentityChoiceOnPath(ViewController& view, IdentityWish wish);
+
+    void readFlags();
+    /// Asks what the logged-in user may do with the path; a failure is reported, and nothing is learnt.
+    bool loadOwnRights(XMLReadWriteController& controller);
+    /// Some installations do not let the user choose while both directories are shown.
+    void disableWhereBothAreShown(QPushButton* chooseBtn) const;
 };
 
 } // namespace quorvan

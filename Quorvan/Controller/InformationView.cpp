@@ -128,7 +128,8 @@ void InformationViewController::buildButtons(QVBoxLayout& page) {
 }
 
 void InformationViewController::connectControls() {
-    connect(changeOwnerButton, &QPushButton::clicked, this, [this] { onSelectTrusteeClick(); });
+    connect(changeOwnerButton, &QPushButton::clicked, this,
+            [this] { onSelectTrusteeClick(changeOwnerButton); });
     connect(editLimitBtn, &QPushButton::clicked, this, [this] { onClickEditQuota(editLimitBtn); });
     connect(removeLimitBtn, &QPushButton::clicked, this, [this] { onClickRemove(); });
     connect(dirQuotaLimit, &QLineEdit::textEdited, this, [this] { onChangeQuotaLimit(dirQuotaLimit); });

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/InformationViewController.h"
 
-#include "Common/FeatureFlags.h"
+#include "Common/Fatal.h"
+#include "Common/Log.h"
 #include "Common/ServerDetails.h"
+#include "Platform/Services.h"
 #include "Quorvan/Controller/InformationAttributes.h"
 #include "Quorvan/Controller/MainMenu.h"
-#include "Quorvan/Controller/OwnRights.h"
-#include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
@@ -24,26 +24,18 @@
 
 namespace quorvan {
 
-namespace {
-
-const IdentityWish newOwner{"Users", false};
-
-} // namespace
-
 InformationViewController::InformationViewController()
-    : selectedAbsolutePath(
+    : IdentityChoiceOnPath(static_cast<ViewController&>(*this), {"Users", false})
+    , selectedAbsolutePath(
           unwrap(ServerDetails::serverInfo().selectedAbsolutePath, "There is no selected path")) {}
 
 void InformationViewController::viewDidLoad() {
     editLimitBtn->setProperty("tag", 1);
     currentPath->setPath(selectedPathName());
-    featureFlagDict = readFeatureFlags();
-    multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
-    addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
+    readFlags();
     loadStrings();
     initInformationTab();
-    if (Shared::value().bothID && !addBothTrusteesFlag)
-        changeOwnerButton->setEnabled(false);
+    disableWhereBothAreShown(changeOwnerButton);
 }
 
 void InformationViewController::viewDidAppear() {
@@ -182,26 +174,13 @@ std::string InformationViewController::attributeTags() const {
 }
 
 void InformationViewController::checkMappedInUserRights() {
-    const auto rights = loadOwnRights(*xmlController, selectedPath, serverIP, mappedPath, domainIdentity);
-    if (rights) {
-        isSupervisor = rights->isSupervisor;
-        isAccessControl = rights->isAccessControl;
-        if (isSupervisor) {
-            for (QPushButton* button : {changeOwnerButton, editLimitBtn, removeLimitBtn})
-                button->setEnabled(true);
-            applyButton->setEnabled(false);
-        }
+    const bool isKnown = loadOwnRights(*xmlController);
+    if (isSupervisor) {
+        for (QPushButton* button : {changeOwnerButton, editLimitBtn, removeLimitBtn})
+            button->setEnabled(true);
+        applyButton->setEnabled(false);
     }
-    readOnlyLabel->setVisible(rights && !isSupervisor);
-}
-
-void InformationViewController::onSelectTrusteeClick() {
-    openIdentityBrowser(*this, *this, domainIdentity, newOwner, Shared::value().bothID, multiForestFlag);
-}
-
-void InformationViewController::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity = identityType;
-    openIdentityBrowser(*this, *this, domainIdentity, newOwner);
+    readOnlyLabel->setVisible(isKnown && !isSupervisor);
 }
 
 bool InformationViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Bundle.h"
-#include "Quorvan/Controller/IdentityBrowsers.h"
-#include "Quorvan/Controller/SelectionContext.h"
+#include "Quorvan/Controller/IdentityChoice.h"
 #include "Quorvan/Modal/Users.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,9 +26,7 @@ class ValueField;
 ///
 /// Edits are collected and sent on Apply; each property that was changed is then read again, which shows
 /// what the server made of it. Closing the page drops the edits.
-class InformationViewController : public ViewController,
-                                  public SelectionContext,
-                                  public IdentityBrowserDelegate {
+class InformationViewController : public ViewController, public IdentityChoiceOnPath {
 public:
     InformationViewController();
 
@@ -80,12 +75,6 @@ public:
     bool applyOwner = false;
     bool applyDirQuota = false;
     bool removeQuota = false; ///< the limit to apply is none
-    bool isSupervisor = false;
-    bool isAccessControl = false;
-
-    std::optional<platform::FeatureDictionary> featureFlagDict;
-    bool multiForestFlag = false;
-    bool addBothTrusteesFlag = false;
 
     void loadView() override;
     void viewDidLoad() override;
@@ -113,11 +102,9 @@ public:
     /// The bytes to send in decimal; "" for a text that is no limit, after telling the user so.
     std::string getQuotaLimit();
     void checkMappedInUserRights();
-    void onSelectTrusteeClick();
     void onApply();
     void onReturnMainMenu();
 
-    void onReturnIdentifySource(const std::string& identityType) override;
     bool onReturnMorvaneSelectedUser(const std::vector<User>& users) override;
     bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
                               const std::string& category) override;
