@@ -11,7 +11,6 @@
 #include "Quorvan/Toolkit/QuotaLimit.h"
 
 #include <QComboBox>
-#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>

@@ -8,7 +8,6 @@
 #include "Quorvan/ViewModal/UsersViewModal.h"
 
 #include <QCheckBox>
-#include <QPushButton>
 
 #include <algorithm>
 #include <unordered_set>
