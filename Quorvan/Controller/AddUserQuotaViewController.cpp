@@ -22,7 +22,7 @@
 namespace quorvan {
 
 AddUserQuotaViewController::AddUserQuotaViewController()
-    : IdentityChoice(static_cast<ViewController&>(*this), domainIdentity, {"Users", true})
+    : IdentityChoice(static_cast<ViewController&>(*this), domainIdentity, {"Users", true, true})
     , domainIdentity(ServerDetails::serverInfo().getIdentityType()) {}
 
 void AddUserQuotaViewController::loadView() {

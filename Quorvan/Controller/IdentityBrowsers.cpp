@@ -36,6 +36,8 @@ void openIdentityBrowser(ViewController& view, IdentityBrowserDelegate& delegate
         open(view, delegate, "IdentifySource", wish);
     else if (!multiForest)
         open(view, delegate, "oldViewBrowseAD", wish);
+    else if (wish.anyTypeBrowses && identityType != identityActiveDirectory)
+        open(view, delegate, "ViewBrowseMorvane", wish);
     else
         openIdentityBrowser(view, delegate, identityType, wish);
 }

@@ -56,6 +56,7 @@ public:
 struct IdentityWish {
     std::string listType; ///< "Users", "Groups", "Containers"; anything else offers all that there are
     bool isMultipleSel = true;
+    bool anyTypeBrowses = false; ///< an identity type that is neither of the two opens the tree's browser
 };
 
 /// A sheet that openIdentityBrowser opens: told before it is presented what is wanted and whom to answer to,

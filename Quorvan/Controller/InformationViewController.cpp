@@ -25,7 +25,7 @@
 namespace quorvan {
 
 InformationViewController::InformationViewController()
-    : IdentityChoiceOnPath(static_cast<ViewController&>(*this), {"Users", false})
+    : IdentityChoiceOnPath(static_cast<ViewController&>(*this), {"Users", false, true})
     , selectedAbsolutePath(
           unwrap(ServerDetails::serverInfo().selectedAbsolutePath, "There is no selected path")) {}
 

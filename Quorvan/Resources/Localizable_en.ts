@@ -888,7 +888,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Err_Msg_Duplicate_Trustee">
     <source></source>
-    <translation>A user or group that you chose is a trustee of this path already. Its rights were left as they are.</translation>
+    <translation>A user or group that you chose is in the list already and was left as it is.</translation>
   </message>
   <message id="Err_No_Object">
     <source></source>

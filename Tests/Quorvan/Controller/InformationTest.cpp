@@ -123,6 +123,11 @@ TEST_F(InformationTest, TakesTheOwnerFromEitherDirectory) {
     EXPECT_TRUE(view->editLimitBtn->isEnabled());
 
     Shared::value().bothID = false;
+    openView();
+    view->domainIdentity = "Guest";
+    click(view->changeOwnerButton);
+    EXPECT_TRUE(front<QWidget>("treeTextField")->isVisible()) << "for whoever is not of Active Directory";
+
     bundle->features->at("multiForest") = false;
     openView();
     click(view->changeOwnerButton);
