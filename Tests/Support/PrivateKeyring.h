@@ -23,6 +23,7 @@ public:
     PrivateKeyring() {
         for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
             ::setenv(variable, home.path.c_str(), 1);
+        ::setenv("LC_ALL", "C.UTF-8", 1); // in which secret-tool reads its arguments
         bus_ = std::make_unique<ChildProcess>(
             std::vector<std::string>{"dbus-daemon", "--session", "--nofork", "--print-address"});
         ::setenv("DBUS_SESSION_BUS_ADDRESS", bus_->readLine().c_str(), 1);
