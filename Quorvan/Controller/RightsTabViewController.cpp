@@ -6,7 +6,6 @@
 #include "Quorvan/Controller/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -86,37 +85,20 @@ void RightsTabViewController::viewDidAppear() {
         rightsTable->setFocus();
 }
 
-void RightsTabViewController::load(TrusteeList& trustees, const std::string& identityType) {
-    Rights irf = irfList.value_or(Rights());
-    const std::int32_t status = renewController().initializeTrusteesHandleDFS(
-        serverIP, trustees, selectedPath, irf, effRights, mappedPath, identityType);
-    irfList = irf;
-    if (status != 0) {
-        reportFailedStatus(status);
-        onReturnMainMenu();
-    }
-}
-
 void RightsTabViewController::initRightsTable() {
-    load(trusteeList, domainIdentity);
+    if (!loadTrustees(trusteeList, domainIdentity))
+        onReturnMainMenu();
     editedTrusteeList = copyOf(trusteeList);
     rightsTable->setSortDescriptor({});
-    raiseOwnRights();
 }
 
 void RightsTabViewController::initRightsTable(const std::string& domain) {
     TrusteeList loaded;
-    load(loaded, domain);
+    if (!loadTrustees(loaded, domain))
+        onReturnMainMenu();
     std::ranges::copy(copyOf(loaded), std::back_inserter(trusteeList));
     std::ranges::copy(copyOf(loaded), std::back_inserter(editedTrusteeList));
     rightsTable->setSortDescriptor({});
-    raiseOwnRights();
-}
-
-/// What the user has been seen to hold stays held for as long as the view lives.
-void RightsTabViewController::raiseOwnRights() {
-    isSupervisor = isSupervisor || (effRights.uright & KelpRights::supervisor) != 0;
-    isAccessControl = isAccessControl || (effRights.uright & KelpRights::accessControl) != 0;
 }
 
 void RightsTabViewController::setTabState() {

@@ -30,9 +30,7 @@ class PathLabel;
 /// Nothing is sent until Apply, which sends all pending changes in one request and loads the list
 /// anew. Pending changes outlive everything but a successful Apply, Revert and a change to both
 /// identity types; also another visit to the tab, after which the rows no longer show them.
-class RightsTabViewController : public ViewController,
-                                public SelectionContext,
-                                public IdentityBrowserDelegate {
+class RightsTabViewController : public ViewController, public TrusteeContext, public IdentityBrowserDelegate {
 public:
     /// The first tab beside a view of the rights window, which knows what the user may do with the path.
     static RightsTabViewController& besides(const ViewController& view);
@@ -56,10 +54,6 @@ public:
     TrusteeList backupEditedTrusteeList; ///< the rows as they were when the search started
     TrusteeList removedTrusteeList;      ///< taken out by the latest Remove
     TrusteeList trackTrusteeList;        ///< pending changes, "ADD" or "REMOVE", in the order they were made
-    std::optional<Rights> irfList = Rights();
-    Rights effRights; ///< of the logged-in user
-    bool isSupervisor = false;
-    bool isAccessControl = false;
 
     std::optional<platform::FeatureDictionary> featureFlagDict;
     bool bothIdentitiesFlag = false;
@@ -99,8 +93,6 @@ private:
     void buildControls();
     void layOutControls();
     void connectControls();
-    void load(TrusteeList& trustees, const std::string& identityType);
-    void raiseOwnRights();
     /// Adds the trustees that are not listed yet. False, and a message, when some were.
     bool add(const TrusteeList& chosen);
     bool canEdit() const { return isSupervisor || isAccessControl; }

@@ -4,6 +4,7 @@
 #include "Common/Fatal.h"
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Shared.h"
+#include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
 
 namespace quorvan {
@@ -34,6 +35,18 @@ bool SelectionContext::openPipe(const char* share, const char* pipe) {
 QString SelectionContext::selectedPathName() {
     return QString::fromStdString(
         unwrap(ServerDetails::serverInfo().selectedPathName, "There is no selected path"));
+}
+
+bool TrusteeContext::loadTrustees(TrusteeList& trustees, const std::string& identityType) {
+    Rights irf = irfList.value_or(Rights());
+    const std::int32_t status = renewController().initializeTrusteesHandleDFS(
+        serverIP, trustees, selectedPath, irf, effRights, mappedPath, identityType);
+    irfList = irf;
+    isSupervisor = isSupervisor || (effRights.uright & KelpRights::supervisor) != 0;
+    isAccessControl = isAccessControl || (effRights.uright & KelpRights::accessControl) != 0;
+    if (status != 0)
+        reportFailedStatus(status);
+    return status == 0;
 }
 
 } // namespace quorvan

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace quorvan {
@@ -29,6 +30,18 @@ struct SelectionContext {
     std::string selectedPath;   ///< as the server knows it
     std::string mappedPath;     ///< what the mounted share stands for
     std::string domainIdentity; ///< the identity type worked in
+};
+
+/// The same for a view that learns from the trustees of the path what the logged-in user may do there.
+struct TrusteeContext : SelectionContext {
+    /// Puts the trustees of an identity type in place of what the list held; a failure is reported to the
+    /// user. What the user has been seen to hold stays held for as long as the view lives.
+    bool loadTrustees(TrusteeList& trustees, const std::string& identityType);
+
+    std::optional<Rights> irfList = Rights();
+    Rights effRights; ///< of the logged-in user
+    bool isSupervisor = false;
+    bool isAccessControl = false;
 };
 
 } // namespace quorvan

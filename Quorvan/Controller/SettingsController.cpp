@@ -4,7 +4,6 @@
 #include "Quorvan/Controller/MainMenu.h"
 #include "Quorvan/Controller/Shared.h"
 #include "Quorvan/Modal/Constants.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
@@ -86,16 +85,8 @@ void SettingsController::viewDidAppear() {
 }
 
 void SettingsController::initSettings() {
-    Rights irf = irfList.value_or(Rights());
-    const std::int32_t status = renewController().initializeTrusteesHandleDFS(
-        serverIP, trusteeList, selectedPath, irf, effRights, mappedPath, domainIdentity);
-    irfList = irf;
-    if (status != 0) {
-        reportFailedStatus(status);
+    if (!loadTrustees(trusteeList, domainIdentity))
         onReturnMainMenu();
-    }
-    isSupervisor = isSupervisor || (effRights.uright & KelpRights::supervisor) != 0;
-    isAccessControl = isAccessControl || (effRights.uright & KelpRights::accessControl) != 0;
 }
 
 void SettingsController::onClickListBothIdentites(QCheckBox* sender) {

@@ -18,7 +18,7 @@ class PathLabel;
 
 /// The settings page: whether the views work with the identities of both directories. The setting
 /// (Shared::value().bothID) lasts as long as the program runs.
-class SettingsController : public ViewController, public SelectionContext {
+class SettingsController : public ViewController, public TrusteeContext {
 public:
     // Outlets
     PathLabel* currentPath = nullptr;
@@ -30,11 +30,7 @@ public:
     QPushButton* CloseBtn = nullptr;
 
     RightsTabViewModal modalData;
-    std::optional<Rights> irfList = Rights();
-    Rights effRights; ///< of the logged-in user
     TrusteeList trusteeList;
-    bool isSupervisor = false;
-    bool isAccessControl = false;
 
     void loadView() override;
     void viewDidLoad() override { initView(); }
