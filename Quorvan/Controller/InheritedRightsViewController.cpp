@@ -113,7 +113,7 @@ void InheritedRightsViewController::setChangesEnabled(bool enabled) {
 }
 
 void InheritedRightsViewController::onAnyIRFClick(QCheckBox* sender) {
-    editedIRF = withRight(editedIRF, filterBoxes->bitOf(sender), sender->isChecked());
+    editedIRF = withRight(editedIRF, RightsBoxes::bitOf(sender), sender->isChecked());
     setChangesEnabled(true);
 }
 

@@ -18,6 +18,7 @@ RightsBoxes::RightsBoxes(int columns, QWidget* parent)
     grid->setHorizontalSpacing(3 * fontMetrics().averageCharWidth());
     for (std::size_t right = 0; right < boxes_.size(); ++right) {
         boxes_[right] = new QCheckBox(plainL(rightsColumns[right].nameKey), this);
+        boxes_[right]->setProperty("identifier", rightsColumns[right].checkID);
         const int place = static_cast<int>(right);
         grid->addWidget(boxes_[right], place / columns, place % columns);
     }
@@ -32,10 +33,11 @@ QCheckBox* RightsBoxes::box(std::uint16_t bit) const {
     fatal("No right with the bit %d", bit);
 }
 
-std::uint16_t RightsBoxes::bitOf(const QCheckBox* box) const {
-    for (std::size_t right = 0; right < boxes_.size(); ++right)
-        if (boxes_[right] == box)
-            return rightsColumns[right].bit;
+std::uint16_t RightsBoxes::bitOf(const QCheckBox* box) {
+    const QString identifier = box->property("identifier").toString();
+    for (const RightsColumn& right : rightsColumns)
+        if (identifier == QLatin1String(right.checkID))
+            return right.bit;
     fatal("Not one of the eight rights was clicked");
 }
 

@@ -13,13 +13,13 @@ class QCheckBox;
 namespace quorvan {
 
 /// A rights mask as eight check boxes with the rights' names, row by row in the order of the tables'
-/// columns. Disabled boxes stay legible.
+/// columns. Each has its right's checkID as the property "identifier". Disabled boxes stay legible.
 class RightsBoxes : public QWidget {
 public:
     explicit RightsBoxes(int columns, QWidget* parent = nullptr);
 
     QCheckBox* box(std::uint16_t bit) const;
-    std::uint16_t bitOf(const QCheckBox* box) const;
+    static std::uint16_t bitOf(const QCheckBox* box);
 
     /// Ticks each box whose bit is set.
     void setRights(std::uint16_t mask);

@@ -87,6 +87,7 @@ TEST_F(RightsViewsTest, EnableWhatTheUsersOwnRightsAllow) {
 TEST_F(RightsViewsTest, InheritedFilterIsEditedSentAndKept) {
     world.server->setFilter(path, 0x1F9);
     auto* view = openTab<InheritedRightsViewController>(ViewTabController::inheritedTabLabel);
+    EXPECT_EQ(view->accessIRF->property("identifier"), "accessControlCheckID");
     view->editedIRF |= 0x0004; // a bit that nobody knows
     EXPECT_TRUE(view->readIRF->isChecked());
     EXPECT_FALSE(view->writeIRF->isChecked());
