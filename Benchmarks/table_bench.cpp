@@ -5,7 +5,7 @@
 // argument says. The baseline is one pass that folds each name and looks for the text in it.
 #include "Benchmarks/Measure.h"
 #include "Common/ServerDetails.h"
-#include "Quorvan/Controller/RightsTabViewController.h"
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Modal/Utils.h"
 #include "Quorvan/Toolkit/SearchField.h"
 #include "Tests/Support/Fakes.h"

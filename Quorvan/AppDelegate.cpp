@@ -3,8 +3,8 @@
 
 #include "Common/Fatal.h"
 #include "Common/Log.h"
-#include "Quorvan/Controller/HelpPanels.h"
-#include "Quorvan/Controller/MainWindow.h"
+#include "Quorvan/Controller/Shell/HelpPanels.h"
+#include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/TerminationSignals.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"

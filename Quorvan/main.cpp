@@ -10,7 +10,7 @@
 #include "Platform/Qt/QtWaitCursor.h"
 #include "Platform/Services.h"
 #include "Quorvan/AppDelegate.h"
-#include "Quorvan/Controller/MainStoryboard.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -5,8 +5,8 @@
 #include "Platform/Qt/QtAlerts.h"
 #include "Platform/Qt/QtBundle.h"
 #include "Platform/Qt/QtWaitCursor.h"
-#include "Quorvan/Controller/MainWindow.h"
-#include "Quorvan/Controller/RightsTabViewController.h"
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
+#include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // quorvan-demo: the application on a simulated server inside the process, selection included. It is the
 // real thing but for the server, the keyring and the shared defaults.
-#include "Quorvan/Controller/MainStoryboard.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Simulator/demo/Palettes.h"
 #include "Simulator/demo/Scenes.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/LdapDirectory.h"
 #include "Platform/Qt/QtBundle.h"
-#include "Quorvan/Controller/MainStoryboard.h"
-#include "Quorvan/Controller/MainWindow.h"
-#include "Quorvan/Controller/RightsTabViewController.h"
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
+#include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Simulator/Embedded.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/Support/LogRecorder.h"

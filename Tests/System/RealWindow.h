@@ -3,8 +3,8 @@
 
 #include "Common/ServerDetails.h"
 #include "Platform/Linux/SmbClientFileSystem.h"
-#include "Quorvan/Controller/MainStoryboard.h"
-#include "Quorvan/Controller/MainWindow.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
+#include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 #include "Simulator/Embedded.h"
 #include "Tests/Support/Fakes.h"

@@ -3,8 +3,8 @@
 #include "Quorvan/AppDelegate.h"
 #include "Common/Log.h"
 #include "Common/ServerDetails.h"
-#include "Quorvan/Controller/MainStoryboard.h"
-#include "Quorvan/Controller/MainWindow.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
+#include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Simulator/Embedded.h"
 #include "Tests/Support/Fakes.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/Controller/FileSystemRightsViewController.h"
-#include "Quorvan/Controller/GroupRightsViewController.h"
+#include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
+#include "Quorvan/Controller/Rights/GroupRightsViewController.h"
 #include "Quorvan/Toolkit/FileTreeModel.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Tests/Quorvan/Controller/RightsViewsFixture.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/Controller/InformationViewController.h"
+#include "Quorvan/Controller/Information/InformationViewController.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
 #include "Quorvan/Toolkit/ValueField.h"
 #include "Tests/Quorvan/Controller/PropertyFixture.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/Controller/MainStoryboard.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Tests/Quorvan/Controller/RightsTabFixture.h"
 
 #include <QApplication>

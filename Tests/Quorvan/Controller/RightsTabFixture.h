@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Common/ServerDetails.h"
-#include "Quorvan/Controller/RightsTabViewController.h"
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Toolkit/SearchField.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 #include "Simulator/Embedded.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/Controller/IdentityBrowsers.h"
+#include "Quorvan/Controller/Identities/IdentityBrowsers.h"
 #include "Tests/Quorvan/Controller/PropertyFixture.h"
 
 namespace quorvan::test {

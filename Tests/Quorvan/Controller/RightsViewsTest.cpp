@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/Controller/DirectoryTrusteeViewController.h"
-#include "Quorvan/Controller/EffectiveRightsViewController.h"
-#include "Quorvan/Controller/InheritedRightsViewController.h"
-#include "Quorvan/Controller/ViewTabController.h"
+#include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
+#include "Quorvan/Controller/Rights/EffectiveRightsViewController.h"
+#include "Quorvan/Controller/Rights/InheritedRightsViewController.h"
+#include "Quorvan/Controller/Rights/ViewTabController.h"
 #include "Quorvan/Modal/ParentPaths.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Tests/Quorvan/Controller/RightsViewsFixture.h"

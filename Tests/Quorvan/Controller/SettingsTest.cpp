@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/Controller/SettingsController.h"
-#include "Quorvan/Controller/Shared.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Controller/Shell/SettingsController.h"
 #include "Tests/Quorvan/Controller/RightsTabFixture.h"
 
 #include <cerrno>

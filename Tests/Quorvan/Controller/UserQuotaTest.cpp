@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/Controller/UserQuotaViewController.h"
+#include "Quorvan/Controller/Quota/UserQuotaViewController.h"
 #include "Tests/Quorvan/Controller/PropertyFixture.h"
 
 #include <QElapsedTimer>

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Identities/IdentityChoice.h"
+
+#include "Common/FeatureFlags.h"
+#include "Quorvan/Controller/Selection/OwnRights.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+
+#include <QPushButton>
+
+#include <utility>
+
+namespace quorvan {
+
+IdentityChoice::IdentityChoice(ViewController& view, std::string& domainIdentity, IdentityWish wish)
+    : view_(view)
+    , domainIdentity_(domainIdentity)
+    , wish_(std::move(wish)) {}
+
+void IdentityChoice::readMultiForest() {
+    featureFlagDict = readFeatureFlags();
+    multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
+}
+
+void IdentityChoice::onSelectTrusteeClick(QObject* /*sender*/) {
+    openIdentityBrowser(view_, *this, domainIdentity_, wish_, Shared::value().bothID, multiForestFlag);
+}
+
+void IdentityChoice::onReturnIdentifySource(const std::string& identityType) {
+    domainIdentity_ = identityType;
+    openIdentityBrowser(view_, *this, domainIdentity_, wish_);
+}
+
+IdentityChoiceOnPath::IdentityChoiceOnPath(ViewController& view, IdentityWish wish)
+    : IdentityChoice(view, SelectionContext::domainIdentity, std::move(wish)) {}
+
+void IdentityChoiceOnPath::readFlags() {
+    readMultiForest();
+    addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
+}
+
+bool IdentityChoiceOnPath::loadOwnRights(XMLReadWriteController& controller) {
+    const auto own = quorvan::loadOwnRights(controller, selectedPath, serverIP, mappedPath, domainIdentity);
+    if (own) {
+        isSupervisor = own->isSupervisor;
+        isAccessControl = own->isAccessControl;
+    }
+    return own.has_value();
+}
+
+void IdentityChoiceOnPath::disableWhereBothAreShown(QPushButton* chooseBtn) const {
+    if (Shared::value().bothID && !addBothTrusteesFlag)
+        chooseBtn->setEnabled(false);
+}
+
+} // namespace quorvan

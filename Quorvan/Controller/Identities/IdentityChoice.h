@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Bundle.h"
+#include "Quorvan/Controller/Identities/IdentityBrowsers.h"
+#include "Quorvan/Controller/Selection/SelectionContext.h"
+
+#include <optional>
+#include <string>
+
+class QObject;
+class QPushButton;
+
+namespace quorvan {
+
+/// What the views share in which the user chooses identities: the way to the browsers.
+class IdentityChoice : public IdentityBrowserDelegate {
+public:
+    std::optional<platform::FeatureDictionary> featureFlagDict;
+    bool multiForestFlag = false;
+
+    void onSelectTrusteeClick(QObject* sender);
+    void onReturnIdentifySource(const std::string& identityType) override;
+
+protected:
+    /// `view` is the view itself, over which the browsers open, `domainIdentity` the identity type that it
+    /// works in, which changes with the directory that the user chooses.
+    IdentityChoice(ViewController& view, std::string& domainIdentity, IdentityWish wish);
+
+    void readMultiForest();
+
+private:
+    ViewController& view_;
+    std::string& domainIdentity_;
+    const IdentityWish wish_;
+};
+
+/// The same for a view about the selected path, where the choice hangs on what the user may do there.
+class IdentityChoiceOnPath : public SelectionContext, public IdentityChoice {
+public:
+    bool isSupervisor = false;
+    bool isAccessControl = false;
+    bool addBothTrusteesFlag = false;
+
+protected:
+    IdentityChoiceOnPath(ViewController& view, IdentityWish wish);
+
+    void readFlags();
+    /// Asks what the logged-in user may do with the path; a failure is reported, and nothing is learnt.
+    bool loadOwnRights(XMLReadWriteController& controller);
+    /// Some installations do not let the user choose while both directories are shown.
+    void disableWhereBothAreShown(QPushButton* chooseBtn) const;
+};
+
+} // namespace quorvan

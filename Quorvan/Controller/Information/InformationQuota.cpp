@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The directory quota of the information page.
+#include "Quorvan/Controller/Information/InformationViewController.h"
+
+#include "Common/Fatal.h"
+#include "Common/ServerDetails.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Modal/Utils.h"
+#include "Quorvan/Toolkit/FailedStatus.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/QuotaLimit.h"
+#include "Quorvan/Toolkit/ValueField.h"
+
+#include <QComboBox>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace quorvan {
+
+namespace {
+
+/// Other than the rest of the page, the quota leaves a line in the log without credentials, too.
+void reportFailedQuota(std::int32_t status) {
+    if (status == errSecItemNotFound)
+        Log("Failed with err - %d", status);
+    reportFailedStatus(status);
+}
+
+std::int64_t amountOf(const std::optional<std::string>& text) {
+    return unwrap(decimalNumber(text.value_or("")), "A directory quota of \"%@\"", text.value_or(""));
+}
+
+int percentOf(std::int64_t part, std::int64_t whole) {
+    if (whole <= 0)
+        return part > 0 ? 101 : 0;
+    const auto share = 100.0L * static_cast<long double>(part) / static_cast<long double>(whole);
+    // Just above the limit is above it, however little.
+    return part > whole ? 101 : static_cast<int>(std::max(0.0L, share));
+}
+
+} // namespace
+
+void InformationViewController::getDirectoryQuota() {
+    if (const auto status = read(dirQuota, &XMLReadWriteController::getDirectoryQuotaHandleDFS); status != 0)
+        reportFailedQuota(status);
+    else
+        updateDirectoryQuota();
+}
+
+void InformationViewController::updateDirectoryQuota() {
+    editedDirQuota = {dirQuota.quotaAmount, dirQuota.usedAmount};
+    const std::string amount = unwrap(editedDirQuota.quotaAmount, "The server has named no directory quota");
+    const bool isUnlimited = amount == DirectoryQuotaConstants::UNLIMITED;
+    const bool isFinite = !isUnlimited && amount != DirectoryQuotaConstants::NOT_SET;
+    std::int64_t used = 0; // without a limit the server's figure is not shown
+    if (isFinite) {
+        const std::int64_t limit = amountOf(amount);
+        used = amountOf(editedDirQuota.usedAmount);
+        std::int64_t available = 0;
+        require(!__builtin_sub_overflow(limit, used, &available), "The available space has no number");
+        dirQuotaLimit->setText(byteCount(limit));
+        dirQuotaAvailable->setText(byteCount(available));
+        showUsage(percentOf(used, limit));
+    } else {
+        dirQuotaLimit->setText(L(isUnlimited ? "User_Quota_Unlimited" : "User_Quota_Not_Set"));
+        dirQuotaAvailable->setText(L("User_Quota_Maximum"));
+    }
+    dirQuotaUsed->setText(byteCount(used));
+    quotaBar->setVisible(isFinite);
+    setLimitEditable(false);
+}
+
+void InformationViewController::showUsage(int percent) {
+    quotaBar->setValue(std::min(percent, quotaBar->maximum()));
+    quotaBar->setFormat(percent > quotaBar->maximum() ? L("Quota_Exceeded_Label")
+                                                      : L("Quota_Usage_Label").arg(percent));
+}
+
+void InformationViewController::setLimitEditable(bool editable) {
+    selectUnit->setVisible(editable);
+    dirQuotaLimit->setEditable(editable);
+}
+
+void InformationViewController::onClickEditQuota(QObject* sender) {
+    if (sender->property("tag").toInt() == 1)
+        setLimitEditable(true);
+    const QString shown = dirQuotaLimit->text();
+    // After a failed reading nothing is shown at all.
+    if (shown == L("User_Quota_Not_Set") || shown == L("User_Quota_Unlimited") || shown.isEmpty()) {
+        dirQuotaLimit->setText(QStringLiteral("1"));
+        selectUnit->setCurrentIndex(quotaUnitGB);
+    } else {
+        const QStringList pieces = shown.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        require(pieces.size() >= 2, "The limit \"%@\" has no unit", shown.toStdString());
+        selectUnit->setCurrentIndex(selectUnit->findText(pieces[1]));
+        dirQuotaLimit->setText(pieces[0]);
+    }
+    selectedUnit = selectUnit->currentIndex();
+    editedDirQuota.quotaAmount = dirQuotaLimit->text().toStdString();
+    applyDirQuota = true;
+    removeQuota = false;
+    dirQuotaLimit->setFocus();
+    dirQuotaLimit->selectAll();
+    editLimitBtn->setEnabled(false);
+    setApplyEnabled(true);
+}
+
+void InformationViewController::onClickRemove() {
+    dirQuotaLimit->setText(L("User_Quota_Not_Set"));
+    applyDirQuota = true;
+    removeQuota = true;
+    setApplyEnabled(true);
+    setLimitEditable(false);
+    editLimitBtn->setEnabled(true);
+}
+
+void InformationViewController::onChangeQuotaLimit(const ValueField* field) {
+    editedDirQuota.quotaAmount = field->text().toStdString();
+    applyDirQuota = true;
+}
+
+void InformationViewController::onChangeUnit() {
+    selectedUnit = selectUnit->currentIndex();
+}
+
+std::string InformationViewController::getQuotaLimit() {
+    if (removeQuota) {
+        editedDirQuota.quotaAmount = DirectoryQuotaConstants::UNLIMITED;
+        return std::string(DirectoryQuotaConstants::UNLIMITED);
+    }
+    editedDirQuota.quotaAmount = dirQuotaLimit->text().toStdString();
+    const auto bytes = quotaLimitInBytes(dirQuotaLimit->text(), selectedUnit);
+    if (bytes)
+        return std::to_string(*bytes);
+    presentInvalidQuotaLimit(*this);
+    return {};
+}
+
+void InformationViewController::applyQuotaLimit() {
+    const std::string limit = getQuotaLimit();
+    if (!limit.empty()) {
+        editedDirQuota.quotaAmount = limit;
+        setDirectoryQuota();
+        showKnownQuota();
+        getDirectoryQuota();
+    } else {
+        showKnownQuota();
+    }
+    applyDirQuota = false;
+    removeQuota = false;
+}
+
+/// What was typed must not stay on show as if it were the limit, unless the server says so.
+void InformationViewController::showKnownQuota() {
+    if (dirQuota.quotaAmount)
+        updateDirectoryQuota();
+    else
+        dirQuotaLimit->clear();
+}
+
+void InformationViewController::setDirectoryQuota() {
+    fileAttributes = {};
+    const std::string amount = editedDirQuota.quotaAmount.value_or("");
+    if (const auto status = send([&] { xmlController->setDirectoryQuota(selectedPath, amount); });
+        status != 0)
+        reportFailedQuota(status);
+}
+
+} // namespace quorvan

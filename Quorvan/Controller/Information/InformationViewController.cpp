@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Information/InformationViewController.h"
+
+#include "Common/Fatal.h"
+#include "Common/Log.h"
+#include "Common/ServerDetails.h"
+#include "Platform/Services.h"
+#include "Quorvan/Controller/Information/InformationAttributes.h"
+#include "Quorvan/Controller/Shell/MainMenu.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/FailedStatus.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PathLabel.h"
+#include "Quorvan/Toolkit/PlainToolTip.h"
+#include "Quorvan/Toolkit/TrusteeIcon.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+
+#include <algorithm>
+
+namespace quorvan {
+
+InformationViewController::InformationViewController()
+    : IdentityChoiceOnPath(static_cast<ViewController&>(*this), {"Users", false, true})
+    , selectedAbsolutePath(
+          unwrap(ServerDetails::serverInfo().selectedAbsolutePath, "There is no selected path")) {}
+
+void InformationViewController::viewDidLoad() {
+    editLimitBtn->setProperty("tag", 1);
+    currentPath->setPath(selectedPathName());
+    readFlags();
+    loadStrings();
+    initInformationTab();
+    disableWhereBothAreShown(changeOwnerButton);
+}
+
+void InformationViewController::viewDidAppear() {
+    directoryQuotaTabView->setFocus();
+}
+
+void InformationViewController::initInformationTab() {
+    renewController();
+    getOwnerInformation();
+    getFileAttributes();
+    for (QPushButton* button : {changeOwnerButton, editLimitBtn, removeLimitBtn})
+        button->setEnabled(false);
+    dirQuotaUsed->setEditable(false);
+    dirQuotaAvailable->setEditable(false);
+    using Kind = platform::LocalVolumes::Kind;
+    const Kind kind = platform::services().volumes->kindOf(selectedAbsolutePath);
+    if (kind != Kind::folder)
+        directoryQuotaTabView->removeTab(directoryQuotaTabView->indexOf(directoryQuotaTab));
+    getDirectoryQuota();
+    checkMappedInUserRights();
+    if (kind == Kind::nothing)
+        Log("Could not check the filetype for path %@ - %@", selectedAbsolutePath,
+            "nothing is mounted there");
+    else if (kind == Kind::folder)
+        dontCompressChk->setEnabled(false);
+}
+
+std::int32_t InformationViewController::send(const std::function<void()>& request) {
+    const std::int32_t status = xmlController->openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
+    if (status == 0) {
+        request();
+        XMLReadWriteController::closePipe();
+    }
+    return status;
+}
+
+void InformationViewController::getOwnerInformation() {
+    if (const auto status = read(ownerInfo, &XMLReadWriteController::getFileInfoOwnerHandleDFS); status != 0)
+        reportFailedStatus(status);
+    else
+        updateOwnerInformation();
+}
+
+void InformationViewController::updateOwnerInformation() {
+    if (!ownerInfo.name)
+        return;
+    showOwner(*ownerInfo.name, ownerInfo.id.value_or(""));
+}
+
+void InformationViewController::showOwner(const std::string& name, const std::string& id) {
+    ownerField->setPlaceholderText(id.empty() ? L("No_Owner_Label")
+                                              : L("Owner_Gone_Label").arg(QString::fromStdString(id)));
+    ownerField->setText(QString::fromStdString(name));
+    ownerField->setToolTip(plainToolTip(QString::fromStdString(id)));
+    ownerField->setCursorPosition(0);
+    const int edge = ownerField->fontMetrics().height();
+    // The owner may be of either directory, whichever the page works in.
+    const QIcon icon = userIcon(id.starts_with("S-1-") ? identityActiveDirectory : identityMorvane);
+    ownerIcon->setPixmap(icon.pixmap(QSize(edge, edge), devicePixelRatioF()));
+    ownerIcon->setVisible(!name.empty());
+}
+
+void InformationViewController::getFileAttributes() {
+    if (const auto status = read(fileAttributes, &XMLReadWriteController::getAttributesHandleDFS);
+        status != 0)
+        reportFailedStatus(status);
+    else
+        updateFileAttributes();
+}
+
+void InformationViewController::updateFileAttributes() {
+    if (!fileAttributes.attributes)
+        return;
+    KelpAttributesTab->setEnabled(true);
+    editedFileAttributes = *fileAttributes.attributes;
+    clearFileAttributes();
+    for (const std::string& name : editedFileAttributes) {
+        for (const AttributeBox& each : attributeBoxes)
+            if (name == each.attribute)
+                (this->*each.box)->setChecked(true);
+        if (name == "readOnly")
+            for (QCheckBox* box : {renameInhibitChk, deleteInhibitChk})
+                box->setEnabled(false);
+    }
+}
+
+void InformationViewController::clearFileAttributes() {
+    for (const AttributeBox& each : attributeBoxes)
+        (this->*each.box)->setChecked(false);
+    for (QCheckBox* box : {renameInhibitChk, deleteInhibitChk})
+        box->setEnabled(true);
+}
+
+void InformationViewController::onAttrChange(QCheckBox* sender) {
+    const QString identifier = sender->property("identifier").toString();
+    for (const AttributeBox& each : attributeBoxes)
+        if (identifier == QLatin1String(each.identifier))
+            updateButtonState(each.attribute, sender);
+    if (identifier == QLatin1String("readChkID"))
+        disableRenameDeleteChk(sender);
+    applyAttrs = true;
+    setApplyEnabled(true);
+}
+
+void InformationViewController::updateButtonState(const std::string& attribute, const QCheckBox* checkbox) {
+    const auto found = std::find(editedFileAttributes.begin(), editedFileAttributes.end(), attribute);
+    if (checkbox->isChecked() && found == editedFileAttributes.end())
+        editedFileAttributes.push_back(attribute);
+    else if (!checkbox->isChecked() && found != editedFileAttributes.end())
+        editedFileAttributes.erase(found);
+}
+
+void InformationViewController::disableRenameDeleteChk(const QCheckBox* sender) {
+    updateButtonState("renameInhibit", sender);
+    updateButtonState("deleteInhibit", sender);
+    for (QCheckBox* box : {renameInhibitChk, deleteInhibitChk}) {
+        box->setChecked(sender->isChecked());
+        box->setEnabled(!sender->isChecked());
+    }
+}
+
+/// What is switched on is named twice: alone in front, and among all attributes in their order.
+std::string InformationViewController::attributeTags() const {
+    const auto isOn = [this](std::string_view name) {
+        return std::find(editedFileAttributes.begin(), editedFileAttributes.end(), name) !=
+               editedFileAttributes.end();
+    };
+    std::string tags;
+    for (const std::string& name : editedFileAttributes)
+        for (const FileAttributes::Tags& known : FileAttributes::FILE_ATTRIBUTES)
+            if (known.attribute == name)
+                tags += known.enabled;
+    for (const FileAttributes::Tags& known : FileAttributes::FILE_ATTRIBUTES)
+        tags += isOn(known.attribute) ? known.enabled : known.disabled;
+    return tags;
+}
+
+void InformationViewController::checkMappedInUserRights() {
+    const bool isKnown = loadOwnRights(*xmlController);
+    if (isSupervisor) {
+        for (QPushButton* button : {changeOwnerButton, editLimitBtn, removeLimitBtn})
+            button->setEnabled(true);
+        applyButton->setEnabled(false);
+    }
+    readOnlyLabel->setVisible(isKnown && !isSupervisor);
+}
+
+bool InformationViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
+    if (!users.empty())
+        takeOwner(users.front().trusteeName, users.front().trusteeID);
+    return true;
+}
+
+bool InformationViewController::onReturnSelectedUser(const std::vector<std::string>& names,
+                                                     const std::vector<std::string>& ids,
+                                                     const std::string& /*category*/) {
+    if (!ids.empty() && !names.empty())
+        takeOwner(names.front(), ids.front());
+    return true;
+}
+
+void InformationViewController::takeOwner(const std::string& name, const std::string& id) {
+    editedOwner = {name, id};
+    showOwner(name, id);
+    applyOwner = true;
+    setApplyEnabled(true);
+}
+
+void InformationViewController::setFileAttributes(const std::string& attributes) {
+    if (const auto status = send([&] { xmlController->setAttributes(selectedPath, attributes); });
+        status != 0)
+        reportFailedStatus(status);
+}
+
+void InformationViewController::setOwner() {
+    const std::string id = editedOwner.ownerID.value_or("");
+    if (const auto status = send([&] { xmlController->setFileInfoOwner(selectedPath, id, domainIdentity); });
+        status != 0)
+        reportFailedStatus(status);
+    editedOwner = {"", ""};
+}
+
+void InformationViewController::onApply() {
+    const std::string tags = attributeTags();
+    if (applyAttrs) {
+        setFileAttributes(tags);
+        getFileAttributes();
+        applyAttrs = false;
+    }
+    if (applyOwner) {
+        setOwner();
+        getOwnerInformation();
+        applyOwner = false;
+    }
+    if (applyDirQuota)
+        applyQuotaLimit();
+    setApplyEnabled(false);
+    if (isSupervisor)
+        editLimitBtn->setEnabled(true);
+    setLimitEditable(false);
+}
+
+void InformationViewController::setApplyEnabled(bool enabled) {
+    // A button that goes grey under the keyboard would hand it on to whatever comes next.
+    if (!enabled && applyButton->hasFocus())
+        directoryQuotaTabView->setFocus();
+    applyButton->setEnabled(enabled);
+}
+
+void InformationViewController::onReturnMainMenu() {
+    returnToMainMenu(*this);
+}
+
+} // namespace quorvan

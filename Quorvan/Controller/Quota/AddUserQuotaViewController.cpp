@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Quota/AddUserQuotaViewController.h"
+
+#include "Common/Error.h"
+#include "Common/Log.h"
+#include "Common/ServerDetails.h"
+#include "Quorvan/Controller/Quota/UserQuotaRows.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/ListTable.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/QuotaLimit.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <unordered_set>
+
+namespace quorvan {
+
+AddUserQuotaViewController::AddUserQuotaViewController()
+    : IdentityChoice(static_cast<ViewController&>(*this), domainIdentity, {"Users", true, true})
+    , domainIdentity(ServerDetails::serverInfo().getIdentityType()) {}
+
+void AddUserQuotaViewController::loadView() {
+    userNameLabel = outlet(new QLabel(this), "userNameLabel");
+    auto* rows = new UserQuotaRows(users, {{"username", "Col_User_Name", UserQuotaColumn::nameOf, false}});
+    userList = outlet(new ListTable(rows, this), "userList", plainL("User_Name_Label"));
+    userList->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    userList->setEmptyText(L("No_Users_Chosen_Label"));
+    selectTrusteeBtn = outlet(new QPushButton(L("Add_Users_title"), this), "selectTrusteeBtn");
+    selectTrusteeBtn->setToolTip(L("Add_Users_Tip_Label"));
+    quotaLimitLabel = outlet(new QLabel(this), "quotaLimitLabel");
+    quotaLimitTextField = outlet(new QLineEdit(this), "quotaLimitTextField", plainL("Quota_Limit_Label"));
+    quotaLimitLabel->setBuddy(quotaLimitTextField);
+    selectUnit = outlet(new QComboBox(this), "selectUnit", L("Unit_Label"));
+    cancelBtn = outlet(new QPushButton(this), "cancelBtn");
+    okBtn = outlet(new QPushButton(this), "okBtn");
+    okBtn->setDefault(true);
+    layOutControls();
+    connectControls();
+}
+
+void AddUserQuotaViewController::layOutControls() {
+    auto* limit = new QHBoxLayout;
+    limit->addWidget(quotaLimitLabel);
+    limit->addWidget(quotaLimitTextField);
+    limit->addWidget(selectUnit);
+    limit->addStretch();
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cancelBtn);
+    buttons->addStretch();
+    buttons->addWidget(okBtn);
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(userNameLabel);
+    page->addWidget(userList, 1);
+    page->addWidget(selectTrusteeBtn, 0, Qt::AlignLeft);
+    page->addSpacing(fontMetrics().height() / 2);
+    page->addLayout(limit);
+    page->addSpacing(fontMetrics().height() / 2);
+    page->addLayout(buttons);
+    setTabOrders({userList, selectTrusteeBtn, quotaLimitTextField, selectUnit, cancelBtn, okBtn});
+}
+
+void AddUserQuotaViewController::connectControls() {
+    connect(selectTrusteeBtn, &QPushButton::clicked, this,
+            [this] { onSelectTrusteeClick(selectTrusteeBtn); });
+    connect(quotaLimitTextField, &QLineEdit::textEdited, this, [this] { onChangeQuotaLimit(); });
+    connect(selectUnit, &QComboBox::activated, this, [this] { onChangeUnit(); });
+    connect(okBtn, &QPushButton::clicked, this, [this] { onClickOk(); });
+    connect(cancelBtn, &QPushButton::clicked, this, [this] { onCancel(); });
+}
+
+void AddUserQuotaViewController::viewDidLoad() {
+    readMultiForest();
+    initAddUserQuotaView();
+    selectUnit->setCurrentIndex(quotaUnitGB);
+    userList->reloadData();
+}
+
+void AddUserQuotaViewController::initAddUserQuotaView() {
+    setWindowTitle(plainL(users.empty() ? "Add_User_Quota_Title" : "Edit_User_Quota_Title"));
+    userNameLabel->setText(plainL("User_Name_Label"));
+    quotaLimitLabel->setText(L("Quota_Limit_Label"));
+    quotaLimitTextField->setText(QString::fromStdString(quotaLimit.value_or("")));
+    fillQuotaUnits(*selectUnit);
+    okBtn->setText(L("OK_title"));
+    cancelBtn->setText(L("Close_title"));
+}
+
+/// Who has to be picked comes first, then the limit.
+void AddUserQuotaViewController::viewDidAppear() {
+    if (users.empty()) {
+        selectTrusteeBtn->setFocus();
+    } else {
+        quotaLimitTextField->setFocus();
+        quotaLimitTextField->selectAll();
+    }
+}
+
+QSize AddUserQuotaViewController::sizeHint() const {
+    const QFontMetrics metrics = fontMetrics();
+    return ViewController::sizeHint().expandedTo(
+        {60 * metrics.averageCharWidth(), 24 * metrics.lineSpacing()});
+}
+
+bool AddUserQuotaViewController::onReturnMorvaneSelectedUser(const std::vector<User>& chosen) {
+    std::vector<std::string> names;
+    std::vector<std::string> ids;
+    for (const User& user : chosen) {
+        names.push_back(user.trusteeName);
+        ids.push_back(user.trusteeID);
+    }
+    add(names, ids);
+    return true;
+}
+
+bool AddUserQuotaViewController::onReturnSelectedUser(const std::vector<std::string>& names,
+                                                      const std::vector<std::string>& ids,
+                                                      const std::string& /*category*/) {
+    add(names, ids);
+    return true;
+}
+
+void AddUserQuotaViewController::add(const std::vector<std::string>& names,
+                                     const std::vector<std::string>& ids) {
+    std::unordered_set<std::string> listed;
+    for (const auto& user : users)
+        if (user->SID)
+            listed.insert(*user->SID);
+    bool isDuplicate = false;
+    for (std::size_t at = 0; at < ids.size() && at < names.size(); ++at) {
+        if (!listed.insert(ids[at]).second) {
+            isDuplicate = true;
+            continue;
+        }
+        auto user = std::make_shared<UserQuotaData>();
+        user->displayName = names[at];
+        user->SID = ids[at];
+        user->action = UserQuotaConstants::Actions::ADD;
+        user->domainIdentity = domainIdentity;
+        users.push_back(std::move(user));
+    }
+    if (isDuplicate) {
+        Log("Trustee is already present");
+        displayErrorMsg(errorCode::msgDuplicateTrustee);
+    }
+    userList->reloadData();
+}
+
+void AddUserQuotaViewController::onChangeQuotaLimit() {
+    quotaLimit = quotaLimitTextField->text().toStdString();
+}
+
+void AddUserQuotaViewController::onChangeUnit() {
+    selectedUnit = selectUnit->currentIndex();
+}
+
+void AddUserQuotaViewController::onClickOk() {
+    const auto bytes = quotaLimitInBytes(quotaLimitTextField->text(), selectedUnit);
+    if (!bytes) {
+        quotaLimitTextField->setFocus();
+        quotaLimitTextField->selectAll();
+        presentInvalidQuotaLimit(*this);
+        return;
+    }
+    for (const auto& user : users) {
+        user->quotaLimit = *bytes;
+        user->quotaAvailable = *bytes;
+    }
+    AddUserQuotaDelegate* receiver = delegate ? delegate->get() : nullptr;
+    if (receiver != nullptr && receiver->onReturnAddedUsers(users))
+        endSheet();
+}
+
+void AddUserQuotaViewController::onCancel() {
+    endSheet();
+}
+
+} // namespace quorvan

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Quota/UserQuotaRows.h"
+
+#include "Common/Fatal.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/QuotaLimit.h"
+#include "Quorvan/Toolkit/TrusteeIcon.h"
+
+namespace quorvan {
+
+QString UserQuotaColumn::nameOf(const UserQuotaData& user) {
+    return QString::fromStdString(unwrap(user.displayName, "A user with a quota has no name"));
+}
+
+QString UserQuotaColumn::limitOf(const UserQuotaData& user) {
+    return byteCount(unwrap(user.quotaLimit, "A user quota has no limit"));
+}
+
+QString UserQuotaColumn::usedOf(const UserQuotaData& user) {
+    return byteCount(unwrap(user.quotaUsed, "A user quota has no used space"));
+}
+
+QString UserQuotaColumn::availableOf(const UserQuotaData& user) {
+    std::int64_t available = 0;
+    require(!__builtin_sub_overflow(unwrap(user.quotaLimit, "A user quota has no limit"),
+                                    unwrap(user.quotaUsed, "A user quota has no used space"), &available),
+            "The available space has no number");
+    return byteCount(available);
+}
+
+int UserQuotaRows::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(columns_.size());
+}
+
+QVariant UserQuotaRows::data(const QModelIndex& index, int role) const {
+    // The rows may have become fewer since the last reload.
+    if (!index.isValid() || index.row() >= listedRows())
+        return {};
+    const UserQuotaData& user = *users_[static_cast<std::size_t>(index.row())];
+    if (role == Qt::DisplayRole)
+        return columns_[static_cast<std::size_t>(index.column())].text(user);
+    if (role == Qt::DecorationRole && index.column() == 0)
+        return userIcon(user.domainIdentity.value_or(""));
+    if (role == Qt::TextAlignmentRole)
+        return alignment(index.column());
+    return {};
+}
+
+QVariant UserQuotaRows::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::DisplayRole)
+        return plainL(columns_[static_cast<std::size_t>(section)].headerKey);
+    if (role == Qt::TextAlignmentRole)
+        return alignment(section);
+    return {};
+}
+
+QVariant UserQuotaRows::alignment(int column) const {
+    const bool isAmount = columns_[static_cast<std::size_t>(column)].isAmount;
+    return QVariant(Qt::AlignVCenter | (isAmount ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+} // namespace quorvan

@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Quota/UserQuotaViewController.h"
+
+#include "Common/FeatureFlags.h"
+#include "Quorvan/Controller/Selection/OwnRights.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Controller/Shell/MainMenu.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/ChangeButtons.h"
+#include "Quorvan/Toolkit/FailedStatus.h"
+#include "Quorvan/Toolkit/ListRows.h"
+#include "Quorvan/Toolkit/NameSort.h"
+#include "Quorvan/Toolkit/Segue.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace quorvan {
+
+namespace {
+
+using Actions = UserQuotaConstants::Actions;
+using Sid = std::optional<std::string>; ///< two that are missing are the same
+
+const std::string& nameOf(const std::shared_ptr<UserQuotaData>& user) {
+    return unwrap(user->displayName, "A user with a quota has no name");
+}
+
+} // namespace
+
+void UserQuotaViewController::viewDidLoad() {
+    userQuotaTable->setSortDescriptorPrototype(0, {"displayName", true});
+    loadStrings();
+    featureFlagDict = readFeatureFlags();
+    addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
+    initUserQuota();
+}
+
+void UserQuotaViewController::viewDidAppear() {
+    userQuotaTable->setFocus();
+}
+
+void UserQuotaViewController::initUserQuota() {
+    renewController();
+    for (QPushButton* button : {addUQButton, removeUQButton, editUQButton})
+        button->setEnabled(false);
+    checkMappedInUserRights();
+    getUserQuotaInfo();
+    if (Shared::value().bothID && !addBothTrusteesFlag) {
+        addUQButton->setEnabled(false);
+        editUQButton->setEnabled(false);
+    }
+}
+
+void UserQuotaViewController::checkMappedInUserRights() {
+    const auto rights = loadOwnRights(*xmlController, selectedPath, serverIP, mappedPath, domainIdentity);
+    if (rights) {
+        isSupervisor = rights->isSupervisor;
+        isAccessControl = rights->isAccessControl;
+        if (isSupervisor) {
+            for (QPushButton* button : {addUQButton, removeUQButton, editUQButton})
+                button->setEnabled(true);
+            setChangesEnabled(false, revert, applyButton, userQuotaTable);
+        }
+    }
+    readOnlyLabel->setVisible(rights && !isSupervisor);
+}
+
+bool UserQuotaViewController::openQuotaPipe() {
+    const std::int32_t status = xmlController->openPipe(serverIP, "/_admin", "/Manage_KELP/user.cmd");
+    if (status != 0)
+        reportFailedStatus(status);
+    return status == 0;
+}
+
+void UserQuotaViewController::getUserQuotaInfo() {
+    for (UserQuotaList* list : {&users, &usersToRemove, &usersEdited, &usersDisplay})
+        list->clear();
+    wasRead_ = openQuotaPipe();
+    if (wasRead_) {
+        if (Shared::value().bothID) {
+            xmlController->getUserQuotaInfo(selectedPath, users, std::string(identityActiveDirectory));
+            xmlController->getUserQuotaInfo(selectedPath, users, std::string(identityMorvane));
+        } else {
+            xmlController->getUserQuotaInfo(selectedPath, users, domainIdentity);
+        }
+        usersEdited = users;
+        usersDisplay = users;
+        XMLReadWriteController::closePipe();
+    }
+    forgetSearch();
+    redisplay();
+}
+
+/// The rows are all there and in the order of usersEdited again; so the field and the header say.
+void UserQuotaViewController::forgetSearch() {
+    const QSignalBlocker quiet(searchField);
+    searchField->clear();
+    searched_.clear();
+    userQuotaTable->setSortDescriptor({});
+}
+
+void UserQuotaViewController::redisplay() {
+    quorvan::redisplay(*userQuotaTable, !searchField->text().isEmpty(), *searchField,
+                       wasRead_ ? "No_User_Quotas_Label" : "User_Quotas_Unknown_Label");
+}
+
+void UserQuotaViewController::onSearch(SearchField* field) {
+    const std::string text = field->text().toStdString();
+    if (text.empty()) {
+        usersDisplay = usersEdited;
+        searched_.clear();
+    } else {
+        if (searched_.empty()) {
+            std::ranges::copy_if(usersEdited, std::back_inserter(searched_),
+                                 [](const auto& user) { return user->displayName.has_value(); });
+            searchFilter_.setRows(searched_, nameOf);
+        }
+        usersDisplay = searchFilter_.matching(searched_, text);
+    }
+    userQuotaTable->setSortDescriptor({});
+    redisplay();
+}
+
+void UserQuotaViewController::sortDescriptorsDidChange() {
+    if (!userQuotaTable->isSortedBy("displayName", sortAscending))
+        return;
+    sortByName(usersDisplay, sortAscending, nameOf);
+    redisplay();
+}
+
+void UserQuotaViewController::onClickRemove() {
+    std::unordered_map<Sid, std::size_t> removed; // how often each
+    for (const int row : userQuotaTable->selectedRowIndexes()) {
+        const auto& user = usersDisplay[static_cast<std::size_t>(row)];
+        user->action = Actions::REMOVE;
+        usersToRemove.push_back(user);
+        ++removed[user->SID];
+    }
+    std::erase_if(usersDisplay, [&](const auto& user) { return removed.contains(user->SID); });
+    // The first row of a SID goes, once for each time that it was removed.
+    std::erase_if(usersEdited, [&](const auto& user) {
+        const auto found = removed.find(user->SID);
+        if (found == removed.end() || found->second == 0)
+            return false;
+        --found->second;
+        return true;
+    });
+    searched_.clear();
+    redisplay();
+    setChangesEnabled(true, revert, applyButton, userQuotaTable);
+}
+
+void UserQuotaViewController::onClickAdd() {
+    auto* dialog = new AddUserQuotaViewController;
+    dialog->delegate.emplace().set(*this, *this);
+    presentAsSheet(dialog);
+}
+
+void UserQuotaViewController::onClickEdit() {
+    SheetSegue segue("editUserQuotaSegue", this, new AddUserQuotaViewController);
+    prepare(segue);
+    segue.perform();
+}
+
+void UserQuotaViewController::prepare(const Segue& segue) {
+    if (segue.identifier != "editUserQuotaSegue")
+        return;
+    updateOperationsToPerformWithModify();
+    auto* dialog = dynamic_cast<AddUserQuotaViewController*>(segue.destination);
+    require(dialog != nullptr, "Quotas are edited in another view");
+    dialog->delegate.emplace().set(*this, *this);
+    for (const int row : userQuotaTable->selectedRowIndexes())
+        dialog->users.push_back(usersDisplay[static_cast<std::size_t>(row)]);
+}
+
+void UserQuotaViewController::updateOperationsToPerformWithModify() {
+    for (const int row : userQuotaTable->selectedRowIndexes()) {
+        if (static_cast<std::size_t>(row) >= usersEdited.size())
+            break; // users who share a SID can stand in more rows than there are users
+        auto& action = usersEdited[static_cast<std::size_t>(row)]->action;
+        if (action == Actions::NONE)
+            action = Actions::MODIFY;
+    }
+}
+
+bool UserQuotaViewController::onReturnAddedUsers(const UserQuotaList& returned) {
+    if (returned.empty())
+        return true;
+    const UserQuotaList before = usersEdited;
+    std::unordered_map<Sid, std::size_t> positions;
+    for (std::size_t position = 0; position < usersEdited.size(); ++position)
+        positions.emplace(usersEdited[position]->SID, position); // of several, the first
+    std::unordered_set<std::size_t> touched;
+    usersDisplay.clear();
+    for (const auto& user : returned) {
+        const auto [position, isNew] = positions.emplace(user->SID, usersEdited.size());
+        if (isNew) {
+            usersEdited.push_back(user);
+        } else {
+            UserQuotaData& listed = *usersEdited[position->second];
+            listed.action = user->action;
+            listed.quotaLimit = user->quotaLimit;
+            listed.quotaUsed = user->quotaUsed;
+            listed.quotaAvailable = user->quotaAvailable;
+            touched.insert(position->second);
+        }
+        usersDisplay.push_back(usersEdited[position->second]);
+    }
+    for (std::size_t position = 0; position < before.size(); ++position)
+        if (!touched.contains(position))
+            usersDisplay.push_back(before[position]);
+    forgetSearch();
+    redisplay();
+    setChangesEnabled(true, revert, applyButton, userQuotaTable);
+    return true;
+}
+
+UserQuotaList UserQuotaViewController::getOperationsToPerform() const {
+    UserQuotaList operations = usersToRemove;
+    std::ranges::copy_if(usersEdited, std::back_inserter(operations),
+                         [](const auto& user) { return user->action != Actions::NONE; });
+    return operations;
+}
+
+void UserQuotaViewController::setUserQuotaInfo() {
+    const UserQuotaList operations = getOperationsToPerform();
+    if (!openQuotaPipe()) {
+        getUserQuotaInfo();
+        return;
+    }
+    const std::string result = xmlController->setUserQuotaInfo(selectedPath, operations, domainIdentity);
+    XMLReadWriteController::closePipe();
+    setChangesEnabled(false, revert, applyButton, userQuotaTable);
+    if (result == "0")
+        getUserQuotaInfo();
+    else
+        reportFailedResult(result);
+}
+
+void UserQuotaViewController::onClickApply() {
+    setUserQuotaInfo();
+}
+
+void UserQuotaViewController::onClickRevert() {
+    usersToRemove.clear();
+    getUserQuotaInfo();
+    setChangesEnabled(false, revert, applyButton, userQuotaTable);
+}
+
+void UserQuotaViewController::onReturnMainMenu() {
+    returnToMainMenu(*this);
+}
+
+} // namespace quorvan

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
+
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Controller/Shell/MainMenu.h"
+#include "Quorvan/Modal/ParentPaths.h"
+#include "Quorvan/Toolkit/ChangeButtons.h"
+#include "Quorvan/Toolkit/FailedStatus.h"
+#include "Quorvan/Toolkit/NameSort.h"
+#include "Quorvan/Toolkit/PathLabel.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <algorithm>
+#include <iterator>
+
+namespace quorvan {
+
+namespace {
+
+const std::string& nameOf(const DirectoryRights& row) {
+    return row.trustee->trusteeName;
+}
+
+const std::string& pathOf(const DirectoryRights& row) {
+    return row.path;
+}
+
+} // namespace
+
+DirectoryTrusteeViewController::Side DirectoryTrusteeViewController::makeSide(bool isSub) {
+    Rows& edited = isSub ? editedSubtrusteeList : editedParenttrusteeList;
+    Rows& backup = isSub ? searchListBackup : searchListBackupPar;
+    bool& isSearching = isSub ? isSearchingSubDir : isSearchingParentDir;
+    return {isSub ? subdirTable : parentdirTable,
+            isSub ? searchInSubField : searchInParentField,
+            isSub ? removeBtnSub : removeBtnParent,
+            isSub ? subdirLabel : parentdirLabel,
+            isSub ? removeLabel1 : removeLabel2,
+            isSub ? subtrusteeList : parenttrusteeList,
+            edited,
+            backup,
+            isSearching,
+            isSub ? "No_Sub_Trustees_Label" : "No_Parent_Trustees_Label",
+            {edited, backup, isSearching, {nameOf, pathOf}}};
+}
+
+void DirectoryTrusteeViewController::viewDidLoad() {
+    subdirTable->setSortDescriptorPrototype(0, {"TrusteeName", true});
+    parentdirTable->setSortDescriptorPrototype(0, {"TrusteeName", true});
+    initTrusteeDirMainView();
+}
+
+void DirectoryTrusteeViewController::viewDidAppear() {
+    setTabState();
+    initSubDirTable();
+    initParentDirTable();
+}
+
+void DirectoryTrusteeViewController::initTrusteeDirMainView() {
+    subdirLabel->setText(L("Subdirectories_Label"));
+    parentdirLabel->setText(L("Parent_dir_Label"));
+    for (const Side* side : {&sub_, &parent_}) {
+        side->removeLabel->setText(L("Remove_Trustee_Label"));
+        side->table->setColumnHeader(0, L("Col_UserGrp_Name"));
+        side->table->setColumnHeader(1, L("Col_Path"));
+    }
+    applybtn->setText(L("Apply_title"));
+    revertbtn->setText(L("Revert_title"));
+    currentPath->setPath(QString::fromStdString(selectedPath));
+}
+
+void DirectoryTrusteeViewController::isSuperiorUser() {
+    const RightsTabViewController& trustees = RightsTabViewController::besides(*this);
+    isSupervisor = trustees.isSupervisor;
+    isAccessControl = trustees.isAccessControl;
+}
+
+void DirectoryTrusteeViewController::setTabState() {
+    isSuperiorUser();
+    for (const Side* side : {&sub_, &parent_}) {
+        side->table->setSwitchedOn(canEdit());
+        side->removeBtn->setEnabled(canEdit());
+    }
+    readOnlyLabel->setVisible(!canEdit());
+    setChangesEnabled(false);
+}
+
+void DirectoryTrusteeViewController::setChangesEnabled(bool enabled) {
+    quorvan::setChangesEnabled(enabled, revertbtn, applybtn, subdirTable);
+}
+
+void DirectoryTrusteeViewController::initTable(const std::string& path, Rows& list, bool subDirFlag) {
+    std::string other = path;
+    std::string& sent = subDirFlag ? selectedPath : other;
+    std::vector<std::string> identityTypes = {domainIdentity};
+    if (Shared::value().bothID)
+        identityTypes = {std::string(identityActiveDirectory), std::string(identityMorvane)};
+    std::int32_t status = 0; // of the last one, which alone tells whether the load has failed
+    for (const std::string& identityType : identityTypes)
+        status = renewController().getIRRequestHandleDFS(serverIP, list, mappedPath, sent, identityType);
+    if (status == 0)
+        return;
+    reportFailedStatus(status);
+    onReturnMainMenu();
+}
+
+void DirectoryTrusteeViewController::initSubDirTable() {
+    subtrusteeList.clear();
+    initTable(selectedPath, subtrusteeList, true);
+    showLoaded(sub_);
+}
+
+void DirectoryTrusteeViewController::initParentDirTable() {
+    const std::string root = volumeOfPath(selectedPath);
+    parenttrusteeList.clear();
+    initTable(root, parenttrusteeList, false);
+    filterContentForSearchText(parenttrusteeList, getParentPaths(selectedPath));
+    showLoaded(parent_);
+}
+
+void DirectoryTrusteeViewController::filterContentForSearchText(Rows& rows,
+                                                                const std::vector<std::string>& paths) {
+    Rows kept;
+    for (const std::string& path : paths)
+        std::ranges::copy_if(rows, std::back_inserter(kept),
+                             [&path](const DirectoryRights& row) { return row.path == path; });
+    rows = std::move(kept);
+}
+
+void DirectoryTrusteeViewController::showLoaded(Side& side) {
+    side.edited = copyOf(side.loaded);
+    side.table->setSortDescriptor({});
+    redisplay(side);
+}
+
+void DirectoryTrusteeViewController::redisplay(const Side& side) {
+    quorvan::redisplay(*side.table, side.isSearching, *side.field, side.emptyKey, "No_Match_Path_Label");
+}
+
+void DirectoryTrusteeViewController::onMouseClickCheckbox(Side& side, const RightsCheckBox& sender) {
+    DirectoryRights& row = side.edited[static_cast<std::size_t>(sender.row)];
+    Trustees trustee = *row.trustee;
+    trustee.rights = sender.appliedTo(trustee.rights);
+    row.trustee = std::make_shared<Trustees>(trustee);
+
+    const auto sameIdentity = [&trustee](const DirectoryRights& other) {
+        return other.trustee->trusteeID == trustee.trusteeID;
+    };
+    // Whatever its path: the first row of an identity follows all of them.
+    const auto backup = std::ranges::find_if(side.backup, sameIdentity);
+    if (backup != side.backup.end()) {
+        backup->trustee = std::make_shared<Trustees>(*backup->trustee); // other lists show the old one
+        backup->trustee->rights = trustee.rights;
+    }
+    const auto tracked = std::ranges::find_if(trackTrusteeList, [&](const DirectoryRights& other) {
+        return other.path == row.path && sameIdentity(other);
+    });
+    if (tracked != trackTrusteeList.end()) {
+        tracked->trustee->rights = trustee.rights;
+    } else {
+        trustee.status = "ADD";
+        trackTrusteeList.push_back({std::make_shared<Trustees>(trustee), row.path});
+    }
+    setChangesEnabled(true);
+}
+
+void DirectoryTrusteeViewController::removeSelected(Side& side) {
+    const Rows removed = takeRows(side.edited, side.table->selectedRowIndexes());
+    for (const DirectoryRights& row : removed)
+        row.trustee->status = "REMOVE";
+    std::ranges::copy(removed, std::back_inserter(trackTrusteeList));
+    redisplay(side);
+    setChangesEnabled(true);
+}
+
+void DirectoryTrusteeViewController::removeTrusteeforSubdir(QObject* /*sender*/) {
+    removeSelected(sub_);
+}
+
+void DirectoryTrusteeViewController::removeTrusteeforParentDir(QObject* /*sender*/) {
+    removeSelected(parent_);
+}
+
+void DirectoryTrusteeViewController::onSearch(Side& side, SearchField* sender) {
+    side.search.setText(sender->text().toStdString(), *side.table);
+    redisplay(side);
+}
+
+void DirectoryTrusteeViewController::onSearchSubdir(SearchField* sender) {
+    onSearch(sub_, sender);
+}
+
+void DirectoryTrusteeViewController::onSearchParentdir(SearchField* sender) {
+    onSearch(parent_, sender);
+}
+
+void DirectoryTrusteeViewController::sortDescriptorsDidChange(Side& side) {
+    if (!side.table->isSortedBy("TrusteeName", sortAscending))
+        return;
+    sortByName(side.edited, sortAscending, nameOf);
+    redisplay(side);
+}
+
+void DirectoryTrusteeViewController::onRevertClick(QObject* /*sender*/) {
+    trackTrusteeList.clear();
+    showLoaded(parent_);
+    showLoaded(sub_);
+    setChangesEnabled(false);
+}
+
+void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
+    if (trackTrusteeList.empty())
+        return;
+    if (!openPipe("/IPC$", "/FilesCmdPipe"))
+        return;
+    xmlController->setTrusteeforDir(trackTrusteeList, domainIdentity);
+    XMLReadWriteController::closePipe();
+    trackTrusteeList.clear();
+    initSubDirTable();
+    initParentDirTable();
+    setChangesEnabled(false);
+}
+
+void DirectoryTrusteeViewController::onReturnMainMenu() {
+    returnToMainMenu(*this);
+}
+
+} // namespace quorvan

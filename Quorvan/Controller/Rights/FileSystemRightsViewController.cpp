@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
+
+#include "Common/FeatureFlags.h"
+#include "Common/Log.h"
+#include "Platform/PercentEscapes.h"
+#include "Quorvan/Controller/Rights/GroupRightsViewController.h"
+#include "Quorvan/Controller/Shell/MainMenu.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Modal/Utils.h"
+#include "Quorvan/Toolkit/ChangeButtons.h"
+#include "Quorvan/Toolkit/ListRows.h"
+#include "Quorvan/Toolkit/NameSort.h"
+#include "Quorvan/Toolkit/PathLabel.h"
+#include "Quorvan/Toolkit/Segue.h"
+#include "Quorvan/Toolkit/Storyboard.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace quorvan {
+
+namespace {
+
+bool isUserType(const std::string& type) {
+    const std::string lower = lowercased(type);
+    return lower == lowercased(UserQuotaConstants::ObjectTypes::USERS) ||
+           std::ranges::find(MorvaneObjectTypes::USERS, lower) != MorvaneObjectTypes::USERS.end();
+}
+
+} // namespace
+
+void FileSystemRightsViewController::viewDidLoad() {
+    readFlags();
+    newFileBrowserFlag = featureFlag(*featureFlagDict, "newFileBrowser");
+    initFSRMainView();
+    fsrTable->setSortDescriptorPrototype(0, {"fpath", true});
+    disableWhereBothAreShown(selectUserBtn);
+    redisplay();
+}
+
+void FileSystemRightsViewController::initFSRMainView() {
+    fsrTitle->setText(L("FSR_Label_Title"));
+    addRemoveTitle->setText(L("Add_Remove_Path_Label"));
+    usergrpTitle->setText(L("User_Group_Label"));
+    applyBtn->setText(L("Apply_title"));
+    revertBtn->setText(L("Revert_title"));
+    cancelBtn->setText(L("Close_title"));
+    grpBtn->setText(L("Group_Rights"));
+    fsrTable->setColumnHeader(0, L("Col_Path"));
+    currentPath->setPath(selectedPathName());
+    checkMappedInUserRights();
+}
+
+void FileSystemRightsViewController::checkMappedInUserRights() {
+    loadOwnRights(renewController());
+    if (isSupervisor)
+        selectUserBtn->setEnabled(true);
+    readOnlyLabel->setVisible(!isSupervisor);
+}
+
+void FileSystemRightsViewController::setBtnState() {
+    if (!isSupervisor)
+        return;
+    grpBtn->setEnabled(isUserType(SelectedTrusteeType));
+    addBtn->setEnabled(true);
+    removeBtn->setEnabled(true);
+}
+
+void FileSystemRightsViewController::initFSRRightsTable(const std::string& userID) {
+    frightsList.clear();
+    trackfrightsList.clear();
+    if (openPipe("/IPC$", "/RightsCmdPipe")) {
+        xmlController->getFSRights(selectedPath, {userID}, frightsList, domainIdentity);
+        XMLReadWriteController::closePipe();
+    } else {
+        onReturnMainMenu();
+    }
+    showLoadedRows();
+}
+
+void FileSystemRightsViewController::showLoadedRows() {
+    editedfrightsList.clear();
+    for (const IdentityFileRights& loaded : frightsList)
+        editedfrightsList.push_back(std::make_shared<FileRights>(loaded.rights));
+    fsrTable->setSortDescriptor({});
+}
+
+void FileSystemRightsViewController::redisplay() {
+    fsrTable->reloadData();
+    fsrTable->setEmptyText(L(selectedTrusteeID.empty() ? "FSR_Nobody_Label" : "FSR_No_Paths_Label"));
+}
+
+void FileSystemRightsViewController::setChangesEnabled(bool enabled) {
+    quorvan::setChangesEnabled(enabled, revertBtn, applyBtn, fsrTable);
+}
+
+bool FileSystemRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
+    if (!users.empty()) {
+        const User& user = users.back();
+        namefield->setPath(QString::fromStdString(user.trusteeName));
+        selectedTrusteeID = user.trusteeID;
+        SelectedTrusteeName = user.trusteeName;
+        SelectedTrusteeType = user.trusteeType;
+    }
+    return reloadChosenIdentity();
+}
+
+bool FileSystemRightsViewController::onReturnSelectedUser(const std::vector<std::string>& names,
+                                                          const std::vector<std::string>& ids,
+                                                          const std::string& category) {
+    if (const std::size_t count = std::min(names.size(), ids.size()); count != 0) {
+        namefield->setPath(QString::fromStdString(names[count - 1]));
+        selectedTrusteeID = ids[count - 1];
+        SelectedTrusteeType = category;
+    }
+    return reloadChosenIdentity();
+}
+
+bool FileSystemRightsViewController::reloadChosenIdentity() {
+    initFSRRightsTable(selectedTrusteeID);
+    setBtnState();
+    redisplay();
+    return true;
+}
+
+void FileSystemRightsViewController::onAddPath(QObject* /*sender*/) {
+    SheetSegue segue(
+        "browseFolderSegue", this,
+        Storyboard::named("Main").instantiate(newFileBrowserFlag ? "NewFileBrowser" : "OldFileBrowser"));
+    prepare(segue);
+    segue.perform();
+}
+
+void FileSystemRightsViewController::prepare(const Segue& segue) {
+    if (segue.identifier == "browseFolderSegue") {
+        require(!mappedPath.empty(), "The mapped path is empty");
+        auto& browser = dynamic_cast<BrowseFolderViewController&>(*segue.destination);
+        browser.setBrowseFileDelegate(*this, *this);
+        browser.volpath = mappedPath.substr(0, mappedPath.find(':'));
+    } else if (segue.identifier == "browseGroupRights") {
+        auto& groups = dynamic_cast<GroupRightsViewController&>(*segue.destination);
+        groups.trusteeID = selectedTrusteeID;
+        groups.selectedPath = selectedPath;
+        groups.SelectedTrusteeName = SelectedTrusteeName;
+        groups.domainIdentity = domainIdentity;
+    }
+}
+
+std::string FileSystemRightsViewController::formatPath(const std::string& selpath) {
+    constexpr std::string_view volumes = "file:///Volumes/";
+    if (selpath.empty())
+        return {};
+    std::string path = selpath;
+    if (const std::size_t at = path.find(volumes); at != std::string::npos)
+        path.erase(at, volumes.size());
+    const std::size_t volumeEnd = path.find('/');
+    if (volumeEnd == std::string::npos)
+        return path + '\\';
+    std::ranges::replace(path, '/', '\\');
+    const std::size_t first = path.find('\\');
+    return path.insert(first, ":");
+}
+
+void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std::string>& selpath) {
+    std::unordered_set<std::string> listed;
+    for (const auto& row : editedfrightsList)
+        listed.insert(row->fpath);
+    for (const std::string& address : selpath) {
+        // The address is a URL, the server's path is not.
+        const std::string path = formatPath(platform::percentUnescaped(address));
+        if (!listed.insert(path).second)
+            continue;
+        Log("Appended %@ to FSR table", address);
+        editedfrightsList.push_back(std::make_shared<FileRights>(FileRights{path, newTrusteeRights}));
+        track(editedfrightsList.back(), "ADD");
+    }
+    redisplay();
+    setChangesEnabled(true);
+}
+
+void FileSystemRightsViewController::track(std::shared_ptr<FileRights> rights, const char* status) {
+    trackfrightsList.push_back({namefield->text().toStdString(), std::move(rights), status});
+}
+
+void FileSystemRightsViewController::removeSelectedRow(QObject* /*sender*/) {
+    for (auto& removed : takeRows(editedfrightsList, fsrTable->selectedRowIndexes()))
+        track(std::move(removed), "REMOVE");
+    setChangesEnabled(true);
+    redisplay();
+}
+
+void FileSystemRightsViewController::onMouseClickCheckbox(const RightsCheckBox& sender) {
+    auto& row = editedfrightsList[static_cast<std::size_t>(sender.row)];
+    row = std::make_shared<FileRights>(FileRights{row->fpath, sender.appliedTo(row->frights)});
+    const auto tracked = std::ranges::find_if(
+        trackfrightsList, [&row](const TrackedRights& change) { return change.rights->fpath == row->fpath; });
+    if (tracked != trackfrightsList.end())
+        tracked->rights->frights = row->frights;
+    else
+        track(std::make_shared<FileRights>(*row), "ADD");
+    setChangesEnabled(true);
+}
+
+void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
+    if (!trackfrightsList.empty()) {
+        for (const TrackedRights& change : trackfrightsList) {
+            const Trustees trustee(namefield->text().toStdString(), selectedTrusteeID, change.rights->frights,
+                                   change.status, "", "");
+            std::string path = change.rights->fpath; // a link on it must not move the selection
+            renewController().setTrusteeHandleDFS(serverIP, mappedPath, path, trustee, domainIdentity);
+        }
+        trackfrightsList.clear();
+        initFSRRightsTable(selectedTrusteeID);
+    }
+    redisplay();
+    setChangesEnabled(false);
+}
+
+void FileSystemRightsViewController::onRevertClick(QObject* /*sender*/) {
+    trackfrightsList.clear();
+    showLoadedRows();
+    redisplay();
+    setChangesEnabled(false);
+}
+
+void FileSystemRightsViewController::sortDescriptorsDidChange() {
+    if (!fsrTable->isSortedBy("fpath", sortAscending))
+        return;
+    sortByName(editedfrightsList, sortAscending,
+               [](const std::shared_ptr<FileRights>& row) -> const std::string& { return row->fpath; });
+    redisplay();
+}
+
+void FileSystemRightsViewController::onReturnMainMenu() {
+    returnToMainMenu(*this);
+}
+
+} // namespace quorvan

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Rights/GroupRightsViewController.h"
+
+#include "Common/Log.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Modal/DistinguishedName.h"
+#include "Quorvan/Modal/Utils.h"
+#include "Quorvan/Toolkit/TrusteeIcon.h"
+#include "Quorvan/Toolkit/TrusteeRows.h"
+#include "Quorvan/ViewModal/BrowseLdapViewModal.h"
+#include "Quorvan/ViewModal/UsersViewModal.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quorvan {
+
+namespace {
+
+struct ShowGroup {
+    using Row = GroupRightsViewController::GroupRow;
+    static QString text(const Row& row, int textColumn) {
+        return QString::fromStdString(textColumn == 0 ? row.groupName : row.path);
+    }
+    static QIcon icon(const Row& /*row*/, int /*textColumn*/) { return {}; }
+    static std::uint16_t rights(const Row& row) { return row.rights; }
+    static const void* object(const Row& row) { return &row; }
+};
+
+/// All groups of one view are of one directory, and so look alike.
+class GroupRows : public RowsOf<GroupRightsViewController::GroupRow, ShowGroup> {
+public:
+    explicit GroupRows(const GroupRightsViewController& view)
+        : RowsOf(view.grpTrusteeList)
+        , view_(view) {}
+
+    QIcon icon(int /*row*/, int textColumn) const override {
+        if (textColumn == 0 && view_.domainIdentity == identityActiveDirectory)
+            return namedIcon("group");
+        return textColumn == 0 && view_.domainIdentity == identityMorvane ? namedIcon("group_Morvane")
+                                                                          : QIcon();
+    }
+
+private:
+    const GroupRightsViewController& view_;
+};
+
+} // namespace
+
+void GroupRightsViewController::loadView() {
+    groupRightsTable =
+        outlet(new RightsTable({{"group", L("Col_Group")}, {"path", L("Col_Path"), Qt::ElideLeft}},
+                               std::make_unique<GroupRows>(*this), this),
+               "groupRightsTable", plainL("Group_Rights_Title"));
+    searchField = outlet(new SearchField(groupRightsTable, this), "searchField");
+    closeBtn = outlet(new QPushButton(this), "closeBtn");
+    closeBtn->setDefault(true);
+    connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });
+    connect(closeBtn, &QPushButton::clicked, this, [this] { onClose(closeBtn); });
+
+    auto* heading = new QHBoxLayout;
+    heading->addStretch();
+    heading->addWidget(searchField);
+    auto* page = new QVBoxLayout(this);
+    page->addLayout(heading);
+    page->addWidget(groupRightsTable, 1);
+    page->addWidget(closeBtn, 0, Qt::AlignLeft);
+    setTabOrders({searchField, groupRightsTable, closeBtn});
+}
+
+void GroupRightsViewController::viewDidLoad() {
+    initGroupRightsView();
+}
+
+void GroupRightsViewController::initGroupRightsView() {
+    setWindowTitle(L("Group_Rights_Title"));
+    groupRightsTable->setColumnHeader(0, L("Col_Group"));
+    groupRightsTable->setColumnHeader(1, L("Col_Path"));
+    closeBtn->setText(L("Close_title"));
+}
+
+QSize GroupRightsViewController::sizeHint() const {
+    return {90 * fontMetrics().averageCharWidth() + 80, 26 * fontMetrics().lineSpacing()};
+}
+
+void GroupRightsViewController::viewWillAppear() {
+    grpIDs = initgroupRightsTable(trusteeID);
+    initEffRightsTable(grpIDs);
+    redisplay();
+}
+
+void GroupRightsViewController::viewDidAppear() {
+    groupRightsTable->setFocus();
+}
+
+void GroupRightsViewController::redisplay() {
+    quorvan::redisplay(*groupRightsTable, isSearching, *searchField, "No_Group_Rights_Label");
+}
+
+std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const std::string& id) {
+    if (domainIdentity != identityActiveDirectory)
+        return groupsOfTheTree();
+    std::vector<std::string> sids;
+    for (const std::string& name : BrowseLdapViewModal::getGroupMembership(id)) {
+        std::string sid = BrowseLdapViewModal::getSidforObject(
+            name, std::string(UserQuotaConstants::ObjectTypes::GROUPS), "dsAttrTypeNative:distinguishedName");
+        if (!sid.empty())
+            sids.push_back(std::move(sid));
+    }
+    return sids;
+}
+
+std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
+    if (!openPipe("/_admin", "/Manage_KELP/TRELL.cmd"))
+        return {};
+    std::string context;
+    std::string name;
+    convertDntoContextAndNameRootLeft(SelectedTrusteeName, context, name);
+    const std::string status = xmlController->getGroupMemberShip_Morvane("", grouplist, context, name);
+    std::vector<std::string> guids;
+    for (Group& group : grouplist) {
+        if (!convertDntoContextAndNameRootLeft(group.groupName, context, name))
+            Log("error in DN conversion");
+        const std::string guid = xmlController->getGuid_Morvane(context, name);
+        if (guid.empty() || decimalNumber(guid)) // a number is the status with which the server has none
+            continue;
+        guids.push_back(guid);
+        group.id = guid;
+        group.DN = getDNFromGroupNameRootRight(group.groupName);
+    }
+    if (status != "0")
+        Log("Failed with kelp err - %@", status);
+    XMLReadWriteController::closePipe();
+    return guids;
+}
+
+void GroupRightsViewController::initEffRightsTable(const std::vector<std::string>& ids) {
+    if (!openPipe("/IPC$", "/RightsCmdPipe"))
+        return;
+    frightsList.clear();
+    xmlController->getFSRights(selectedPath, ids, frightsList, domainIdentity);
+    XMLReadWriteController::closePipe();
+    addToDataSource(frightsList);
+}
+
+void GroupRightsViewController::addToDataSource(const std::vector<IdentityFileRights>& arr) {
+    const DirectoryLookup directory;
+    for (const auto& [id, rights] : arr) {
+        if (domainIdentity == identityActiveDirectory) {
+            grpTrusteeList.push_back({directory.lookupAttrValueFromID(id, "dsAttrTypeStandard:RecordName"),
+                                      rights.fpath, rights.frights});
+        } else if (domainIdentity == identityMorvane) {
+            const auto group =
+                std::ranges::find_if(grouplist, [&id = id](const Group& known) { return known.id == id; });
+            grpTrusteeList.push_back({group == grouplist.end() ? std::string("Unknown") : group->DN,
+                                      rights.fpath, rights.frights});
+        }
+    }
+}
+
+void GroupRightsViewController::onSearch(SearchField* sender) {
+    search_.setText(sender->text().toStdString(), *groupRightsTable);
+    redisplay();
+}
+
+void GroupRightsViewController::onClose(QObject* /*sender*/) {
+    endSheet();
+}
+
+} // namespace quorvan

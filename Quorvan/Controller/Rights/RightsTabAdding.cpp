@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the trustee rights tab gets new trustees.
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
+
+#include "Common/Error.h"
+#include "Common/Log.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/ViewModal/UsersViewModal.h"
+
+#include <QCheckBox>
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace quorvan {
+
+void RightsTabViewController::onSelectTrusteeClick(QObject* /*sender*/) {
+    openIdentityBrowser(*this, *this, domainIdentity, {}, showCheck->isChecked(), multiForestFlag);
+}
+
+void RightsTabViewController::onReturnIdentifySource(const std::string& identityType) {
+    domainIdentity = identityType;
+    openIdentityBrowser(*this, *this, domainIdentity, {});
+}
+
+bool RightsTabViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
+    TrusteeList chosen;
+    for (const User& user : users)
+        chosen.push_back(std::make_shared<Trustees>(user.trusteeName, user.trusteeID, newTrusteeRights, "ADD",
+                                                    user.trusteeType, domainIdentity));
+    return add(chosen);
+}
+
+bool RightsTabViewController::onReturnSelectedUser(const std::vector<std::string>& names,
+                                                   const std::vector<std::string>& ids,
+                                                   const std::string& /*category*/) {
+    const DirectoryLookup lookup;
+    DirectoryLookup::prefetch(ids);
+    TrusteeList chosen;
+    for (std::size_t i = 0; i < std::min(names.size(), ids.size()); ++i) {
+        chosen.push_back(
+            std::make_shared<Trustees>(names[i], ids[i], newTrusteeRights, "ADD", "", domainIdentity));
+        lookup.setTrusteeTypeforTrustee(*chosen.back());
+    }
+    return add(chosen);
+}
+
+bool RightsTabViewController::add(const TrusteeList& chosen) {
+    std::unordered_set<std::string> listed;
+    for (const auto& trustee : editedTrusteeList)
+        listed.insert(trustee->trusteeID);
+    bool duplicate = false;
+    bool added = false;
+    for (const auto& trustee : chosen) {
+        if (!listed.insert(trustee->trusteeID).second) {
+            duplicate = true;
+            continue;
+        }
+        editedTrusteeList.push_back(std::make_shared<Trustees>(*trustee));
+        trackTrusteeList.push_back(std::make_shared<Trustees>(*trustee));
+        added = true;
+    }
+    redisplay();
+    if (added) {
+        setChangesEnabled(true);
+        rightsTable->setSortDescriptor({}); // the new rows stand at the end, whatever the order was
+        rightsTable->scrollToBottom();
+    }
+    if (duplicate) {
+        Log("Trustee is already present");
+        displayErrorMsg(errorCode::msgDuplicateTrustee);
+    }
+    return !duplicate;
+}
+
+} // namespace quorvan

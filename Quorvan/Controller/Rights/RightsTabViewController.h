@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Bundle.h"
+#include "Quorvan/Controller/Identities/IdentityBrowsers.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Controller/Selection/TrusteeContext.h"
+#include "Quorvan/Modal/Users.h"
+#include "Quorvan/Toolkit/ListRows.h"
+#include "Quorvan/Toolkit/RightsTable.h"
+#include "Quorvan/Toolkit/TrusteeRows.h"
+#include "Quorvan/Toolkit/ViewController.h"
+#include "Quorvan/ViewModal/RightsTabViewModal.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QCheckBox;
+class QLabel;
+class QPushButton;
+
+namespace quorvan {
+
+class PathLabel;
+
+/// The first tab of the rights window: the trustees of the selected path and their rights.
+///
+/// Nothing is sent until Apply, which sends all pending changes in one request and loads the list
+/// anew. Pending changes outlive everything but a successful Apply, Revert and a change to both
+/// identity types; also another visit to the tab, after which the rows no longer show them.
+class RightsTabViewController : public ViewController, public TrusteeContext, public IdentityBrowserDelegate {
+public:
+    /// The first tab beside a view of the rights window, which knows what the user may do with the path.
+    static RightsTabViewController& besides(const ViewController& view);
+
+    // Outlets
+    RightsTable* rightsTable = nullptr;
+    QCheckBox* showCheck = nullptr; ///< hidden behind showCheckCaption while it is a plain label
+    QLabel* showCheckCaption = nullptr;
+    SearchField* searchField = nullptr;
+    QLabel* addRemoveLabel = nullptr;
+    QLabel* readOnlyLabel = nullptr; ///< says why nothing can be changed, where that is so
+    QPushButton* applyBtn = nullptr;
+    QPushButton* revertBtn = nullptr;
+    PathLabel* currentPath = nullptr;
+    QPushButton* removeBtn = nullptr;
+    QPushButton* addBtn = nullptr;
+
+    RightsTabViewModal modalData;
+    TrusteeList trusteeList;             ///< as last loaded; edits never touch these objects
+    TrusteeList editedTrusteeList;       ///< the rows; while searching, those that match
+    TrusteeList backupEditedTrusteeList; ///< the rows as they were when the search started
+    TrusteeList removedTrusteeList;      ///< taken out by the latest Remove
+    TrusteeList trackTrusteeList;        ///< pending changes, "ADD" or "REMOVE", in the order they were made
+
+    std::optional<platform::FeatureDictionary> featureFlagDict;
+    bool bothIdentitiesFlag = false;
+    bool multiForestFlag = false;
+    bool addBothTrusteesFlag = false;
+    bool enableSettingsFlag = false;
+    bool isSearching = false;
+
+    void loadView() override;
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void viewDidAppear() override;
+
+    void initRightsMainView();
+    /// Loads the trustees of domainIdentity in place of what the lists held.
+    void initRightsTable();
+    /// Loads the trustees of one identity type and adds them to the lists.
+    void initRightsTable(const std::string& domain);
+    void setTabState();
+    void reloadTrusteeList();
+    void sortDescriptorsDidChange();
+
+    void onShowBothMorvaneAD(QCheckBox* sender);
+    void onSelectTrusteeClick(QObject* sender);
+    void onReturnIdentifySource(const std::string& identityType) override;
+    bool onReturnMorvaneSelectedUser(const std::vector<User>& users) override;
+    bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
+                              const std::string& category) override;
+    void removeSelectedRow(QObject* sender);
+    void onMouseClickCheckbox(const RightsCheckBox& sender);
+    void onSearch(SearchField* sender);
+    void onRevertClick(QObject* sender);
+    void onApplyClick(QObject* sender);
+    void onReturnMainMenu();
+
+private:
+    void buildControls();
+    void layOutControls();
+    void connectControls();
+    /// Adds the trustees that are not listed yet. False, and a message, when some were.
+    bool add(const TrusteeList& chosen);
+    bool canEdit() const { return isSupervisor || isAccessControl; }
+    void setChangesEnabled(bool enabled);
+    void redisplay();
+
+    RowSearch<std::shared_ptr<Trustees>> search_{
+        editedTrusteeList, backupEditedTrusteeList, isSearching, {trusteeNameOf}};
+};
+
+} // namespace quorvan

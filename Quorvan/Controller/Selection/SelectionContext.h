@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Quorvan/ViewModal/XMLReadWrite.h"
+
+#include <QString>
+
+#include <memory>
+#include <string>
+
+namespace quorvan {
+
+/// What a view about the selected path starts out with. An incomplete selection is fatal.
+struct SelectionContext {
+    SelectionContext();
+
+    /// A request controller for the next operation.
+    XMLReadWriteController& renewController();
+
+    /// Opens a pipe for the next operation, whose request controller is new; a failure is reported to the
+    /// user.
+    bool openPipe(const char* share, const char* pipe);
+
+    /// The path that was selected, to be shown; requests go to where a link on it leads.
+    static QString selectedPathName();
+
+    std::unique_ptr<XMLReadWriteController> xmlController; ///< anew for each operation
+    std::string serverIP;
+    std::string selectedPath;   ///< as the server knows it
+    std::string mappedPath;     ///< what the mounted share stands for
+    std::string domainIdentity; ///< the identity type worked in
+};
+
+} // namespace quorvan

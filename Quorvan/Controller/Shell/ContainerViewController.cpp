@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Shell/ContainerViewController.h"
+
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/Storyboard.h"
+
+#include <QGraphicsOpacityEffect>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPropertyAnimation>
+#include <QScreen>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace quorvan {
+namespace {
+
+constexpr int fadeMilliseconds = 150;
+
+bool animates(const QWidget& widget) {
+    return widget.isVisible() && QGuiApplication::platformName() != QLatin1String("offscreen") &&
+           widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
+}
+
+} // namespace
+
+void ContainerViewController::loadView() {
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+}
+
+void ContainerViewController::viewDidLoad() {
+    ViewController* options = Storyboard::named("Main").instantiate("optionsViewController");
+    insertChild(0, options);
+    options->loadViewIfNeeded();
+    layout()->addWidget(options);
+    resize(options->sizeHint());
+}
+
+void ContainerViewController::viewWillAppear() {
+    window()->setWindowTitle(plainL("RM_Window_Title"));
+}
+
+void ContainerViewController::showDestinationView(ViewController* sourceViewController,
+                                                  ViewController* destinationViewController,
+                                                  const QString& windowTitle) {
+    if (waiting_)
+        delete waiting_->destination;
+    waiting_ = {sourceViewController, destinationViewController, windowTitle};
+    if (switching_)
+        return;
+    switching_ = true;
+    while (waiting_)
+        perform(*std::exchange(waiting_, {}));
+    switching_ = false;
+}
+
+void ContainerViewController::perform(const Switch& next) {
+    const QPixmap before = animates(*this) ? grab() : QPixmap();
+    insertChild(1, next.destination);
+    next.destination->beginAppearing();
+    window()->setWindowTitle(next.title);
+    layout()->removeWidget(next.source);
+    layout()->addWidget(next.destination);
+    removeChild(next.source);
+    if (waiting_)
+        return; // it is to be replaced at once
+    next.destination->show();
+    fitWindow();
+    if (!before.isNull())
+        fadeFrom(before);
+    next.destination->endAppearing();
+}
+
+/// The page that was shown goes out over the new one, which can be used from the start.
+void ContainerViewController::fadeFrom(const QPixmap& before) {
+    auto* cover = new QLabel(this);
+    cover->setAttribute(Qt::WA_TransparentForMouseEvents);
+    cover->setPixmap(before);
+    cover->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    cover->setGeometry(rect());
+    auto* effect = new QGraphicsOpacityEffect(cover);
+    cover->setGraphicsEffect(effect);
+    cover->show();
+    auto* fade = new QPropertyAnimation(effect, "opacity", cover);
+    fade->setDuration(fadeMilliseconds);
+    fade->setStartValue(1.0);
+    fade->setEndValue(0.0);
+    connect(fade, &QAbstractAnimation::finished, cover, &QObject::deleteLater);
+    fade->start();
+}
+
+/// The window keeps its place and takes the page's size, as far as the screen has room for it. One
+/// that would grow over the edge of the screen moves in just far enough.
+void ContainerViewController::fitWindow() {
+    QWidget* frame = window();
+    if (frame->isMaximized() || frame->isFullScreen())
+        return;
+    layout()->activate();
+    if (frame->layout() != nullptr)
+        frame->layout()->activate();
+    const QRect room = frame->screen()->availableGeometry();
+    const QSize decoration = frame->frameGeometry().size() - frame->size();
+    frame->resize(frame->sizeHint().boundedTo(room.size() - decoration).expandedTo(frame->minimumSizeHint()));
+
+    const QRect now = frame->frameGeometry();
+    const QPoint inside(qMax(room.left(), qMin(now.left(), room.right() + 1 - now.width())),
+                        qMax(room.top(), qMin(now.top(), room.bottom() + 1 - now.height())));
+    if (inside != now.topLeft() && room.contains(now.topLeft()))
+        frame->move(inside);
+}
+
+} // namespace quorvan
