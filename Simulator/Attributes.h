@@ -20,7 +20,7 @@ inline constexpr AttributeSet deleteInhibit = 0x020;
 inline constexpr AttributeSet compressImmediate = 0x040;
 inline constexpr AttributeSet doNotCompress = 0x080;
 inline constexpr AttributeSet changeable = 0x0FF; ///< all of the above
-inline constexpr AttributeSet compressed = 0x100; ///< a state that the server reports; nobody sets it
+inline constexpr AttributeSet compressed = 0x100; ///< a state that the server reports; no request sets it
 } // namespace attribute
 
 struct AttributeTag {

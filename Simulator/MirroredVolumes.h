@@ -10,7 +10,7 @@
 namespace quorvan::simulator {
 
 /// The volumes of a simulated server as mounted ones: a temporary folder that gets each volume's folders
-/// and (empty) files when that volume is first asked for, and goes with this object.
+/// and (empty) files when that volume is first asked for, and is removed with this object.
 class MirroredVolumes : public platform::FolderVolumes {
 public:
     explicit MirroredVolumes(std::shared_ptr<KelpServer> server);

@@ -53,7 +53,7 @@ void setFilter(const Request& request, const Change& change) {
     changeableNode(request, change.path, neededFor::filter).filter = change.rights;
 }
 
-/// type="adID" on the element goes with <adUser/> as its first child; both or neither.
+/// type="adID" on the element demands <adUser/> as its first child, and the other way round.
 IdentityKind takeUserKind(const RequestElement& element, ElementWalk& walk) {
     const IdentityKind kind = kindOf(element);
     if (kind == IdentityKind::activeDirectory)

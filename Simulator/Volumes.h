@@ -46,7 +46,7 @@ inline constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max
 
 /// How much space the files below a folder may take up.
 struct DirectoryQuota {
-    static constexpr std::int64_t notSet = -1; ///< a limit that nobody has ever set
+    static constexpr std::int64_t notSet = -1; ///< a limit that was never set
     std::int64_t limit = notSet;
     std::int64_t used = 0;
 };
