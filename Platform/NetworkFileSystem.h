@@ -22,9 +22,9 @@ struct MountResult {
 /// SMB shares and the files on them.
 ///
 /// Calls that can fail return -1 and set errno, as their POSIX namesakes do. Every call that reaches
-/// the network has a time limit. `read` returns -1 only for a passing error (EINTR, EAGAIN, a
-/// time-out of a server that is still there); once the other end is gone for good it returns 0 and
-/// says so in the log once, because the only thing that ends an exchange is an empty read.
+/// the network has a time limit. `read` returns -1 only for an error that passes (EINTR, EAGAIN); once
+/// the other end is gone for good it returns 0, because the only thing that ends an exchange is an empty
+/// read, and `lossOn` tells that from the end of a reply.
 class NetworkFileSystem {
 public:
     virtual ~NetworkFileSystem() = default;
@@ -52,6 +52,14 @@ public:
     virtual ssize_t read(int descriptor, void* buffer, std::size_t size) = 0;
     virtual ssize_t write(int descriptor, const void* data, std::size_t size) = 0;
     virtual int close(int descriptor) = 0;
+
+    /// Whether the server was lost while an open file was read or written: the errno of it, or 0. What was
+    /// read is then a part of the reply, and what was written may or may not have arrived.
+    virtual int lossOn(int /*descriptor*/) const { return 0; }
+
+    /// A server that refused a login, or did not answer, is not asked again for a while, unless the user says
+    /// so: this says it.
+    virtual void forgetRefusals() {}
 };
 
 } // namespace quorvan::platform

@@ -1,26 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/SmbClientFileSystem.h"
 
+#include "Platform/Linux/SmbProbe.h"
 #include "Platform/Linux/SmbSession.h"
+#include "Platform/Linux/SmbSockets.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <optional>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
-#include <arpa/inet.h>
-#include <netdb.h>
-
 namespace quorvan::platform {
 namespace {
 
 constexpr std::string_view root = "/Volumes/";
-
-/// Passing errors end within this many time limits; what lasts longer does not pass.
-constexpr int patience = 3;
 
 int fail(int error) {
     errno = error;
@@ -33,29 +28,26 @@ struct SmbClientFileSystem::OpenFile {
     SmbSession* session;
     SMBCFILE* file;
     std::string path;
-    std::optional<std::chrono::steady_clock::time_point> inTrouble; ///< since the first of the latest errors
-    bool gone = false;                                              ///< the other end is, and the log says so
+    off_t offset = 0;
+    int loss = 0;                                    ///< errno
+    std::optional<Clock::time_point> troubleBegin{}; ///< of the latest errors without a success between them
+    std::optional<Clock::time_point> stretchBegin{}; ///< nothing before the reply begins
+    std::size_t stretch = 0;                         ///< bytes of the reply since then
 };
 
-SmbClientFileSystem::SmbClientFileSystem(LogLine log, std::chrono::milliseconds timeLimit)
+SmbClientFileSystem::SmbClientFileSystem(LogLine log, Waiting waiting, const SmbTimeLimits& limits)
     : log_(std::move(log))
-    , timeLimit_(timeLimit) {}
+    , waiting_(std::move(waiting))
+    , limits_(limits)
+    , resolver_(limits.resolving) {}
 
-SmbClientFileSystem::~SmbClientFileSystem() = default;
+SmbClientFileSystem::~SmbClientFileSystem() {
+    while (!sessions_.empty())
+        unmount(sessions_.begin()->first, true);
+}
 
 std::string SmbClientFileSystem::resolve(const std::string& host) {
-    addrinfo hints{};
-    hints.ai_family = AF_INET;
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    if (host.empty() || ::getaddrinfo(host.c_str(), nullptr, &hints, &found) != 0)
-        return "";
-    const std::unique_ptr<addrinfo, void (*)(addrinfo*)> list(found, ::freeaddrinfo);
-    sockaddr_in address{};
-    std::memcpy(&address, found->ai_addr, std::min<std::size_t>(sizeof address, found->ai_addrlen));
-    char text[INET_ADDRSTRLEN] = "";
-    ::inet_ntop(AF_INET, &address.sin_addr, text, sizeof text);
-    return text;
+    return resolver_.resolve(host).v4;
 }
 
 std::string SmbClientFileSystem::freeMountPoint(const std::string& name) const {
@@ -70,17 +62,107 @@ int SmbClientFileSystem::createContext(const std::string&) {
     return 0;
 }
 
+/// Tells how long a call has been waiting since a moment, once a second.
+void SmbClientFileSystem::tell(Clock::time_point since) {
+    const auto now = Clock::now();
+    if (!waiting_ || now - std::max(since, told_) < std::chrono::seconds(1))
+        return;
+    told_ = now;
+    waiting_(std::chrono::duration_cast<std::chrono::seconds>(now - since));
+}
+
+bool SmbClientFileSystem::isPausing(const ServerAddress& server) const {
+    const auto silent = silentSince_.find(server);
+    return silent != silentSince_.end() && Clock::now() - silent->second < limits_.pause;
+}
+
+/// Asks for the protocol before the library connects, which would wait longer for a server that is not there;
+/// 0 or an errno value.
+int SmbClientFileSystem::probe(const ServerAddress& server) {
+    const auto begin = Clock::now();
+    SmbProbe probe(server);
+    while (probe.state(CallThread::interval) == SmbProbe::State::waiting) {
+        if (Clock::now() - begin >= limits_.silence) {
+            silentSince_[server] = Clock::now();
+            return ETIMEDOUT;
+        }
+        tell(begin);
+    }
+    return probe.state() == SmbProbe::State::answered ? 0 : probe.error();
+}
+
+/// Runs a library call about a server; false, and ETIMEDOUT, when it had to be ended.
+bool SmbClientFileSystem::attend(const ServerAddress& server, const std::function<void()>& call,
+                                 const OpenFile* file) {
+    const auto begin = Clock::now();
+    auto answered = begin; // when the server was last seen to answer elsewhere
+    bool isEnded = false;
+    std::optional<SmbProbe> second;
+    library_.run(call, [&] {
+        const auto now = Clock::now();
+        tell(begin);
+        const auto heard = timeSinceHeard(server, second ? second->descriptor() : -1);
+        auto silence = std::chrono::duration_cast<std::chrono::milliseconds>(now - answered);
+        if (heard)
+            silence = std::min(silence, *heard);
+        if (silence < limits_.silence - limits_.secondTry) {
+            second.reset();
+        } else {
+            if (!second)
+                second.emplace(server);
+            if (second->state() == SmbProbe::State::answered) {
+                second.reset();
+                answered = now;
+                silence = {};
+            }
+        }
+        const bool isGone = silence >= limits_.silence;
+        if (isGone)
+            silentSince_[server] = now;
+        isEnded =
+            isEnded || isGone || now - begin >= limits_.computing || (file != nullptr && isTooSlow(*file));
+        if (isEnded)
+            endConnections(server);
+    });
+    if (isEnded)
+        errno = ETIMEDOUT;
+    return !isEnded;
+}
+
 MountResult SmbClientFileSystem::mount(const std::string& url, const std::string& user,
                                        const std::string& password, const MountOptions&) {
     const std::optional<SmbUrl> share = SmbUrl::parse(url);
-    if (!share)
+    if (!share || !SmbSession::canUse(user, password))
         return {EINVAL, {}};
-    auto session = std::make_unique<SmbSession>(*share, user, password, timeLimit_);
-    if (const int error = session->connect(); error != 0)
+    const ServerAddress server{resolver_.resolve(share->host()).any, share->port()};
+    if (server.host.empty())
+        return {EHOSTUNREACH, {}};
+    const std::size_t credentials = std::hash<std::string>()(user + '\0' + password);
+    if (const auto refused = refused_.find(share->server);
+        refused != refused_.end() && refused->second == credentials)
+        return {EACCES, {}};
+    if (isPausing(server))
+        return {ETIMEDOUT, {}};
+    if (const int error = probe(server); error != 0)
         return {error, {}};
+    auto session = std::make_unique<SmbSession>(*share, server, user, password, limits_.computing);
+    int error = 0;
+    if (!attend(server, [&] { error = session->connect(); }))
+        error = ETIMEDOUT;
+    if (error != 0) {
+        if (error == EACCES)
+            refused_[share->server] = credentials;
+        attend(server, [&] { session.reset(); });
+        return {error, {}};
+    }
     const std::string mountPoint = freeMountPoint(share->name());
     sessions_.emplace(mountPoint, std::move(session));
     return {0, {mountPoint}};
+}
+
+void SmbClientFileSystem::forgetRefusals() {
+    refused_.clear();
+    silentSince_.clear();
 }
 
 int SmbClientFileSystem::unmount(const std::string& path, bool force) {
@@ -93,6 +175,8 @@ int SmbClientFileSystem::unmount(const std::string& path, bool force) {
     if (!force && std::any_of(files_.begin(), files_.end(), isOnIt))
         return fail(EBUSY);
     std::erase_if(files_, isOnIt);
+    const ServerAddress server = session->second->server();
+    attend(server, [&] { session->second.reset(); });
     sessions_.erase(session);
     return 0;
 }
@@ -101,7 +185,11 @@ int SmbClientFileSystem::stat(const std::string& path) {
     const Place place = locate(path);
     if (place.session == nullptr)
         return fail(ENOENT);
-    return place.rest.empty() ? 0 : place.session->stat(place.rest);
+    if (place.rest.empty())
+        return 0;
+    int result = -1;
+    const bool stayed = attend(place.session->server(), [&] { result = place.session->stat(place.rest); });
+    return stayed ? result : -1;
 }
 
 int SmbClientFileSystem::open(const std::string& path) {
@@ -110,11 +198,14 @@ int SmbClientFileSystem::open(const std::string& path) {
         return fail(ENOENT);
     if (place.rest.empty())
         return fail(EISDIR);
-    SMBCFILE* file = place.session->open(place.rest);
-    if (file == nullptr)
+    if (isPausing(place.session->server()))
+        return fail(ETIMEDOUT);
+    SMBCFILE* file = nullptr;
+    const bool stayed = attend(place.session->server(), [&] { file = place.session->open(place.rest); });
+    if (file == nullptr || !stayed)
         return -1;
     const int descriptor = files_.empty() ? 1 : files_.rbegin()->first + 1;
-    files_.emplace(descriptor, std::make_unique<OpenFile>(OpenFile{place.session, file, path, {}, false}));
+    files_.emplace(descriptor, std::make_unique<OpenFile>(OpenFile{place.session, file, path}));
     return descriptor;
 }
 
@@ -122,43 +213,85 @@ int SmbClientFileSystem::disableCaching(int descriptor) {
     return find(descriptor) == nullptr ? fail(EBADF) : 0; // the library has no cache
 }
 
+/// Takes effect with the next read or write, in the same call of the library's thread.
 off_t SmbClientFileSystem::seek(int descriptor, off_t offset) {
-    const OpenFile* file = find(descriptor);
-    return file == nullptr ? fail(EBADF) : file->session->seek(file->file, offset);
+    OpenFile* file = find(descriptor);
+    if (file == nullptr)
+        return fail(EBADF);
+    return file->offset = offset;
+}
+
+bool SmbClientFileSystem::isTooSlow(const OpenFile& file) const {
+    return file.stretchBegin && Clock::now() - *file.stretchBegin >= limits_.silence &&
+           file.stretch < limits_.leastProgress;
+}
+
+void SmbClientFileSystem::lose(OpenFile& file, int error) {
+    file.loss = error;
+    log_("Lost the server at " + file.path + ": " + std::generic_category().message(error));
 }
 
 ssize_t SmbClientFileSystem::read(int descriptor, void* buffer, std::size_t size) {
     OpenFile* file = find(descriptor);
-    if (file == nullptr || file->gone)
+    if (file == nullptr || file->loss != 0)
         return 0;
-    const ssize_t count = file->session->read(file->file, buffer, size);
-    if (count >= 0) {
-        file->inTrouble.reset();
+    ssize_t count = -1;
+    const bool stayed = attend(
+        file->session->server(), [&] { count = file->session->read(file->file, file->offset, buffer, size); },
+        file);
+    const int error = errno;
+    const auto now = Clock::now();
+    if (stayed && count >= 0) {
+        file->troubleBegin.reset();
+        if (count > 0 && !file->stretchBegin)
+            file->stretchBegin = now;
+        file->stretch += static_cast<std::size_t>(count);
+        file->offset += count;
+        if (count == 0) {
+            file->stretchBegin.reset();
+            file->stretch = 0;
+        } else if (isTooSlow(*file)) {
+            lose(*file, ETIMEDOUT);
+            return 0;
+        } else if (now - *file->stretchBegin >= limits_.silence) {
+            file->stretchBegin = now;
+            file->stretch = 0;
+        }
         return count;
     }
-    const int error = errno;
-    const auto now = std::chrono::steady_clock::now();
-    if (!file->inTrouble)
-        file->inTrouble = now;
-    const bool passing =
-        error == EINTR || error == EAGAIN || (error == ETIMEDOUT && file->session->isAlive());
-    if (passing && now - *file->inTrouble < patience * timeLimit_)
+    file->troubleBegin = file->troubleBegin.value_or(now);
+    if (stayed && (error == EINTR || error == EAGAIN) && now - *file->troubleBegin < limits_.silence)
         return fail(error);
-    file->gone = true;
-    log_("Lost the server while reading " + file->path + ": " + std::generic_category().message(error));
+    lose(*file, stayed ? error : ETIMEDOUT);
     return 0;
 }
 
 ssize_t SmbClientFileSystem::write(int descriptor, const void* data, std::size_t size) {
+    OpenFile* file = find(descriptor);
+    if (file == nullptr)
+        return fail(EBADF);
+    ssize_t count = -1;
+    if (!attend(file->session->server(),
+                [&] { count = file->session->write(file->file, file->offset, data, size); })) {
+        lose(*file, ETIMEDOUT);
+        return -1;
+    }
+    if (count > 0)
+        file->offset += count;
+    return count;
+}
+
+int SmbClientFileSystem::lossOn(int descriptor) const {
     const OpenFile* file = find(descriptor);
-    return file == nullptr ? fail(EBADF) : file->session->write(file->file, data, size);
+    return file == nullptr ? 0 : file->loss;
 }
 
 int SmbClientFileSystem::close(int descriptor) {
     const OpenFile* file = find(descriptor);
     if (file == nullptr)
         return fail(EBADF);
-    const int result = file->session->close(file->file);
+    int result = -1;
+    attend(file->session->server(), [&] { result = file->session->close(file->file); });
     files_.erase(descriptor);
     return result;
 }

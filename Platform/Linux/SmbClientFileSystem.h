@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Linux/CallThread.h"
 #include "Platform/Linux/LogLine.h"
+#include "Platform/Linux/NameResolver.h"
+#include "Platform/Linux/SmbSockets.h"
+#include "Platform/Linux/SmbTimeLimits.h"
 #include "Platform/NetworkFileSystem.h"
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <memory>
+#include <string>
 
 namespace quorvan::platform {
 
@@ -15,9 +21,15 @@ class SmbSession;
 /// SMB shares through libsmbclient, without root and without the kernel: a mount is an authenticated
 /// session of this process, and /Volumes/NAME is only its name. For use by one thread.
 ///
-/// Sessions log in with the given name and password alone: no prompt, no Kerberos ticket, no anonymous
-/// or guest login in their place, no protocol older than SMB 2. A session that broke is set up again
-/// by the next open(); the password is kept for that until the share is unmounted.
+/// Sessions log in with the given name and password alone: no prompt, no Kerberos ticket, no anonymous or
+/// guest login in their place, nothing unsigned, no protocol older than SMB 2 and no NTLM older than
+/// version 2. A session that broke is set up again by the next open(); the password is kept for that until
+/// the share is unmounted. A refused login is not repeated with the same name and password before
+/// forgetRefusals().
+///
+/// Each library call runs in a thread of its own, while the calling thread keeps to the time limits and tells
+/// `waiting` every second how long it has been waiting. A server that is gone is a loss: the call fails with
+/// ETIMEDOUT, lossOn() says so of the file, and for a pause the server is not asked again.
 ///
 /// How a mount fails: EINVAL for a URL that is not smb://server/share (or a password longer than the
 /// library can take), EHOSTUNREACH when the name does not resolve, ECONNREFUSED or ETIMEDOUT when no
@@ -25,8 +37,9 @@ class SmbSession;
 /// share.
 class SmbClientFileSystem : public NetworkFileSystem {
 public:
-    /// `timeLimit` bounds each exchange of messages with a server.
-    explicit SmbClientFileSystem(LogLine log, std::chrono::milliseconds timeLimit = std::chrono::seconds(20));
+    using Waiting = std::function<void(std::chrono::seconds soFar)>;
+
+    explicit SmbClientFileSystem(LogLine log, Waiting waiting = {}, const SmbTimeLimits& limits = {});
     ~SmbClientFileSystem() override;
 
     std::string resolve(const std::string& host) override;
@@ -43,6 +56,8 @@ public:
     ssize_t read(int descriptor, void* buffer, std::size_t size) override;
     ssize_t write(int descriptor, const void* data, std::size_t size) override;
     int close(int descriptor) override;
+    int lossOn(int descriptor) const override;
+    void forgetRefusals() override;
 
 private:
     struct OpenFile;
@@ -51,12 +66,27 @@ private:
         std::string rest;              ///< "" for the mount point itself, or "/dir/file"
     };
 
+    using Clock = std::chrono::steady_clock;
+
     std::string freeMountPoint(const std::string& name) const;
     Place locate(const std::string& path) const;
     OpenFile* find(int descriptor) const;
+    int probe(const ServerAddress& server);
+    bool attend(const ServerAddress& server, const std::function<void()>& call,
+                const OpenFile* file = nullptr);
+    bool isPausing(const ServerAddress& server) const;
+    bool isTooSlow(const OpenFile& file) const;
+    void lose(OpenFile& file, int error);
+    void tell(Clock::time_point since);
 
     LogLine log_;
-    std::chrono::milliseconds timeLimit_;
+    Waiting waiting_;
+    SmbTimeLimits limits_;
+    NameResolver resolver_;
+    CallThread library_;
+    std::map<ServerAddress, Clock::time_point> silentSince_;
+    Clock::time_point told_;                                      ///< when `waiting_` was last called
+    std::map<std::string, std::size_t> refused_;                  ///< what was refused, by server
     std::map<std::string, std::unique_ptr<SmbSession>> sessions_; ///< by mount point
     std::map<int, std::unique_ptr<OpenFile>> files_;              ///< by descriptor
 };

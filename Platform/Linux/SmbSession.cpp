@@ -1,29 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/SmbSession.h"
 
+#include "Platform/Linux/SmbConfiguration.h"
+
 #include <cerrno>
 #include <cstring>
 #include <string_view>
 #include <utility>
 
 #include <fcntl.h>
-#include <netdb.h>
 
 namespace quorvan::platform {
 namespace {
 
 /// The library's own buffers for user name and password.
 constexpr std::size_t longestCredential = 255;
-
-bool resolves(const std::string& host) {
-    addrinfo hints{};
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    if (::getaddrinfo(host.c_str(), nullptr, &hints, &found) != 0)
-        return false;
-    ::freeaddrinfo(found);
-    return true;
-}
 
 void fillIn(char* target, int size, std::string_view text) {
     const std::size_t length = text.copy(target, static_cast<std::size_t>(size) - 1);
@@ -32,9 +23,10 @@ void fillIn(char* target, int size, std::string_view text) {
 
 } // namespace
 
-SmbSession::SmbSession(SmbUrl share, std::string user, const std::string& password,
+SmbSession::SmbSession(SmbUrl share, ServerAddress server, std::string user, const std::string& password,
                        std::chrono::milliseconds timeLimit)
-    : share_(std::move(share))
+    : server_(std::move(server))
+    , share_(share.at(server_.host))
     , user_(std::move(user))
     , password_(password)
     , timeLimit_(timeLimit) {}
@@ -45,8 +37,12 @@ SmbSession::~SmbSession() {
     ::explicit_bzero(password_.data(), password_.size());
 }
 
+bool SmbSession::canUse(const std::string& user, const std::string& password) {
+    return user.size() <= longestCredential && password.size() <= longestCredential;
+}
+
 bool SmbSession::makeContext() {
-    context_ = smbc_new_context();
+    context_ = newSmbContext();
     if (context_ == nullptr)
         return false;
     smbc_setDebug(context_, 0);
@@ -57,6 +53,9 @@ bool SmbSession::makeContext() {
     smbc_setOptionUseKerberos(context_, 0);
     smbc_setOptionUseCCache(context_, 0);
     smbc_setOptionNoAutoAnonymousLogin(context_, 1);
+    // Below this level the library takes a guest login for the user's, and signs nothing but the login where
+    // the server does not insist; at this one each packet is signed, and encrypted where the server can.
+    smbc_setOptionSmbEncryptionLevel(context_, SMBC_ENCRYPTLEVEL_REQUEST);
     if (smbc_init_context(context_) == nullptr || smbc_setOptionProtocols(context_, "SMB2_02", "SMB3") == 0)
         return false;
     addToCache_ = smbc_getFunctionAddCachedServer(context_);
@@ -67,11 +66,6 @@ bool SmbSession::makeContext() {
 }
 
 int SmbSession::connect() {
-    if (user_.size() > longestCredential || password_.size() > longestCredential)
-        return EINVAL; // the library would log in with a part of it
-    // Asked first, because the library would go on to search the local network for the name.
-    if (!resolves(share_.host()))
-        return EHOSTUNREACH;
     if (!makeContext())
         return errno != 0 ? errno : ENOMEM;
     errno = 0;
@@ -91,24 +85,22 @@ SMBCFILE* SmbSession::open(const std::string& path) {
     return smbc_getFunctionOpen(context_)(context_, share_.below(path).c_str(), O_RDWR, 0);
 }
 
-off_t SmbSession::seek(SMBCFILE* file, off_t offset) {
-    return smbc_getFunctionLseek(context_)(context_, file, offset, SEEK_SET);
-}
-
-ssize_t SmbSession::read(SMBCFILE* file, void* buffer, std::size_t size) {
+ssize_t SmbSession::read(SMBCFILE* file, off_t offset, void* buffer, std::size_t size) {
+    seek(file, offset);
     return smbc_getFunctionRead(context_)(context_, file, buffer, size);
 }
 
-ssize_t SmbSession::write(SMBCFILE* file, const void* data, std::size_t size) {
+ssize_t SmbSession::write(SMBCFILE* file, off_t offset, const void* data, std::size_t size) {
+    seek(file, offset);
     return smbc_getFunctionWrite(context_)(context_, file, data, size);
+}
+
+void SmbSession::seek(SMBCFILE* file, off_t offset) {
+    smbc_getFunctionLseek(context_)(context_, file, offset, SEEK_SET); // costs no message
 }
 
 int SmbSession::close(SMBCFILE* file) {
     return smbc_getFunctionClose(context_)(context_, file);
-}
-
-bool SmbSession::isAlive() {
-    return connection_ != nullptr && smbc_getFunctionCheckServer(context_)(context_, connection_) == 0;
 }
 
 SmbSession& SmbSession::of(SMBCCTX* context) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Linux/SmbSockets.h"
 #include "Platform/Linux/SmbUrl.h"
 
 #include <chrono>
@@ -11,27 +12,29 @@
 
 namespace quorvan::platform {
 
-/// One authenticated connection to one share. Functions fail with -1 or null, and errno.
+/// One authenticated connection to one share. Functions fail with -1 or null, and errno. The time limit is
+/// the library's own, for each message: a last resort behind the caller's.
 class SmbSession {
 public:
-    SmbSession(SmbUrl share, std::string user, const std::string& password,
+    SmbSession(SmbUrl share, ServerAddress server, std::string user, const std::string& password,
                std::chrono::milliseconds timeLimit);
     ~SmbSession();
     SmbSession(const SmbSession&) = delete;
     SmbSession& operator=(const SmbSession&) = delete;
 
+    /// Whether the library takes these as they are; it would log in with a part of longer ones.
+    static bool canUse(const std::string& user, const std::string& password);
+
     /// Logs in and connects to the share; 0 or an errno value.
     int connect();
 
+    const ServerAddress& server() const { return server_; }
+
     int stat(const std::string& path);
     SMBCFILE* open(const std::string& path);
-    off_t seek(SMBCFILE* file, off_t offset);
-    ssize_t read(SMBCFILE* file, void* buffer, std::size_t size);
-    ssize_t write(SMBCFILE* file, const void* data, std::size_t size);
+    ssize_t read(SMBCFILE* file, off_t offset, void* buffer, std::size_t size);
+    ssize_t write(SMBCFILE* file, off_t offset, const void* data, std::size_t size);
     int close(SMBCFILE* file);
-
-    /// Whether the server still answers on the connection that is open now.
-    bool isAlive();
 
 private:
     static void logIn(SMBCCTX* context, const char* server, const char* share, char* workgroup,
@@ -41,8 +44,10 @@ private:
     static int connectionRemoved(SMBCCTX* context, SMBCSRV* connection);
     static SmbSession& of(SMBCCTX* context);
     bool makeContext();
+    void seek(SMBCFILE* file, off_t offset);
 
-    SmbUrl share_;
+    ServerAddress server_;
+    SmbUrl share_; ///< on the server's address, so that the library has no name to resolve
     std::string user_;
     std::string password_;
     std::chrono::milliseconds timeLimit_;

@@ -3,6 +3,8 @@
 
 #include "Platform/PercentEscapes.h"
 
+#include <charconv>
+
 namespace quorvan::platform {
 namespace {
 
@@ -40,6 +42,20 @@ std::string SmbUrl::host() const {
     if (server.front() == '[')
         return server.substr(1, server.find(']') - 1);
     return server.substr(0, server.find(':'));
+}
+
+std::uint16_t SmbUrl::port() const {
+    const std::size_t hostEnd = server.front() == '[' ? server.find(']') : 0;
+    const std::size_t colon = server.find(':', hostEnd);
+    std::uint16_t number = 0;
+    if (colon != std::string::npos)
+        std::from_chars(server.data() + colon + 1, server.data() + server.size(), number);
+    return number != 0 ? number : 445;
+}
+
+SmbUrl SmbUrl::at(const std::string& address) const {
+    const bool isV6 = address.find(':') != std::string::npos;
+    return {(isV6 ? "[" + address + "]" : address) + ":" + std::to_string(port()), share};
 }
 
 std::string SmbUrl::name() const {

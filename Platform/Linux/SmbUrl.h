@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,6 +19,12 @@ struct SmbUrl {
 
     /// The server without its port.
     std::string host() const;
+
+    /// The port of the server; 445 when the URL names none.
+    std::uint16_t port() const;
+
+    /// The same share on the server of an address.
+    SmbUrl at(const std::string& address) const;
 
     /// The last component of the share.
     std::string name() const;

@@ -30,7 +30,8 @@ struct RealWindow : testing::Test {
         world.handOver("/Volumes/VOL1/Projects/Aurora", "VOL1:\\");
         platform::Services services = world.services();
         services.network = std::make_shared<platform::SmbClientFileSystem>(
-            [](std::string_view line) { Log("%@", line); }, std::chrono::seconds(5));
+            [](std::string_view line) { Log("%@", line); }, nullptr,
+            platform::SmbTimeLimits{.silence = std::chrono::seconds(5)});
         const auto bundle = std::make_shared<FakeBundle>();
         bundle->texts["Managed_Server_Label"] = "on %1";
         services.bundle = bundle;

@@ -65,8 +65,9 @@ TEST(SmbUrlTest, TakesShareUrlsApartAndPutsThemTogether) {
 }
 
 TEST(SmbClientFileSystemTest, GivesEachFailedMountItsOwnErrorWithinTheTimeLimit) {
-    SmbClientFileSystem network([](std::string_view line) { ADD_FAILURE() << line; },
-                                std::chrono::milliseconds(300));
+    SmbClientFileSystem network([](std::string_view line) { ADD_FAILURE() << line; }, {},
+                                platform::SmbTimeLimits{.silence = std::chrono::milliseconds(300),
+                                                        .secondTry = std::chrono::milliseconds(100)});
     const Port refused;
     const Port silent;
     silent.listen();

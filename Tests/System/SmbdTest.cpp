@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The SMB adapter in front of Debian's own server, set up in the ways in which a server can be careless.
+#include "Platform/Linux/SmbClientFileSystem.h"
+#include "Tests/Support/ChildProcess.h"
+
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace quorvan {
+namespace {
+
+using namespace test;
+
+constexpr const char* password = "sm8d-s3cret";
+
+/// smbd with a configuration in a folder of its own, on a port of this test program's.
+class Smbd {
+public:
+    explicit Smbd(const std::string& settings) {
+        std::ofstream file(conf);
+        file << "[global]\nserver role = standalone\nsmb ports = " << port
+             << "\ninterfaces = lo 127.0.0.1/8\nbind interfaces only = yes\nguest account = nobody\n"
+                "load printers = no\ndisable spoolss = yes\n"
+             << "log file = " << (folder.path / "log").string() << '\n';
+        for (const char* name : {"private dir", "lock directory", "state directory", "cache directory",
+                                 "pid directory", "ncalrpc dir"})
+            file << name << " = " << made(name) << '\n';
+        file << settings << "\n[vol1]\npath = " << made("share") << "\nguest ok = yes\nread only = no\n"
+             << std::flush;
+        const std::string secret = std::string(password) + "\n";
+        run({"pdbedit", "-s", conf, "-a", "-t", "root"}, secret + secret);
+        server = std::make_unique<ChildProcess>(std::vector<std::string>{"smbd", "-F", "-s", conf});
+    }
+
+    std::string url() const { return "smb://127.0.0.1:" + std::to_string(port) + "/vol1"; }
+
+    /// How the one session is signed, as smbd has it: "-" for not at all.
+    std::string signing() const {
+        ChildProcess status({"smbstatus", "-s", conf, "-p"});
+        status.closeInput();
+        std::string line;
+        for (int lines = 0; lines < 20 && line.find("(ipv4:127.0.0.1:") == std::string::npos; ++lines)
+            line = status.readLine();
+        line.erase(line.find_last_not_of(' ') + 1);
+        return line.substr(line.rfind(' ') + 1);
+    }
+
+private:
+    std::string made(const std::string& name) const {
+        std::filesystem::create_directory(folder.path / name);
+        return (folder.path / name).string();
+    }
+
+    TemporaryFolder folder;
+    int port = 20000 + ::getpid() % 10000;
+    std::string conf = (folder.path / "smb.conf").string();
+    std::unique_ptr<ChildProcess> server;
+};
+
+TEST(SmbdTest, IsLoggedInToByTheUserAndSignedOrNotAtAll) {
+    if (!isInstalled("smbd") || !isInstalled("pdbedit"))
+        GTEST_SKIP() << "samba is not installed";
+    // What the library reads of the user's must not weaken a login; smbd refuses the older NTLM.
+    const TemporaryFolder home;
+    std::filesystem::create_directory(home.path / ".smb");
+    std::ofstream(home.path / ".smb" / "smb.conf") << "[global]\nclient ntlmv2 auth = no\n";
+    ::setenv("HOME", home.path.c_str(), 1);
+    const struct {
+        const char *settings, *secret;
+        int error;
+        const char* signing;
+    } cases[] = {
+        {"", password, 0, "AES-128-GMAC"},
+        {"", "wrong", EACCES, ""},
+        {"map to guest = bad password", "wrong", EACCES, ""},
+        {"server signing = disabled", password, 0, "AES-128-GMAC"},
+        {"server max protocol = SMB2_02", password, 0, "HMAC-SHA256"},
+        {"server smb encrypt = required", password, 0, "AES-128-GMAC"},
+        {"server min protocol = NT1\nserver max protocol = NT1", password, ECONNRESET, ""},
+    };
+    for (const auto& item : cases) {
+        SCOPED_TRACE(std::string(item.settings) + " / " + item.secret);
+        const Smbd smbd(item.settings);
+        platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
+                                            {.silence = std::chrono::seconds(5)});
+        platform::MountResult mounted;
+        for (int tries = 0; tries < 200; ++tries) { // until smbd listens
+            mounted = files.mount(smbd.url(), "root", item.secret, {});
+            if (mounted.error != ECONNREFUSED)
+                break;
+            ::usleep(20'000);
+        }
+        EXPECT_EQ(mounted.error, item.error);
+        EXPECT_EQ(mounted.error == 0 ? smbd.signing() : "", item.signing);
+    }
+}
+
+} // namespace
+} // namespace quorvan
