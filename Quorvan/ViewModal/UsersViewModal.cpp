@@ -6,6 +6,7 @@
 #include "Common/Log.h"
 #include "Platform/Services.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 
 #include <map>
 
@@ -83,7 +84,7 @@ DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::opti
 void DirectoryLookup::reportFailure() const {
     Log("Error in Open Directory Session");
     if (!warned_)
-        displayWarningMsg(errorCode::adConnect);
+        reportWhenPipeIsClosed([] { displayWarningMsg(errorCode::adConnect); });
     warned_ = true;
 }
 

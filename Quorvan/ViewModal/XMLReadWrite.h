@@ -74,6 +74,7 @@ public:
 
     /// Makes sure that `share` of `server` is mounted and opens the pipe file. 0, or -25300 without
     /// stored credentials, the errno of the mount, -1 without a mount point, or the failed descriptor.
+    /// Fatal while a pipe is open. A ScopedPipe opens and closes in one.
     std::int32_t openPipe(const std::string& server, const std::string& share, const std::string& pipe);
     /// Finds or makes the mount of share `mountPt`; on success `mountPath` is its mount point without
     /// "/Volumes". `shareName` is ignored.
@@ -83,10 +84,11 @@ public:
     std::int32_t mountShare(const std::string& server, const std::string& mountPath, const std::string& pipe);
     /// Where the share of a scheme-less URL is mounted; "" when it is not, or no longer.
     std::string searchMountPathinDict(const std::string& url);
-    /// Ends an operation: logs "pipe closed" and closes the descriptor, whose number stays.
+    /// Ends an operation: logs "pipe closed" and closes the descriptor, whose number stays. Then the user
+    /// reads what was kept back while the pipe was open.
     static void closePipe();
     /// Writes a request to the open pipe and returns the whole reply, well-formed UTF-8. Without an
-    /// open pipe the process ends with status 1.
+    /// open pipe the process ends with status 1; in the middle of another exchange it is fatal.
     std::string exchangeRequest(const std::string& request, const ExchangeLog& log);
 
     // Replies

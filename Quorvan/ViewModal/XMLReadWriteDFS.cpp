@@ -5,6 +5,7 @@
 #include "Common/Log.h"
 #include "Platform/Services.h"
 #include "Quorvan/Modal/Utils.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 
 #include <algorithm>
 
@@ -22,7 +23,7 @@ struct FailureMessages {
 
 /// A request about the selection, which may lie below a link to another server.
 struct XMLReadWriteController::SelectionRequest {
-    std::string pipe;
+    ManagementPipe pipe;
     FailureMessages failed;
     std::function<std::string(const std::string& path)> perform; ///< returns the status text
 };
@@ -31,11 +32,6 @@ namespace {
 
 constexpr std::string_view readLink =
     "<zelSmbGetInfo><readLink><pathName>%@</pathName></readLink></zelSmbGetInfo>";
-
-const std::string ipcShare = "/IPC$";
-const std::string filesPipe = "/FilesCmdPipe";
-const std::string rightsPipe = "/RightsCmdPipe";
-const std::string linkPipe = "/ZelSmbPipe";
 
 bool succeeded(const std::string& status) {
     return status == "0" || status == "20407";
@@ -121,12 +117,13 @@ void XMLReadWriteController::resolveMultipleDFSPath(std::string& server, const s
     for (std::size_t next = 1; next < parts.size(); ++next) {
         prefix += "\\" + parts[next];
         Log("Resolving DFS path %@", prefix);
-        if (openPipe(server, ipcShare, linkPipe) != 0) {
-            Log("Unable to open pipe %@ - %@", server, linkPipe);
+        ScopedPipe pipe(*this, server, pipes::smbInformation);
+        if (!pipe.isOpen()) {
+            Log("Unable to open pipe %@ - %@", server, pipes::smbInformation.file);
             return;
         }
         resolveDFSPath(prefix, selectedPath, targetServer, targetPath, resVal);
-        closePipe();
+        pipe.close();
         if (resVal == "0") {
             std::int32_t err = 0;
             buildDFSPath(selectedPath, targetPath, prefix, targetServer, server, status, err);
@@ -146,11 +143,11 @@ void XMLReadWriteController::resolveMultipleDFSPath(std::string& server, const s
 std::int32_t XMLReadWriteController::performHandleDFS(const SelectionRequest& request, std::string& server,
                                                       std::string& selectedPath,
                                                       const std::string& mappedPath) {
-    const std::int32_t status = openPipe(server, ipcShare, request.pipe);
-    if (status != 0)
-        return status;
+    ScopedPipe pipe(*this, server, request.pipe);
+    if (!pipe.isOpen())
+        return pipe.status();
     const std::string result = request.perform(selectedPath);
-    closePipe();
+    pipe.close();
 
     std::int32_t outcome = 0;
     if (liesBelowLink(result)) {
@@ -167,13 +164,14 @@ std::int32_t XMLReadWriteController::performHandleDFS(const SelectionRequest& re
 /// client, whatever else goes wrong.
 std::int32_t XMLReadWriteController::followLink(const SelectionRequest& request, std::string& server,
                                                 std::string& selectedPath, const std::string& mappedPath) {
-    if (openPipe(server, ipcShare, linkPipe) != 0)
+    ScopedPipe linkPipe(*this, server, pipes::smbInformation);
+    if (!linkPipe.isOpen())
         return 0;
     std::string targetServer;
     std::string targetPath;
     std::string resVal;
     resolveDFSPath(mappedPath, selectedPath, targetServer, targetPath, resVal);
-    closePipe();
+    linkPipe.close();
 
     std::int32_t status = 0;
     std::int32_t err = 0;
@@ -188,12 +186,13 @@ std::int32_t XMLReadWriteController::followLink(const SelectionRequest& request,
     if (err != 0)
         return status;
 
-    if (openPipe(server, ipcShare, request.pipe) != 0) {
+    ScopedPipe pipe(*this, server, request.pipe);
+    if (!pipe.isOpen()) {
         Log("openPipe failed.");
         return status;
     }
     const std::string result = request.perform(selectedPath);
-    closePipe();
+    pipe.close();
     if (!succeeded(result))
         Log("%@%@", request.failed.behindLink, result);
     return status;
@@ -222,7 +221,7 @@ std::int32_t XMLReadWriteController::initializeTrusteesHandleDFS(std::string& se
         trusteeList.clear();
         return initializeTrustees(path, identityType, trusteeList, irf, effRights);
     };
-    return performHandleDFS({filesPipe, cannotGetTrustees, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotGetTrustees, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::getEffectiveRightsforPathHandleDFS(std::string& server,
@@ -234,7 +233,7 @@ std::int32_t XMLReadWriteController::getEffectiveRightsforPathHandleDFS(std::str
         trusteeList.clear();
         return getEffectiveRightsforPath(path, trusteeList, identityType);
     };
-    return performHandleDFS({filesPipe, cannotGetTrustees, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotGetTrustees, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::getEffectiveRightsForMappedUserForPathHandleDFS(
@@ -243,7 +242,7 @@ std::int32_t XMLReadWriteController::getEffectiveRightsForMappedUserForPathHandl
     const auto request = [&](const std::string& path) {
         return getEffectiveRightsForMappedUser(path, effectiveRights, identityType);
     };
-    return performHandleDFS({filesPipe, cannotGetRights, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotGetRights, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::getIRRequestHandleDFS(std::string& server,
@@ -253,7 +252,7 @@ std::int32_t XMLReadWriteController::getIRRequestHandleDFS(std::string& server,
     const auto request = [&](const std::string& path) {
         return getIRRequest(path, dirTrustee, identityType);
     };
-    return performHandleDFS({rightsPipe, cannotGetTrustees, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::rights, cannotGetTrustees, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::setInheritedRightsforPathHandleDFS(std::string& server,
@@ -263,7 +262,7 @@ std::int32_t XMLReadWriteController::setInheritedRightsforPathHandleDFS(std::str
     const auto request = [&](const std::string& path) {
         return std::to_string(setInheritedRights(irf, path));
     };
-    return performHandleDFS({filesPipe, cannotSetFilter, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotSetFilter, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::setTrusteeHandleDFS(std::string& server, std::string& mappedPath,
@@ -277,7 +276,7 @@ std::int32_t XMLReadWriteController::setTrusteeHandleDFS(std::string& server, st
         Log("skipping user: ");
         return "-1";
     };
-    return performHandleDFS({filesPipe, cannotSetTrustee, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotSetTrustee, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::getFileInfoOwnerHandleDFS(std::string& server, std::string& selectedPath,
@@ -286,7 +285,7 @@ std::int32_t XMLReadWriteController::getFileInfoOwnerHandleDFS(std::string& serv
     const auto request = [&](const std::string& path) {
         return getFileInfoOwner(path, ownerInfo, identityType);
     };
-    return performHandleDFS({filesPipe, cannotGetRights, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotGetRights, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::getAttributesHandleDFS(std::string& server, std::string& selectedPath,
@@ -296,7 +295,7 @@ std::int32_t XMLReadWriteController::getAttributesHandleDFS(std::string& server,
     const auto request = [&](const std::string& path) {
         return getAttributes(path, fileAttributes, identityType);
     };
-    return performHandleDFS({filesPipe, cannotGetRights, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotGetRights, request}, server, selectedPath, mappedPath);
 }
 
 std::int32_t XMLReadWriteController::getDirectoryQuotaHandleDFS(std::string& server,
@@ -307,7 +306,7 @@ std::int32_t XMLReadWriteController::getDirectoryQuotaHandleDFS(std::string& ser
     const auto request = [&](const std::string& path) {
         return getDirectoryQuota(path, dirQuota, identityType);
     };
-    return performHandleDFS({filesPipe, cannotGetRights, request}, server, selectedPath, mappedPath);
+    return performHandleDFS({pipes::files, cannotGetRights, request}, server, selectedPath, mappedPath);
 }
 
 } // namespace quorvan

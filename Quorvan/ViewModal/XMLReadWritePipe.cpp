@@ -6,11 +6,13 @@
 #include "Common/ServerDetails.h"
 #include "Common/Utf8.h"
 #include "Platform/Services.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace quorvan {
 namespace {
@@ -39,6 +41,26 @@ void logMountError(int error, const std::string& mountUrl) {
         Log("Error mounting virtual volume due to error code %d", error);
 }
 
+/// What goes on on the one pipe. Whoever runs an event loop in the middle of an operation could start another
+/// one, which would take the descriptor of the first: that ends the process instead.
+struct PipeInUse {
+    bool isOpen = false;
+    bool inExchange = false;
+    std::vector<std::function<void()>> whenClosed;
+};
+PipeInUse inUse;
+
+class ExchangeScope {
+public:
+    ExchangeScope() {
+        require(!inUse.inExchange, "A request was sent in the middle of another exchange");
+        inUse.inExchange = true;
+    }
+    ~ExchangeScope() { inUse.inExchange = false; }
+    ExchangeScope(const ExchangeScope&) = delete;
+    ExchangeScope& operator=(const ExchangeScope&) = delete;
+};
+
 /// Lets a reply grow by leaps. Memory that is reserved and never touched costs nothing, whereas copying a
 /// long reply from one place to the next costs as much as reading it.
 void makeRoom(std::string& reply) {
@@ -66,7 +88,7 @@ void DictionaryForMountedPIPE::unmountAll() const {
     }
 }
 
-std::int32_t XMLReadWriteController::fileDes = 0;
+std::int32_t XMLReadWriteController::fileDes = -1;
 
 XMLReadWriteController::XMLReadWriteController()
     : response(std::make_unique<std::array<char, MEM_SIZE>>()) {
@@ -79,6 +101,7 @@ XMLReadWriteController::~XMLReadWriteController() {
 
 std::int32_t XMLReadWriteController::openPipe(const std::string& server, const std::string& share,
                                               const std::string& pipe) {
+    require(!inUse.isOpen && !inUse.inExchange, "%@ was to be opened while a pipe is in use", pipe);
     const platform::BusyScope busy(platform::services().busy);
     std::string mountPath;
     const std::int32_t status = mountIPCPipe(server, share, pipe, mountPath);
@@ -91,6 +114,7 @@ std::int32_t XMLReadWriteController::openPipe(const std::string& server, const s
         Log("Unable to mount pipe : err - %d", fileDes);
         return fileDes;
     }
+    inUse.isOpen = true;
     return 0;
 }
 
@@ -169,9 +193,20 @@ std::int32_t XMLReadWriteController::mountShare(const std::string& server, const
 void XMLReadWriteController::closePipe() {
     Log("pipe closed");
     network().close(fileDes);
+    inUse.isOpen = false;
+    for (const auto& report : std::exchange(inUse.whenClosed, {}))
+        report();
+}
+
+void reportWhenPipeIsClosed(std::function<void()> report) {
+    if (inUse.isOpen)
+        inUse.whenClosed.push_back(std::move(report));
+    else
+        report();
 }
 
 std::string XMLReadWriteController::exchangeRequest(const std::string& request, const ExchangeLog& log) {
+    const ExchangeScope exchange;
     const platform::BusyScope busy(platform::services().busy);
     Log(log.request, request);
     require(response != nullptr, "The controller has no response buffer");

@@ -23,6 +23,7 @@ constexpr const char* file = "VOL1:\\Projects\\Aurora\\Texte\\Grußwort.odt";
 class Client : public testing::Test {
 protected:
     ~Client() override {
+        XMLReadWriteController::closePipe();
         ServerDetails::forget();
         DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
     }
@@ -34,6 +35,7 @@ protected:
     }
 
     void open(const char* share, const char* pipe) {
+        XMLReadWriteController::closePipe();
         ASSERT_EQ(controller.openPipe(world.host, share, pipe), 0);
     }
 

@@ -124,6 +124,7 @@ TEST_F(Adapters, ReadAndChangeTrusteesAndDropTheSessionsAtTheEnd) {
 
     ASSERT_EQ(controller.openPipe(server->address, "/_admin", "/Manage_KELP/TRELL.cmd"), 0);
     EXPECT_EQ(server->sessions("2 1"), "2 1");
+    XMLReadWriteController::closePipe();
     recorder.take();
     DictionaryForMountedPIPE::mountDict().unmountAll();
     EXPECT_THAT(recorder.take(), ElementsAre("unmount " + key + "'s - /IPC$ : 0",
@@ -224,6 +225,7 @@ TEST_F(Adapters, AssembleAReplyOfTwentyMegabytes) {
     const std::string reply = controller.getTrusteeList(folderPath, "ActiveDirectory");
     EXPECT_GE(reply.size(), 20U << 20U);
     EXPECT_EQ(controller.getResultValue(reply, {"fileInfo", "getFileInfo", "result"}), "0");
+    XMLReadWriteController::closePipe();
     ASSERT_TRUE(controller.dictResponse);
     EXPECT_GT(controller.dictResponse->size(), 10U) << "the padding must not swallow the entries";
     EXPECT_THAT(recorder.take(), Not(Contains(StartsWith("Lost the server"))));

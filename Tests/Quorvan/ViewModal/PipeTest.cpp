@@ -36,6 +36,7 @@ TEST_F(Pipe, MountsAShareAndOpensItsPipeFile) {
 TEST_F(Pipe, FindsTheMountAgainAndMountsAnewWhatIsGone) {
     world.network->mountResult.mountPoints = {"/Volumes/IPC$-1"};
     controller.openPipe("srv1", "/IPC$", "/FilesCmdPipe");
+    XMLReadWriteController::closePipe();
     world.network->calls.clear();
     log.take();
     EXPECT_EQ(controller.openPipe("srv1", "/IPC$", "/ZelSmbPipe"), 0);
@@ -44,6 +45,7 @@ TEST_F(Pipe, FindsTheMountAgainAndMountsAnewWhatIsGone) {
     EXPECT_THAT(Strings(log.lines.begin() + 2, log.lines.begin() + 5),
                 ElementsAre("Checking for exisitng pipes mapped",
                             "10.1.2.3/IPC$ is already mounted. Stat status 0", "srv1 is mounted at /IPC$-1"));
+    XMLReadWriteController::closePipe();
     world.network->statError = EACCES; // whatever else is wrong, the mount is there
     EXPECT_EQ(controller.searchMountPathinDict("10.1.2.3/IPC$"), "/IPC$-1");
     EXPECT_EQ(log.take().back(), "10.1.2.3/IPC$ is already mounted. Stat status -1");
@@ -55,6 +57,7 @@ TEST_F(Pipe, FindsTheMountAgainAndMountsAnewWhatIsGone) {
     world.network->mountResult.mountPoints = {"/Volumes/IPC$-2"};
     EXPECT_EQ(controller.openPipe("srv1", "/IPC$", "/FilesCmdPipe"), 0);
     EXPECT_THAT(mounts(), ElementsAre(testing::Pair("10.1.2.3/IPC$", "/IPC$-2")));
+    XMLReadWriteController::closePipe();
 
     mounts() = {{"/IPC$", "/someone-else's"}}; // what a host without address must not be taken for
     EXPECT_EQ(controller.openPipe("gone", "/IPC$", "/FilesCmdPipe"), 0);

@@ -34,7 +34,10 @@ protected:
         XMLReadWriteController::fileDes = 7;
         log.take();
     }
-    ~Session() override { ServerDetails::forget(); }
+    ~Session() override {
+        XMLReadWriteController::closePipe();
+        ServerDetails::forget();
+    }
 
     /// What the operation wrote to the pipe, once.
     std::string written() const {
