@@ -71,7 +71,7 @@ std::optional<std::vector<LdapEntry>> LdapConnection::search(const LdapSearch& s
         const LdapFailure failure = session_->search(search, found);
         if (!failure)
             return found;
-        if (failure.error == EIO) { // the server disagrees, but it is there
+        if (failure.error == ENOENT) { // says nothing about the next search
             report(failure.error, failure.reason);
             return std::nullopt;
         }

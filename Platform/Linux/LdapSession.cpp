@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/LdapSession.h"
 
+#include "Platform/Linux/LdapHandles.h"
+
 #include <cerrno>
 #include <condition_variable>
 #include <cstring>
@@ -14,28 +16,6 @@
 
 namespace quorvan::platform {
 namespace {
-
-constexpr ber_int_t pageSize = 1000; ///< a domain controller gives no more at once
-
-template <class Type, void (*release)(Type*)>
-struct Release {
-    void operator()(Type* object) const { release(object); }
-};
-using Url = std::unique_ptr<LDAPURLDesc, Release<LDAPURLDesc, ldap_free_urldesc>>;
-using Control = std::unique_ptr<LDAPControl, Release<LDAPControl, ldap_control_free>>;
-using Controls = std::unique_ptr<LDAPControl*, Release<LDAPControl*, ldap_controls_free>>;
-using Values = std::unique_ptr<berval*, Release<berval*, ldap_value_free_len>>;
-struct FreeText {
-    void operator()(char* text) const { ldap_memfree(text); }
-};
-using Text = std::unique_ptr<char, FreeText>;
-
-timeval timevalOf(std::chrono::milliseconds duration) {
-    timeval value{};
-    value.tv_sec = static_cast<time_t>(duration.count() / 1000);
-    value.tv_usec = static_cast<suseconds_t>(duration.count() % 1000 * 1000);
-    return value;
-}
 
 int socketOf(LDAP* handle) {
     int descriptor = -1;
@@ -145,20 +125,7 @@ struct Credentials {
     KeychainResult result;
 };
 
-std::vector<std::string> valuesOf(LDAP* handle, LDAPMessage* entry, const std::string& attribute) {
-    std::vector<std::string> found;
-    const Values values(ldap_get_values_len(handle, entry, attribute.c_str()));
-    for (berval** at = values.get(); at != nullptr && *at != nullptr; ++at)
-        found.emplace_back((*at)->bv_val, (*at)->bv_len);
-    return found;
-}
-
 } // namespace
-
-const std::string* LdapEntry::first(const std::string& attribute) const {
-    const auto found = attributes.find(attribute);
-    return found == attributes.end() || found->second.empty() ? nullptr : &found->second.front();
-}
 
 LdapSession::LdapSession(std::string uri, std::chrono::milliseconds timeLimit)
     : uri_(std::move(uri))
@@ -173,6 +140,8 @@ LdapFailure LdapSession::answer(int code) const {
         return failure(ECONNRESET, "has closed the connection");
     if (code == LDAP_TIMEOUT)
         return failure(ETIMEDOUT, "does not answer within the time limit");
+    if (code == LDAP_NO_SUCH_OBJECT)
+        return failure(ENOENT, "knows no such object");
     return failure(EIO, std::string("answers: ") + ldap_err2string(code));
 }
 
@@ -212,11 +181,18 @@ LdapFailure LdapSession::connect() {
     const timeval limit = timevalOf(timeLimit_);
     ldap_set_option(handle, LDAP_OPT_PROTOCOL_VERSION, &version);
     ldap_set_option(handle, LDAP_OPT_REFERRALS, LDAP_OPT_OFF);
+    ldap_set_option(handle, LDAP_OPT_X_SASL_NOCANON,
+                    LDAP_OPT_ON); // the name of ldap.conf, not of reverse DNS
     ldap_set_option(handle, LDAP_OPT_RESTART, LDAP_OPT_ON);
     ldap_set_option(handle, LDAP_OPT_NETWORK_TIMEOUT, &limit);
     ldap_set_option(handle, LDAP_OPT_TIMEOUT, &limit);
     if (ldap_connect(handle) != LDAP_SUCCESS)
         return failure(EHOSTUNREACH, "cannot be reached");
+    // Without a bound the length that a server claims is allocated before the first byte of it has come.
+    Sockbuf* buffer = nullptr;
+    ber_len_t most = mostBytesOfAMessage;
+    if (ldap_get_option(handle, LDAP_OPT_SOCKBUF, &buffer) == LDAP_SUCCESS)
+        ber_sockbuf_ctrl(buffer, LBER_SB_OPT_SET_MAX_INCOMING, &most);
     // libldap's own limits hold until an answer begins; these hold when it stops halfway.
     ::setsockopt(socketOf(handle), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
     ::setsockopt(socketOf(handle), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
@@ -313,88 +289,16 @@ bool LdapSession::reachesThisMachine() const {
     return peer.ss_family == AF_UNIX || IN6_IS_ADDR_LOOPBACK(&v6) || ntohl(v4) >> 24U == IN_LOOPBACKNET;
 }
 
-/// Where a search stands between two pages.
-struct LdapSession::Page {
-    berval cookie{0, nullptr}; ///< empty before the first page and after the last
-    Page() = default;
-    ~Page() { ldap_memfree(cookie.bv_val); }
-    Page(const Page&) = delete;
-    Page& operator=(const Page&) = delete;
-};
-
 LdapFailure LdapSession::search(const LdapSearch& search, std::vector<LdapEntry>& found) {
-    using Clock = std::chrono::steady_clock;
-    Page page;
-    Clock::time_point lastProgress = Clock::now();
-    do {
-        const std::size_t before = found.size();
-        if (LdapFailure failure = readPage(search, page, found))
-            return failure;
-        if (found.size() > before)
-            lastProgress = Clock::now();
-        else if (Clock::now() - lastProgress > timeLimit_) // one empty page after the other
-            return answer(LDAP_TIMEOUT);
-    } while (page.cookie.bv_len > 0 && (search.limit == 0 || found.size() < search.limit));
-    if (search.limit != 0 && found.size() > search.limit)
-        found.resize(search.limit);
-    return {};
-}
-
-LdapFailure LdapSession::readPage(const LdapSearch& search, Page& page, std::vector<LdapEntry>& found) {
-    LDAP* const handle = handle_.get();
-    Message message;
-    if (LdapFailure failure = exchange(search, page.cookie, message))
-        return failure;
-    int code = LDAP_SUCCESS;
-    LDAPControl** answered = nullptr;
-    const int parsed =
-        ldap_parse_result(handle, message.get(), &code, nullptr, nullptr, nullptr, &answered, 0);
-    const Controls controls(answered);
-    if (parsed != LDAP_SUCCESS || code != LDAP_SUCCESS)
-        return answer(parsed != LDAP_SUCCESS ? parsed : code);
-    for (LDAPMessage* entry = ldap_first_entry(handle, message.get()); entry != nullptr;
-         entry = ldap_next_entry(handle, entry)) {
-        const Text name(ldap_get_dn(handle, entry));
-        LdapEntry& each = found.emplace_back();
-        each.distinguishedName = name ? name.get() : "";
-        for (const std::string& attribute : search.attributes)
-            each.attributes[attribute] = valuesOf(handle, entry, attribute);
-    }
-    ldap_memfree(page.cookie.bv_val);
-    page.cookie = {0, nullptr};
-    ber_int_t estimate = 0;
-    if (LDAPControl* control = ldap_control_find(LDAP_CONTROL_PAGEDRESULTS, answered, nullptr))
-        ldap_parse_pageresponse_control(handle, control, &estimate, &page.cookie);
-    return {};
-}
-
-/// Asks for the page at a cookie and waits for all of it.
-LdapFailure LdapSession::exchange(const LdapSearch& search, berval& cookie, Message& message) {
-    LDAP* const handle = handle_.get();
-    std::vector<char*> attributes;
-    for (const std::string& name : search.attributes)
-        attributes.push_back(const_cast<char*>(name.c_str()));
-    attributes.push_back(nullptr);
-    LDAPControl* paging = nullptr;
-    if (ldap_create_page_control(handle, pageSize, &cookie, 1, &paging) != LDAP_SUCCESS)
-        return answer(LDAP_NO_MEMORY);
-    const Control owner(paging);
-    LDAPControl* controls[] = {search.scope == LDAP_SCOPE_BASE ? nullptr : paging, nullptr};
-    timeval limit = timevalOf(timeLimit_);
-    int id = 0;
-    int code = ldap_search_ext(handle, search.base.c_str(), search.scope, search.filter.c_str(),
-                               attributes.data(), 0, controls, nullptr, &limit, LDAP_NO_LIMIT, &id);
-    if (code != LDAP_SUCCESS)
-        return answer(code);
-    LDAPMessage* received = nullptr;
-    const int kind = ldap_result(handle, id, LDAP_MSG_ALL, &limit, &received);
-    message.reset(received);
-    if (kind > 0)
+    const auto limit = patience * timeLimit_;
+    LdapSearchRun run(handle_.get(), search, std::chrono::steady_clock::now() + limit, found);
+    Watchdog watchdog(handle_.get(), limit); // for a message that never becomes complete
+    int code = run.all();
+    if (watchdog.stop())
+        code = LDAP_TIMEOUT;
+    if (code == LDAP_SUCCESS)
         return {};
-    code = LDAP_TIMEOUT;
-    if (kind < 0)
-        ldap_get_option(handle, LDAP_OPT_RESULT_CODE, &code);
-    return answer(code);
+    return run.isTooMuch() ? failure(EFBIG, "answers with more than can be taken") : answer(code);
 }
 
 bool LdapSession::isGlobalCatalogue() const {

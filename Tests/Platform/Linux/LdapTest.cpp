@@ -19,13 +19,13 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using std::string_literals::operator""s;
 using Texts = std::vector<std::string>;
 
 const Texts users{"dsRecTypeStandard:Users"};
 const Texts both{"dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"};
 
 TEST(LdapFilter, TurnsIdentifiersIntoBytesAndBack) {
-    using std::string_literals::operator""s;
     const std::pair<const char*, std::string> pairs[] = {
         {"S-1-1-0", "\1\1\0\0\0\0\0\1\0\0\0\0"s},
         {"S-1-5", "\1\0\0\0\0\0\0\5"s},
@@ -174,13 +174,15 @@ TEST(LdapDirectory, IsUnboundWithoutBase) {
 TEST(LdapDirectory, SurvivesRudeServers) {
     const struct {
         const char* scheme;
-        Texts answers; ///< "endless" stands for pages without end
+        Texts answers; ///< "endless" stands for pages without end, "flood" for entries of 72 MB
         const char* line;
     } cases[] = {
         {"ldap", {""}, "does not answer within the time limit"},
         {"ldaps", {""}, "does not answer within the time limit"},
         {"ldaps", {"no TLS at all"}, "beginning of TLS"},
-        {"ldap", {std::string("\x30\x84\xff\xff\xff\xff", 6)}, "time limit"},
+        {"ldap", {std::string("\x30\x84\x7f\xff\xff\xff", 6)}, "has closed the connection"},
+        {"ldap", {bound, root, domains, message(4, element(0x65, "\x0a\1\x33\4\0\4\0"s))}, "is busy"},
+        {"ldap", {bound, root, domains, "flood"}, "answers with more than can be taken"},
         {"ldap", {bound, done(2)}, "is no Active Directory"},
         {"ldap", {bound, root, domains, "garbage"}, "time limit"},
         {"ldap", {bound, root, domains, "endless"}, "time limit"},
@@ -188,6 +190,13 @@ TEST(LdapDirectory, SurvivesRudeServers) {
     for (const auto& [scheme, answers, line] : cases) {
         const RudeServer server([&all = answers](int request) {
             const std::string& answer = all[std::min(all.size(), static_cast<std::size_t>(request)) - 1];
+            if (answer == "flood") {
+                const std::string one = entry(request, {{"sAMAccountName", std::string(60'000, 'x')}});
+                std::string text;
+                for (int count = 0; count < 1200; ++count)
+                    text += one;
+                return text;
+            }
             return answer == "endless" ? done(request, "more") : answer;
         });
         Client client(std::string(scheme) + "://127.0.0.1:" + server.port);
@@ -198,6 +207,25 @@ TEST(LdapDirectory, SurvivesRudeServers) {
         EXPECT_THAT(client.log, ElementsAre(HasSubstr(line))) << answers.back();
         EXPECT_EQ(client.directory.activeDirectoryState().value().at("NodeName"), "/Active Directory/NORTH");
     }
+}
+
+TEST(LdapDirectory, ReadsAllValuesOfAnAttributeThatComesInRanges) {
+    const RudeServer server([](int request) {
+        const Texts answers = {"",
+                               bound,
+                               root,
+                               domains,
+                               entry(4, {{"sAMAccountName", "x"}}) + done(4),
+                               entry(5, {{"memberOf;range=0-0", "CN=a"}}) + done(5),
+                               entry(6, {{"memberOf;range=1-1", "CN=b"}}) + done(6),
+                               entry(7, {{"memberOf;range=2-*", "CN=c"}}) + done(7)};
+        return request < 8 ? answers[static_cast<std::size_t>(request)] : "";
+    });
+    Client client("ldap://127.0.0.1:" + server.port, "dc=a");
+    const auto found = client.directory.openNode("/Active Directory/A")->query(everyUser).value();
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_THAT(found[0]->values("dsAttrTypeNative:memberOf").value(), ElementsAre("CN=a", "CN=b", "CN=c"));
+    EXPECT_THAT(client.log, IsEmpty());
 }
 
 TEST(LdapDirectory, TakesBrokenEntriesAsTheyAre) {
