@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMenu>
@@ -102,6 +103,9 @@ TEST_F(AppDelegateTest, AppendsEverythingThatIsWrittenToOneFile) {
         std::puts("printed");
         std::exit(0);
     };
+    QDir().mkpath(QFileInfo(logFile()).path());
+    QFile old(logFile()); // that everybody can read
+    EXPECT_TRUE(old.open(QIODevice::Append) && old.setPermissions(QFile::Permissions(0x6644)));
     EXPECT_EXIT(run("first run"), ExitedWithCode(0), "");
     EXPECT_EXIT(run("second run"), ExitedWithCode(0), "");
     const std::string url = "file://" + folder.path().toStdString() + "/My%20Library/Logs/tarnix/Quorvan.log";

@@ -1,137 +1,119 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Information/InformationViewController.h"
+#include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
-#include "Quorvan/Toolkit/ValueField.h"
-#include "Tests/Quorvan/Controller/PropertyFixture.h"
+#include "Tests/Quorvan/Controller/WindowTest.h"
 
-#include <QProgressBar>
+#include <QCheckBox>
 #include <QTabWidget>
 
-#include <cerrno>
 #include <filesystem>
 
 namespace quorvan::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Not;
-namespace demo = simulator::demo;
 namespace attribute = simulator::attribute;
 
-/// Paths of the demo data, as they are mounted.
-constexpr const char* folder = "VOL1/Projects/Aurora";
-constexpr const char* file = "VOL1/Projects/Aurora/Concept.odt";
-
-struct InformationTest : PropertyFixture {
-    void openView(const char* local = folder, const char* user = demo::supervisor,
-                  const char* userType = "ActiveDirectory") {
-        view = openAt<InformationViewController>(local, user, userType);
-        view->directoryQuotaTabView->setCurrentWidget(view->directoryQuotaTab);
+struct InformationTest : WindowTest {
+    InformationTest() { select("VOL1/Projects/Aurora"); }
+    void openFile(const char* user = demo::supervisor) {
+        select("VOL1/Projects/Aurora/Concept.odt");
+        open("information", user);
     }
-    std::string limit() const { return view->dirQuotaLimit->text().toStdString(); }
-    void applyLimit(const char* text, int unit) {
-        click(view->editLimitBtn);
-        type(view->dirQuotaLimit, text);
-        choose(view->selectUnit, unit);
-        click(view->applyButton);
+    void openLimit() {
+        open("limit");
+        page = &view<InformationViewController>();
     }
-    Texts amounts() { return sent("<quotaAmount>", "<"); }
+    /// Types a limit, chooses its unit and applies it.
+    std::string applyLimit(const std::string& text, const std::string& unit) {
+        act("editLimitBtn, type dirQuotaLimit " + text + ", choose selectUnit " + unit + ", applyButton");
+        return value("dirQuotaLimit");
+    }
     simulator::Node& node(const char* path) { return *world.server->volumes().find(path); }
 
-    InformationViewController* view = nullptr;
+    InformationViewController* page = nullptr;
 };
 
 TEST_F(InformationTest, SendsTheAttributesThatAreOnTwice) {
-    const char* path = demo::fileOfNobody;
-    openView(file);
-    EXPECT_EQ(view->directoryQuotaTabView->count(), 1) << "a file has no quota";
-    EXPECT_FALSE(view->applyButton->isEnabled());
-    click(view->hideChk);
-    click(view->archiveChk);
-    click(view->applyButton);
+    const auto& file = node(demo::fileOfNobody);
+    openFile();
+    EXPECT_EQ(control<QTabWidget>("directoryQuotaTabView").count(), 1) << "a file has no quota";
+    EXPECT_TRUE(isEnabled("dontCompressChk")) << "for folders alone it makes no sense";
+    EXPECT_FALSE(isEnabled("applyButton"));
+    act("hideChk, archiveChk, applyButton");
     EXPECT_THAT(
-        sent("<attributes>", "</attributes>"),
+        changes(),
         ElementsAre(
             R"(<hidden enabled="yes"/><archive enabled="yes"/><readOnly enabled="no"/><hidden enabled="yes"/>)"
             R"(<archive enabled="yes"/><immediatePurge enabled="no"/><renameInhibit enabled="no"/>)"
             R"(<deleteInhibit enabled="no"/><compressImmediate enabled="no"/><doNotCompress enabled="no"/>)"));
-    EXPECT_EQ(node(path).attributes, attribute::hidden | attribute::archive);
-    EXPECT_FALSE(view->applyButton->isEnabled());
+    EXPECT_EQ(file.attributes, attribute::hidden | attribute::archive);
+    EXPECT_FALSE(isEnabled("applyButton"));
 
-    click(view->hideChk);
-    click(view->renameInhibitChk);
-    click(view->readChk);
-    for (const QCheckBox* implied : {view->renameInhibitChk, view->deleteInhibitChk})
-        EXPECT_TRUE(implied->isChecked() && !implied->isEnabled());
-    EXPECT_THAT(view->editedFileAttributes,
-                ElementsAre("archive", "renameInhibit", "readOnly", "deleteInhibit"));
-    click(view->applyButton);
-    EXPECT_EQ(node(path).attributes,
+    act("hideChk, renameInhibitChk, readChk");
+    for (const char* implied : {"renameInhibitChk", "deleteInhibitChk"})
+        EXPECT_TRUE(value(implied, "checked") == "true" && !isEnabled(implied));
+    act("applyButton");
+    EXPECT_EQ(file.attributes,
               attribute::archive | attribute::readOnly | attribute::renameInhibit | attribute::deleteInhibit);
-    EXPECT_FALSE(view->deleteInhibitChk->isEnabled()) << "read again, it is still read only";
-    click(view->readChk);
-    EXPECT_TRUE(view->deleteInhibitChk->isEnabled());
-    EXPECT_THAT(view->editedFileAttributes, ElementsAre("archive"));
-    click(view->closeButton);
-    EXPECT_THAT(host->titles, ElementsAre("Rights Management"));
-    EXPECT_THAT(sent("<setFileInfo>", "<"), testing::SizeIs(1)) << "closing drops what was not applied";
+    EXPECT_TRUE(changes()[0].starts_with(
+        R"(<archive enabled="yes"/><renameInhibit enabled="yes"/><readOnly enabled="yes"/><deleteInhibit enabled="yes"/><readOnly)"))
+        << "once each";
+    EXPECT_FALSE(isEnabled("deleteInhibitChk")) << "read again, it is still read only";
+    act("readChk");
+    EXPECT_TRUE(isEnabled("deleteInhibitChk") && value("renameInhibitChk", "checked") == "false");
+    act("closeButton");
+    EXPECT_EQ(title(), "Rights Management");
+    EXPECT_THAT(changes(), IsEmpty()) << "closing drops what was not applied";
 
     // What the server refuses comes back as it was, with the boxes that it implies.
-    openView(file, demo::readOnly);
-    EXPECT_FALSE(view->changeOwnerButton->isEnabled());
-    EXPECT_TRUE(view->readOnlyLabel->isVisible());
-    click(view->readChk);
-    click(view->applyButton);
-    EXPECT_TRUE(view->readChk->isChecked() && !view->renameInhibitChk->isEnabled());
-    EXPECT_THAT(takeAlerts(), IsEmpty());
+    openFile(demo::readOnly);
+    act("readChk, applyButton");
+    EXPECT_TRUE(value("readChk", "checked") == "true" && !isEnabled("renameInhibitChk"));
+    EXPECT_THAT(alerts(), IsEmpty());
 }
 
 TEST_F(InformationTest, TakesTheOwnerFromEitherDirectory) {
-    const auto expectNewOwner = [this](const char* place) {
-        const std::string name = view->ownerField->text().toStdString();
-        EXPECT_TRUE(view->ownerIcon->isVisible());
-        click(view->applyButton);
-        const simulator::Identity* owner = world.identities->findById(node(demo::fileOfNobody).owner);
-        ASSERT_NE(owner, nullptr) << place;
-        EXPECT_THAT(name, testing::HasSubstr(owner->name));
-        EXPECT_EQ(view->ownerField->text().toStdString(), owner->name);
-        EXPECT_EQ(view->editedOwner.ownerID, "");
-    };
-    openView(file);
-    EXPECT_EQ(view->ownerField->text(), "");
-    EXPECT_FALSE(view->ownerIcon->isVisible());
-    pickUsers(view->changeOwnerButton, inDomain, {1});
-    expectNewOwner(inDomain);
-    EXPECT_TRUE(view->onReturnSelectedUser({}, {}, "Users"));
-    EXPECT_TRUE(view->onReturnMorvaneSelectedUser({}));
-    EXPECT_FALSE(view->applyButton->isEnabled()) << "nobody was picked";
-    openView(file, demo::supervisorTree, "Morvane");
-    pickUsers(view->changeOwnerButton, inTree, {0});
-    expectNewOwner(inTree);
-
-    Shared::value().bothID = true;
-    openView(file);
-    for (const char* place : {inTree, inDomain}) {
-        pickUsers(view->changeOwnerButton, place, {2});
-        expectNewOwner(place);
+    openFile();
+    EXPECT_EQ(value("ownerField"), "");
+    EXPECT_THAT(value("ownerField", "placeholderText"), testing::StartsWith("gone: "));
+    EXPECT_FALSE(isShown("ownerIcon"));
+    EXPECT_TRUE(view<InformationViewController>().onReturnSelectedUser({}, {}, "Users"));
+    EXPECT_TRUE(view<InformationViewController>().onReturnMorvaneSelectedUser({}));
+    EXPECT_FALSE(isEnabled("applyButton")) << "nobody was picked";
+    const std::string vera = "CN=Vera.OU=Verlag.O=Meridal";
+    const struct {
+        const char *user, *place;
+        std::string name;
+        bool both;
+    } cases[] = {{demo::supervisor, meridal, demo::accessControl, false},
+                 {demo::supervisorTree, verlag, vera, false},
+                 {demo::supervisor, meridal, demo::readOnly, true},
+                 {demo::supervisor, verlag, vera, true}};
+    for (const auto& [user, place, name, both] : cases) {
+        const auto& owner = *(name == vera ? world.identities->findById("guid-vera")
+                                           : world.identities->findByName(name).front());
+        Shared::value().bothID = both;
+        openFile(user);
+        take("changeOwnerButton", "Users_Title", place, {name});
+        EXPECT_THAT(value("ownerField"), testing::HasSubstr(owner.name));
+        EXPECT_TRUE(isShown("ownerIcon"));
+        act("applyButton");
+        EXPECT_THAT(changes(), ElementsAre(owner.id));
+        EXPECT_EQ(node(demo::fileOfNobody).owner, owner.id);
+        EXPECT_EQ(value("ownerField"), owner.name);
+        EXPECT_FALSE(isEnabled("applyButton"));
     }
-    bundle->features->at("addBothTrustees") = false;
-    openView();
-    EXPECT_FALSE(view->changeOwnerButton->isEnabled());
-    EXPECT_TRUE(view->editLimitBtn->isEnabled());
-
     Shared::value().bothID = false;
-    openView();
-    view->domainIdentity = "Guest";
-    click(view->changeOwnerButton);
-    EXPECT_TRUE(front<QWidget>("treeTextField")->isVisible()) << "for whoever is not of Active Directory";
-
+    openFile();
+    view<InformationViewController>().domainIdentity = "Guest";
+    act("changeOwnerButton");
+    EXPECT_TRUE(isShown("treeTextField")) << "for whoever is not of Active Directory";
     bundle->features->at("multiForest") = false;
-    openView();
-    click(view->changeOwnerButton);
-    EXPECT_TRUE(front<QWidget>("userTypeTable")->isVisible()) << "the browser of a single forest";
+    openFile();
+    act("changeOwnerButton");
+    EXPECT_TRUE(isShown("userTypeTable")) << "the browser of a single forest";
 }
 
 TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
@@ -139,131 +121,118 @@ TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
                                       byteCount(std::int64_t{2} << 40), byteCount((1 << 30) - 1),
                                       byteCount(1127428915), byteCount(std::int64_t{8191} << 50)}),
                 ElementsAre("0 KB", "1023 B", "1.5 KB", "-18 MB", "2 TB", "1 GB", "1.05 GB", "8191 PB"));
+    auto& drop = node("VOL1:\\Public\\Briefkasten").quota;
     const struct {
-        const char *path, *limit, *used, *available;
-        int percent; ///< -1: no bar
+        const char *path, *limit, *used, *available, *bar; ///< "": no bar
+        std::int64_t over = 0; ///< by so much the drop folder is fuller than its limit
     } cases[] = {
-        {folder, "20 GB", "13.5 GB", "6.5 GB", 67},
-        {"VOL1/Archiv", "User_Quota_Unlimited", "0 KB", "User_Quota_Maximum", -1},
-        {"VOL1/Projects", "User_Quota_Not_Set", "0 KB", "User_Quota_Maximum", -1},
-        {"VOL1/Public/Briefkasten", "512 MB", "530 MB", "-18 MB", 100},
+        {"VOL1/Projects/Aurora", "20 GB", "13.5 GB", "6.5 GB", "67 % used"},
+        {"VOL1/Archiv", "User_Quota_Unlimited", "0 KB", "User_Quota_Maximum", ""},
+        {"VOL1/Projects", "User_Quota_Not_Set", "0 KB", "User_Quota_Maximum", ""},
+        {"VOL1/Public/Briefkasten", "512 MB", "530 MB", "-18 MB", "Quota_Exceeded_Label", 18 << 20},
+        {"VOL1/Public/Briefkasten", "512 MB", "512 MB", "0 KB", "100 % used"},
+        {"VOL1/Public/Briefkasten", "512 MB", "512 MB", "-1 B", "Quota_Exceeded_Label", 1},
+        {"VOL1/Public/Briefkasten", "512 MB", "512 MB", "1 B", "99 % used", -1},
     };
     for (const auto& each : cases) {
-        openView(each.path);
-        EXPECT_EQ(limit(), each.limit);
-        EXPECT_EQ(view->dirQuotaUsed->text(), each.used);
-        EXPECT_EQ(view->dirQuotaAvailable->text(), each.available);
-        EXPECT_EQ(view->quotaBar->isVisibleTo(view->directoryQuotaTab), each.percent >= 0);
-        EXPECT_EQ(view->quotaBar->value(), each.percent);
-        EXPECT_FALSE(view->dontCompressChk->isEnabled()) << "it is a folder";
+        drop.used = drop.limit + each.over;
+        select(each.path);
+        openLimit();
+        EXPECT_EQ(value("dirQuotaLimit") + value("dirQuotaUsed") + value("dirQuotaAvailable"),
+                  std::string(each.limit) + each.used + each.available);
+        EXPECT_EQ(isShown("quotaBar") ? value("quotaBar", "format") : "", each.bar);
+        EXPECT_FALSE(page->dontCompressChk->isEnabled()) << "it is a folder";
     }
+    select("VOL1/Projects/Aurora");
     std::filesystem::remove_all(*world.volumes->folderOf("VOL1") / "Projects");
-    log.take();
-    openView();
+    open("information");
     EXPECT_THAT(log.take(), Contains("Could not check the filetype for path /Volumes/VOL1/Projects/Aurora - "
                                      "nothing is mounted there"));
-    EXPECT_EQ(view->directoryQuotaTabView->count(), 1);
-    EXPECT_TRUE(view->dontCompressChk->isEnabled());
+    EXPECT_EQ(control<QTabWidget>("directoryQuotaTabView").count(), 1);
+    EXPECT_TRUE(isEnabled("dontCompressChk"));
 }
 
 TEST_F(InformationTest, SendsALimitInBytes) {
-    openView();
-    click(view->editLimitBtn);
-    EXPECT_EQ(limit(), "20");
-    EXPECT_EQ(view->selectUnit->currentText(), "GB");
-    EXPECT_FALSE(view->dirQuotaLimit->isReadOnly());
-    click(view->applyButton);
-    EXPECT_THAT(amounts(), ElementsAre("21474836480")) << "an untouched limit is the same again";
-    EXPECT_TRUE(view->dirQuotaLimit->isReadOnly() && view->selectUnit->isHidden());
-
-    for (const auto& [text, unit, bytes] : {std::tuple("2", 2, "2199023255552"),
-                                            {"5", 0, "5242880"},
-                                            {"8191", 3, "9222246136947933184"},
-                                            {"+3", 1, "3221225472"}}) {
-        applyLimit(text, unit);
-        EXPECT_THAT(amounts(), ElementsAre(bytes));
+    openLimit();
+    act("editLimitBtn");
+    EXPECT_EQ(value("dirQuotaLimit") + value("selectUnit", "currentText"), "20GB");
+    EXPECT_EQ(value("dirQuotaLimit", "readOnly"), "false");
+    act("applyButton");
+    EXPECT_THAT(changes(), ElementsAre("21474836480")) << "an untouched limit is the same again";
+    EXPECT_EQ(value("dirQuotaLimit", "readOnly"), "true");
+    EXPECT_FALSE(isShown("selectUnit"));
+    const struct {
+        const char *text, *unit, *bytes, *shown;
+    } limits[] = {{"2", "TB", "2199023255552", "2 TB"},
+                  {"5", "MB", "5242880", "5 MB"},
+                  {"8191", "PB", "9222246136947933184", "8191 PB"},
+                  {"+3", "GB", "3221225472", "3 GB"},
+                  {"-1", "MB", "-1048576", "3 GB"}}; // a number, which the server refuses
+    for (const auto& each : limits) {
+        EXPECT_EQ(applyLimit(each.text, each.unit), each.shown);
+        EXPECT_THAT(changes(), ElementsAre(each.bytes));
     }
-    EXPECT_EQ(limit(), "3 GB");
-    applyLimit("-1", 0); // a number, which the server refuses
-    EXPECT_THAT(amounts(), ElementsAre("-1048576"));
-    EXPECT_EQ(limit(), "3 GB");
-
     for (const char* text : {"", "1.5", "10 GB", "   ", "0x10", "9223372036854775808"}) {
-        applyLimit(text, 1);
+        act("editLimitBtn, type dirQuotaLimit " + std::string(text) + ", choose selectUnit GB, applyButton");
         EXPECT_EQ(dismissAlert(), "Invalid_Quota_Limit") << text;
         EXPECT_THAT(log.take(), Contains("Close Modal"));
-        EXPECT_THAT(amounts(), IsEmpty());
-        EXPECT_EQ(limit(), "3 GB");
-        EXPECT_FALSE(view->applyButton->isEnabled() || view->applyDirQuota);
+        EXPECT_THAT(changes(), IsEmpty());
+        EXPECT_EQ(value("dirQuotaLimit"), "3 GB");
+        EXPECT_FALSE(isEnabled("applyButton") || page->applyDirQuota);
     }
 
     // Small units cannot be entered; GB counts then, and is what the pop-up shows.
     node(demo::limitedFolder).quota.limit = 512 << 10;
-    openView();
-    click(view->editLimitBtn);
-    EXPECT_EQ(limit(), "512");
-    EXPECT_EQ(view->selectUnit->currentIndex(), -1);
-    EXPECT_EQ(view->selectUnit->placeholderText(), "GB");
-
-    click(view->removeLimitBtn);
-    EXPECT_EQ(limit(), "User_Quota_Not_Set");
-    click(view->applyButton);
-    EXPECT_THAT(amounts(), ElementsAre("9223372036854775807"));
-    EXPECT_EQ(limit(), "User_Quota_Unlimited");
-    click(view->editLimitBtn);
-    EXPECT_EQ(limit(), "1");
-    EXPECT_EQ(view->selectUnit->currentText(), "GB");
-
+    openLimit();
+    act("editLimitBtn");
+    EXPECT_EQ(value("dirQuotaLimit") + value("selectUnit", "currentText") +
+                  value("selectUnit", "placeholderText"),
+              "512GB");
+    act("removeLimitBtn");
+    EXPECT_EQ(value("dirQuotaLimit"), "User_Quota_Not_Set");
+    EXPECT_TRUE(isEnabled("editLimitBtn"));
+    act("applyButton");
+    EXPECT_THAT(changes(), ElementsAre("9223372036854775807"));
+    EXPECT_EQ(value("dirQuotaLimit"), "User_Quota_Unlimited");
+    act("editLimitBtn");
+    EXPECT_EQ(value("dirQuotaLimit") + value("selectUnit", "currentText"), "1GB");
     for (const char* text : {"8192", "9223372036854775807"})
-        EXPECT_DEATH(
-            {
-                setLogSink({});
-                type(view->dirQuotaLimit, text);
-                choose(view->selectUnit, 3);
-                click(view->applyButton);
-            },
-            "too large for its unit");
+        EXPECT_DEATH((setLogSink({}),
+                      act("type dirQuotaLimit " + std::string(text) + ", choose selectUnit PB, applyButton")),
+                     "too large for its unit");
 }
 
 TEST_F(InformationTest, ReportsEveryFailureAndGoesOn) {
-    openView();
-    click(view->hideChk);
-    applyLimit("7", 1);
+    openLimit();
+    act("tab 0, hideChk, tab 1");
+    EXPECT_EQ(applyLimit("7", "GB"), "7 GB");
     node(demo::limitedFolder).attributes = 0;
-    click(view->hideChk);
-    click(view->editLimitBtn);
-    world.server->misbehaviour.openError = EACCES;
+    act("tab 0, hideChk, tab 1, editLimitBtn");
+    breakPipes();
     log.take();
-    click(view->applyButton);
-    EXPECT_THAT(takeAlerts(), testing::AllOf(testing::SizeIs(4), testing::Each("Err_Operation_Failed")));
+    act("applyButton");
+    EXPECT_THAT(alerts(), testing::AllOf(SizeIs(4), Each("Err_Operation_Failed")));
     EXPECT_THAT(log.take(), Contains("Failed with err - -1"));
-    EXPECT_FALSE(view->applyAttrs || view->applyDirQuota || view->applyButton->isEnabled());
-    EXPECT_EQ(limit(), "7 GB") << "as it was read last";
+    EXPECT_FALSE(page->applyAttrs || page->applyDirQuota || isEnabled("applyButton"));
+    EXPECT_EQ(value("dirQuotaLimit"), "7 GB") << "as it was read last";
 
-    DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
-    ServerDetails::serverInfo().keychainStatus = errSecItemNotFound;
-    click(view->hideChk);
-    click(view->applyButton);
-    EXPECT_THAT(takeAlerts(), ElementsAre("Err_Keychain_Not_Found", "Err_Keychain_Not_Found"));
+    mend();
+    losePassword();
+    act("tab 0, hideChk, applyButton");
+    EXPECT_THAT(alerts(), ElementsAre("Err_Keychain_Not_Found", "Err_Keychain_Not_Found"));
     EXPECT_THAT(log.take(), Not(Contains("Failed with err - -25300")));
-    click(view->editLimitBtn);
-    EXPECT_EQ(limit(), "7");
-    click(view->removeLimitBtn);
-    click(view->applyButton);
-    EXPECT_THAT(log.take(), Contains("Failed with err - -25300")) << "the quota says so in the log, too";
-    takeAlerts();
+    act("tab 1, editLimitBtn, removeLimitBtn, applyButton");
+    EXPECT_THAT(alerts(), SizeIs(2));
+    EXPECT_THAT(log.take(), Contains("Failed with err - -25300").Times(2))
+        << "the quota says so in the log, too";
 
-    // Nothing could be read at all: four alerts, an empty page, and nothing that ends the program.
-    ServerDetails::forget();
-    openView();
-    EXPECT_EQ(takeAlerts().size(), 4U);
-    EXPECT_EQ(limit(), "");
-    EXPECT_TRUE(view->selectUnit->isHidden()) << "a unit of nothing";
-    EXPECT_FALSE(view->editLimitBtn->isEnabled() || view->hideChk->isEnabled());
-    world.server->misbehaviour = {};
-    world.server->misbehaviour.code = 20903;
-    openView();
-    EXPECT_THAT(takeAlerts(), testing::Each("Err_Operation_Failed"));
+    // Nothing could be read at all: an empty page, and nothing that ends the program.
+    mend();
+    open("information", demo::supervisor, [this] { breakPipes(); });
+    EXPECT_FALSE(isEnabled("hideChk"));
+    act("tab 1");
+    EXPECT_EQ(value("dirQuotaLimit"), "");
+    EXPECT_FALSE(isShown("selectUnit") || isEnabled("editLimitBtn"));
     EXPECT_EQ(world.network->openDescriptors(), 0U);
 }
 

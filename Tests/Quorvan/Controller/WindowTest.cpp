@@ -1,0 +1,321 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Tests/Quorvan/Controller/WindowTest.h"
+#include "Common/ServerDetails.h"
+#include "Quorvan/Controller/Identities/BrowseMorvaneUserListViewController.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Controller/Shell/MainStoryboard.h"
+#include "Quorvan/Toolkit/Storyboard.h"
+
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabBar>
+
+#include <algorithm>
+
+namespace quorvan::test {
+
+namespace {
+
+struct Page {
+    const char* name;
+    const char* entry; ///< of the menu
+    int tab = 0;
+};
+constexpr Page pages[] = {{"rights", "TrusteeRightsView"},
+                          {"inherited", "TrusteeRightsView", 1},
+                          {"effective", "TrusteeRightsView", 2},
+                          {"folders", "TrusteeRightsView", 3},
+                          {"files", "FileSystemRightsView"},
+                          {"quota", "UserQuotaView"},
+                          {"information", "DirectoryQuotaView"},
+                          {"limit", "DirectoryQuotaView", 1},
+                          {"settings", "SettingView"}};
+
+std::string shortened(QString text) {
+    return text.remove("VOL1:\\Tests\\").toStdString();
+}
+
+void clickCell(ListTable& list, const QModelIndex& cell, Qt::KeyboardModifiers modifiers) {
+    list.scrollTo(cell);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, list.visualRect(cell).center());
+}
+
+} // namespace
+
+WindowTest::WindowTest() {
+    platform::Services services = world.services();
+    services.bundle = bundle;
+    bundle->texts = {{"Managed_Server_Label", "on %1"},       {"Inherited_Box_Tip_Label", "filter %1"},
+                     {"No_Match_Label", "nothing like %1"},   {"No_Groups_Below_Label", "no groups below %1"},
+                     {"Domain_Silent_Label", "%1 is silent"}, {"Owner_Gone_Label", "gone: %1"},
+                     {"Quota_Usage_Label", "%1 % used"},      {"No_Match_Path_Label", "no path like %1"}};
+    services.alerts = alertPort;
+    services.busy = std::make_shared<CountingBusyIndicator>();
+    installed = std::make_unique<platform::ScopedServices>(services);
+    Storyboard::named("Main") = Storyboard();
+    fillMainStoryboard();
+    Shared::value().bothID = false;
+    SharedTreeName::value().treeName.clear();
+
+    for (const auto& [name, rights] : {std::pair<const char*, simulator::Mask>{"Müller", 0x1FB},
+                                       {"admin", 0x041},
+                                       {"Zoe", 0x000},
+                                       {"ADMIN", 0x0FB}})
+        world.server->setTrustee(box, world.identities->addDomainUser(name, name), rights);
+    world.server->setTrustee(box, world.identities->addTreeUser("Vera", "Verlag", "guid-vera"), 0x041);
+    for (const auto& [path, id, rights] :
+         {std::tuple<const char*, const char*, simulator::Mask>{"\\Box\\Low", "admin", 0x041},
+          {"\\Box\\Low", "Zoe", 0x0FB},
+          {"", "admin", 0x0C1},
+          {"\\Boxes", "Zoe", 0x041}})
+        world.server->setTrustee(std::string("VOL1:\\Tests") + path, *world.identities->findById(id), rights);
+}
+
+WindowTest::~WindowTest() {
+    window.reset();
+    Shared::value().bothID = false;
+    forgetServer();
+}
+
+void WindowTest::openWindow(const char* user) {
+    window.reset();
+    forgetServer();
+    world.logIn(user, demo::password);
+    window = std::make_unique<MainWindow>();
+    window->load();
+    window->present();
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &front(); }));
+}
+
+void WindowTest::open(const char* page, const char* user, const std::function<void()>& before) {
+    const auto* found = std::ranges::find(pages, std::string_view(page), &Page::name);
+    openWindow(user);
+    if (found->tab == 0)
+        before();
+    click(found->entry);
+    if (found->tab != 0) {
+        before();
+        act("tab " + std::to_string(found->tab));
+    }
+    changes();
+}
+
+void WindowTest::select(const std::string& local) {
+    world.handOver("/Volumes/" + local, local.substr(0, local.find('/')) + ":\\");
+}
+
+void WindowTest::act(const std::string& script) {
+    for (const QString& step : QString::fromStdString(script).split(", ")) {
+        const QString verb = step.section(' ', 0, 0);
+        const QString object = step.section(' ', 1, 1);
+        const QString rest = step.section(' ', 2);
+        if (verb == "type") {
+            auto& field = control<QLineEdit>(object.toStdString());
+            field.setFocus();
+            field.selectAll();
+            QTest::keyClick(&field, Qt::Key_Delete);
+            QTest::keyClicks(&field, rest);
+        } else if (verb == "choose") {
+            auto& popUp = control<QComboBox>(object.toStdString());
+            popUp.setFocus();
+            for (const int wanted = popUp.findText(rest); wanted >= 0 && popUp.currentIndex() != wanted;)
+                QTest::keyClick(&popUp, popUp.currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
+            EXPECT_EQ(popUp.currentText(), rest);
+        } else if (verb == "key") {
+            const QKeyCombination key = QKeySequence::fromString(object)[0];
+            QTest::keyClick(focus() != nullptr ? focus() : &front(), key.key(), key.keyboardModifiers());
+        } else if (verb == "tab") {
+            auto& bar = control<QTabBar>("");
+            QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(object.toInt()).center());
+            QCoreApplication::processEvents(); // the controls of a view that loads under the eyes follow
+        } else if (const QString name = verb.section(':', 1);
+                   verb.contains(QRegularExpression("^(pick|tick|header)"))) {
+            actOnTable(verb.section(':', 0, 0), table(name.toLatin1().constData()), step.split(' ').mid(1));
+        } else {
+            click(step.toStdString());
+        }
+    }
+}
+
+void WindowTest::actOnTable(const QString& verb, ListTable& list, const QStringList& arguments) {
+    if (verb == "header")
+        QTest::mouseClick(list.horizontalHeader()->viewport(), Qt::LeftButton, {}, {20, 8});
+    if (verb == "pick")
+        list.clearSelection();
+    for (const QString& each : arguments)
+        if (verb == "pick")
+            clickCell(list, list.model()->index(each.toInt(), 0), Qt::ControlModifier);
+        else
+            clickCell(
+                list,
+                dynamic_cast<RightsTable&>(list).box(each.chopped(1).toInt(), each.right(1).toStdString()),
+                {});
+}
+
+void WindowTest::click(const std::string& name) {
+    auto& target = control(name);
+    EXPECT_TRUE(target.isEnabled()) << name;
+    const bool hasMark = !target.inherits("QPushButton"); // is hit on its mark and text alone
+    QTest::mouseClick(&target, Qt::LeftButton, {}, hasMark ? QPoint(8, target.height() / 2) : QPoint());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (QApplication::activeWindow() == nullptr)
+        front().activateWindow(); // a desktop does so when a sheet closes
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &front(); }));
+}
+
+void WindowTest::browse(const char* button, const char* category, const char* place) {
+    click(button);
+    const bool isTree = *place == '.';
+    if (isShown("MorvaneBtn"))
+        act(isTree ? "MorvaneBtn, OkBtn" : "ADBtn, OkBtn");
+    act(std::string("choose userTypePopUp ") + category +
+        (isTree ? ", type treeTextField " : ", choose domainPopUp ") + place + ", btnFetch");
+}
+
+void WindowTest::take(const char* button, const char* category, const char* place, const Texts& names) {
+    browse(button, category, place);
+    const Texts listed = rows("userListTable");
+    for (const std::string& name : names) {
+        const auto found = std::ranges::find(listed, name);
+        ASSERT_NE(found, listed.end()) << name;
+        ListTable& list = table("userListTable");
+        const auto row = static_cast<int>(found - listed.begin());
+        clickCell(list, list.model()->index(row, 0), Qt::ControlModifier);
+    }
+    click("selectButton");
+}
+
+QWidget& WindowTest::front() const {
+    QWidget* sheet = QApplication::activeModalWidget();
+    return sheet != nullptr ? *sheet : *window;
+}
+
+bool WindowTest::isShown(const char* name) const {
+    const auto found = front().findChildren<QWidget*>(name);
+    return std::ranges::any_of(found, &QWidget::isVisible);
+}
+
+bool WindowTest::changesEnabled(const char* apply, const char* revert) const {
+    EXPECT_EQ(isEnabled(apply), isEnabled(revert));
+    return isEnabled(apply);
+}
+
+std::string WindowTest::value(const char* name, const char* property) const {
+    return control(name).property(property).toString().toStdString();
+}
+
+Texts WindowTest::rows(const char* name) const {
+    const QAbstractItemModel* model = table(name).model();
+    const std::vector<int> selected = table(name).selectedRowIndexes();
+    Texts found;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        QStringList texts;
+        QString ticked;
+        for (int column = 0; column < model->columnCount(); ++column) {
+            const QModelIndex cell = model->index(row, column);
+            if (const QVariant mark = cell.data(Qt::CheckStateRole); !mark.isValid())
+                texts.append(cell.data().toString());
+            else if (mark.toInt() == Qt::Checked)
+                ticked += model->headerData(column, Qt::Horizontal).toString();
+        }
+        if (!ticked.isEmpty())
+            texts.append(ticked);
+        found.push_back((std::ranges::count(selected, row) != 0 ? ">" : "") + shortened(texts.join(' ')));
+    }
+    return found;
+}
+
+std::string WindowTest::emptyText(const char* name) const {
+    return table(name).emptyText().toStdString();
+}
+
+std::string WindowTest::reached() {
+    QSet<const QWidget*> visited;
+    QStringList names;
+    if (focus() == nullptr)
+        act("key Tab");
+    for (; !visited.contains(focus()); act("key Tab")) {
+        visited.insert(focus());
+        names.append(focus()->objectName().replace("qt_tabwidget_tabbar", "tabs"));
+    }
+    if (isShown("readOnlyLabel"))
+        names.append("read-only");
+    return names.join(' ').trimmed().toStdString();
+}
+
+Texts WindowTest::alerts() {
+    Texts messages;
+    for (const auto& alert : alertPort->shown) {
+        const bool isError = alert.windowTitle == "Error_Title";
+        EXPECT_EQ(alert.style == platform::AlertStyle::critical, isError);
+        messages.push_back(isError ? alert.message : alert.windowTitle + ": " + alert.message);
+    }
+    alertPort->shown.clear();
+    return messages;
+}
+
+std::string WindowTest::dismissAlert() {
+    auto* alert = qobject_cast<QMessageBox*>(&front());
+    if (alert == nullptr)
+        return {};
+    const std::string text = alert->text().toStdString();
+    QTest::mouseClick(alert->buttons().front(), Qt::LeftButton);
+    return text;
+}
+
+Texts WindowTest::changes() {
+    static const QRegularExpression change(
+        "<(add|remove)Trustee\\b.*?<userID>(.*?)</userID>.*?<fileName>(.*?)</fileName>|"
+        "<id>(.*?)</id><quota>(.*?)</quota>|<quotaAmount>(.*?)<|<creatorID[^>]*>(.*?)<|<attributes>(.+?)</"
+        "attributes>");
+    Texts found;
+    for (; seen_ < world.server->requests().size(); ++seen_) {
+        QString line;
+        for (auto it = change.globalMatch(QString::fromStdString(world.server->requests()[seen_].text));
+             it.hasNext();) {
+            QStringList parts = it.next().capturedTexts().mid(1);
+            parts.removeAll(QString());
+            line += (line.isEmpty() ? "" : "; ") + parts.join(' ');
+        }
+        if (!line.isEmpty())
+            found.push_back(shortened(line));
+    }
+    return found;
+}
+
+int WindowTest::rightsOnServer(const char* id, const char* path) const {
+    for (const auto& entry : world.server->trustees(path))
+        if (entry.identity->id == id)
+            return entry.rights;
+    return -1;
+}
+
+std::size_t WindowTest::requestsTo(const std::string& pipe) const {
+    return static_cast<std::size_t>(
+        std::ranges::count(world.server->requests(), pipe, &simulator::RecordedRequest::pipeFile));
+}
+
+void WindowTest::mend() {
+    world.server->misbehaviour = {};
+    world.keychain->failure.reset();
+}
+
+void WindowTest::losePassword() {
+    world.keychain->failure = -25300;
+    forgetServer();
+}
+
+void WindowTest::forgetServer() {
+    DictionaryForMountedPIPE::mountDict().PipeMapDict.clear();
+    ServerDetails::forget();
+}
+
+std::string& WindowTest::defaultOf(const char* key) {
+    return world.sharedDefaults->values(groupSuiteName)[key];
+}
+
+} // namespace quorvan::test
