@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string_view>
 
 namespace quorvan {
@@ -47,21 +48,31 @@ constexpr std::uint16_t withRight(std::uint16_t mask, std::uint16_t bit, bool on
     return static_cast<std::uint16_t>(on ? mask | bit : mask & ~bit);
 }
 
-/// The eight file attributes, in the order in which their tags are written.
+/// The eight file attributes, in the order in which their tags are written, and the tags of each.
 struct FileAttributes {
-    struct Tags {
-        std::string_view attribute, enabled, disabled;
-    };
-    static constexpr std::array<Tags, 8> FILE_ATTRIBUTES = {
-        {{"readOnly", R"(<readOnly enabled="yes"/>)", R"(<readOnly enabled="no"/>)"},
-         {"hidden", R"(<hidden enabled="yes"/>)", R"(<hidden enabled="no"/>)"},
-         {"archive", R"(<archive enabled="yes"/>)", R"(<archive enabled="no"/>)"},
-         {"immediatePurge", R"(<immediatePurge enabled="yes"/>)", R"(<immediatePurge enabled="no"/>)"},
-         {"renameInhibit", R"(<renameInhibit enabled="yes"/>)", R"(<renameInhibit enabled="no"/>)"},
-         {"deleteInhibit", R"(<deleteInhibit enabled="yes"/>)", R"(<deleteInhibit enabled="no"/>)"},
-         {"compressImmediate", R"(<compressImmediate enabled="yes"/>)",
-          R"(<compressImmediate enabled="no"/>)"},
-         {"doNotCompress", R"(<doNotCompress enabled="yes"/>)", R"(<doNotCompress enabled="no"/>)"}}};
+    using Tags = std::map<std::string_view, std::string_view>;
+
+    static constexpr std::array<std::string_view, 8> FILE_ATTRIBUTES = {
+        "readOnly",      "hidden",        "archive",           "immediatePurge",
+        "renameInhibit", "deleteInhibit", "compressImmediate", "doNotCompress"};
+    inline static const Tags FILE_ATTRIBUTES_TAG_ENABLED = {
+        {"readOnly", R"(<readOnly enabled="yes"/>)"},
+        {"hidden", R"(<hidden enabled="yes"/>)"},
+        {"archive", R"(<archive enabled="yes"/>)"},
+        {"immediatePurge", R"(<immediatePurge enabled="yes"/>)"},
+        {"renameInhibit", R"(<renameInhibit enabled="yes"/>)"},
+        {"deleteInhibit", R"(<deleteInhibit enabled="yes"/>)"},
+        {"compressImmediate", R"(<compressImmediate enabled="yes"/>)"},
+        {"doNotCompress", R"(<doNotCompress enabled="yes"/>)"}};
+    inline static const Tags FILE_ATTRIBUTES_TAG_DISABLED = {
+        {"readOnly", R"(<readOnly enabled="no"/>)"},
+        {"hidden", R"(<hidden enabled="no"/>)"},
+        {"archive", R"(<archive enabled="no"/>)"},
+        {"immediatePurge", R"(<immediatePurge enabled="no"/>)"},
+        {"renameInhibit", R"(<renameInhibit enabled="no"/>)"},
+        {"deleteInhibit", R"(<deleteInhibit enabled="no"/>)"},
+        {"compressImmediate", R"(<compressImmediate enabled="no"/>)"},
+        {"doNotCompress", R"(<doNotCompress enabled="no"/>)"}};
 };
 
 /// Object classes (lower case, as the server reports them) that sort directory-tree entries.
@@ -90,6 +101,19 @@ struct UserQuotaConstants {
 struct DirectoryQuotaConstants {
     static constexpr std::string_view UNLIMITED = "9223372036854775807"; ///< what removing a limit writes
     static constexpr std::string_view NOT_SET = "-1";
+};
+
+/// The names by which the server tells the logged-in user's rights.
+struct EffectiveRightsConstants {
+    static constexpr std::string_view SUPERVISOR = "supervisor";
+    static constexpr std::string_view ACCESS_CONTROL = "accessControl";
+};
+
+/// A trustee's pending change, and the identity that stands for everyone.
+struct TrusteeInfo {
+    static constexpr std::string_view ADD = "ADD"; ///< to be added, or to have its rights set
+    static constexpr std::string_view REMOVE = "REMOVE";
+    static constexpr std::string_view EVERYONE = "S-1-1-0";
 };
 
 struct Constants {

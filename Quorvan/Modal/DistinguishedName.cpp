@@ -10,7 +10,7 @@ namespace {
 
 bool hasEscapes(std::string_view name) {
     for (std::size_t at = name.find('\\'); at != std::string_view::npos; at = name.find('\\', at + 1)) {
-        if (at + 1 < name.size() && std::string_view(".=\\").find(name[at + 1]) != std::string_view::npos)
+        if (at + 1 < name.size() && std::string_view(".=,+\\").find(name[at + 1]) != std::string_view::npos)
             return true;
     }
     return false;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Modal/Users.h"
 
+#include "Quorvan/Modal/Constants.h"
+
 #include <utility>
 
 namespace quorvan {
@@ -32,8 +34,8 @@ Trustees& Trustees::operator=(const Trustees& other) {
 }
 
 void Trustees::nameTheTypeOfEveryone() {
-    if (trusteeType.empty() && trusteeID == "S-1-1-0")
-        trusteeType = "Groups";
+    if (trusteeType.empty() && trusteeID == TrusteeInfo::EVERYONE)
+        trusteeType = UserQuotaConstants::ObjectTypes::GROUPS;
 }
 
 TrusteeList copyOf(const TrusteeList& trustees) {

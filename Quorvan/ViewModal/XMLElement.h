@@ -14,8 +14,8 @@ namespace quorvan {
 
 struct XMLTree;
 
-/// A node of an XMLDocument: an element, or the text between two tags. A small value that refers into
-/// its document and is valid as long as that is.
+/// A node of an XMLDocument: an element, or the text between two tags unless it is nothing but whitespace. A
+/// small value that refers into its document and is valid as long as that is.
 class XMLElement {
 public:
     class Children;

@@ -27,6 +27,8 @@ public:
     }
 
     void didEndElement() {
+        if (depth_ == 0) // an end tag without its start tag
+            return;
         if (depth_-- == steps_ && state_ == State::running)
             state_ = State::failed;
     }

@@ -4,6 +4,7 @@
 #include "Common/Fatal.h"
 #include "Common/Log.h"
 #include "Platform/Services.h"
+#include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/Utils.h"
 #include "Quorvan/ViewModal/ScopedPipe.h"
 
@@ -269,9 +270,9 @@ std::int32_t XMLReadWriteController::setTrusteeHandleDFS(std::string& server, st
                                                          std::string& selectedPath, const Trustees& trustee,
                                                          const std::string& identityType) {
     const auto request = [&](const std::string& path) -> std::string {
-        if (trustee.status == "ADD")
+        if (trustee.status == TrusteeInfo::ADD)
             return setTrusteeAdd(trustee, path, identityType);
-        if (trustee.status == "REMOVE")
+        if (trustee.status == TrusteeInfo::REMOVE)
             return setTrusteeRemove(trustee, path, identityType);
         Log("skipping user: ");
         return "-1";

@@ -7,8 +7,6 @@
 #include "Quorvan/Modal/Utils.h"
 #include "Quorvan/ViewModal/RequestEnvelope.h"
 
-#include <algorithm>
-
 namespace quorvan {
 namespace {
 
@@ -50,8 +48,7 @@ constexpr std::string_view setQuotaOfAny =
     "</fileRequest>";
 
 bool isAttribute(std::string_view name) {
-    return std::any_of(FileAttributes::FILE_ATTRIBUTES.begin(), FileAttributes::FILE_ATTRIBUTES.end(),
-                       [name](const FileAttributes::Tags& known) { return known.attribute == name; });
+    return FileAttributes::FILE_ATTRIBUTES_TAG_ENABLED.contains(name);
 }
 
 /// The part of a file information reply that every decoder reads; nothing when the reply is not XML, which

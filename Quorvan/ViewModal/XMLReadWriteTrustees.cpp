@@ -53,9 +53,9 @@ std::string changeElement(const Trustees& trustee, const std::string& path, cons
     const bool ownType =
         trustee.domainType == identityActiveDirectory || trustee.domainType == identityMorvane;
     const std::string& type = ownType ? trustee.domainType : identityType;
-    if (trustee.status == "ADD")
+    if (trustee.status == TrusteeInfo::ADD)
         return addElement(type, trustee.trusteeID, trustee.rights, path);
-    if (trustee.status == "REMOVE")
+    if (trustee.status == TrusteeInfo::REMOVE)
         return removeElement(type, trustee.trusteeID, path);
     Log("skipping user: ");
     return "";

@@ -49,7 +49,6 @@ void XMLResponseParser::didStartElement(std::string_view name, XMLAttributes att
     result.didStartElement(name, attributes);
     currentElement = name;
     const ReplyTag& tag = ReplyTag::named(name);
-    open_.push_back(&tag);
     switch (tag.kind) {
     case ReplyTag::Kind::trusteeInfo:
         dictForTrustees = makeEntry();
@@ -85,8 +84,7 @@ void XMLResponseParser::foundCharacters(std::string_view text) {
 
 void XMLResponseParser::didEndElement(std::string_view name) {
     result.didEndElement();
-    const ReplyTag& tag = *open_.back(); // of the start tag: the parser sees to it that they match
-    open_.pop_back();
+    const ReplyTag& tag = ReplyTag::named(name);
     switch (tag.kind) {
     case ReplyTag::Kind::trusteeInfo:
         close(arrStack, dictForTrustees, name);

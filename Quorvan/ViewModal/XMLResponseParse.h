@@ -99,7 +99,6 @@ private:
     std::string_view keep(std::string_view text);
 
     std::shared_ptr<Storage> storage_ = std::make_shared<Storage>();
-    std::vector<const ReplyTag*> open_; ///< what the elements are that are open now
 };
 
 } // namespace quorvan

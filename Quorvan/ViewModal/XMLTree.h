@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quorvan {
@@ -54,16 +55,16 @@ public:
     }
 
     void didStartElement(std::string_view name, XMLAttributes attributes) override {
+        endText();
         open_.push_back(addNode(name, false));
         for (const XMLAttribute attribute : attributes)
             tree_.attributes.push_back({store(attribute.name), store(attribute.value)});
-        textMayGrow_ = false;
     }
 
     void didEndElement(std::string_view) override {
+        endText();
         tree_.nodes[open_.back()].end = size(tree_.nodes);
         open_.pop_back();
-        textMayGrow_ = false;
     }
 
     void foundCharacters(std::string_view text) override {
@@ -85,6 +86,17 @@ private:
         const XMLTree::Piece piece{size(tree_.texts), size(text)};
         tree_.texts += text;
         return piece;
+    }
+
+    /// A text of nothing but whitespace only sets the elements apart and is no part of the tree.
+    void endText() {
+        if (!std::exchange(textMayGrow_, false))
+            return;
+        const XMLTree::Piece text = tree_.nodes.back().piece;
+        if (tree_.text(text).find_first_not_of(" \t\r\n") != std::string_view::npos)
+            return;
+        tree_.nodes.pop_back();
+        tree_.texts.resize(text.at);
     }
 
     std::uint32_t addNode(std::string_view text, bool isText) {

@@ -66,8 +66,10 @@ TEST_F(Client, ReadsAndChangesWhatBelongsToAPath) {
         EXPECT_EQ(owner.id, id);
         EXPECT_NE(owner.name, "");
         std::string tags = R"(<archive enabled="yes"/>)";
-        for (const auto& each : FileAttributes::FILE_ATTRIBUTES)
-            tags += each.attribute == "archive" ? each.enabled : each.disabled;
+        for (const std::string_view each : FileAttributes::FILE_ATTRIBUTES)
+            tags += (each == "archive" ? FileAttributes::FILE_ATTRIBUTES_TAG_ENABLED
+                                       : FileAttributes::FILE_ATTRIBUTES_TAG_DISABLED)
+                        .at(each);
         controller.setAttributes(file, tags);
         AttributesInfo attributes;
         EXPECT_EQ(controller.getAttributes(file, attributes, type), "0");

@@ -82,10 +82,11 @@ inline std::string changes(const quorvan::TrusteeList& list, const std::string& 
 inline std::string setAttributes(const std::vector<std::string>& on) {
     std::string announced;
     std::string all;
-    for (const auto& each : FileAttributes::FILE_ATTRIBUTES) {
-        const bool isOn = std::find(on.begin(), on.end(), each.attribute) != on.end();
-        announced += isOn ? each.enabled : "";
-        all += isOn ? each.enabled : each.disabled;
+    for (const std::string_view each : FileAttributes::FILE_ATTRIBUTES) {
+        const bool isOn = std::find(on.begin(), on.end(), each) != on.end();
+        const std::string_view enabled = FileAttributes::FILE_ATTRIBUTES_TAG_ENABLED.at(each);
+        announced += isOn ? enabled : "";
+        all += isOn ? enabled : FileAttributes::FILE_ATTRIBUTES_TAG_DISABLED.at(each);
     }
     return Texts::createSetAttributesRequest(SmallServer::folder, announced + all);
 }

@@ -163,13 +163,13 @@ std::string InformationViewController::attributeTags() const {
         return std::find(editedFileAttributes.begin(), editedFileAttributes.end(), name) !=
                editedFileAttributes.end();
     };
+    const FileAttributes::Tags& enabled = FileAttributes::FILE_ATTRIBUTES_TAG_ENABLED;
     std::string tags;
     for (const std::string& name : editedFileAttributes)
-        for (const FileAttributes::Tags& known : FileAttributes::FILE_ATTRIBUTES)
-            if (known.attribute == name)
-                tags += known.enabled;
-    for (const FileAttributes::Tags& known : FileAttributes::FILE_ATTRIBUTES)
-        tags += isOn(known.attribute) ? known.enabled : known.disabled;
+        if (const auto tag = enabled.find(name); tag != enabled.end())
+            tags += tag->second;
+    for (const std::string_view name : FileAttributes::FILE_ATTRIBUTES)
+        tags += (isOn(name) ? enabled : FileAttributes::FILE_ATTRIBUTES_TAG_DISABLED).at(name);
     return tags;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Selection/OwnRights.h"
 
+#include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
 
 #include <algorithm>
@@ -18,8 +19,8 @@ std::optional<OwnRights> loadOwnRights(XMLReadWriteController& xmlController, st
         reportFailedStatus(status);
         return std::nullopt;
     }
-    return OwnRights{std::ranges::find(names, "supervisor") != names.end(),
-                     std::ranges::find(names, "accessControl") != names.end()};
+    return OwnRights{std::ranges::find(names, EffectiveRightsConstants::SUPERVISOR) != names.end(),
+                     std::ranges::find(names, EffectiveRightsConstants::ACCESS_CONTROL) != names.end()};
 }
 
 } // namespace quorvan

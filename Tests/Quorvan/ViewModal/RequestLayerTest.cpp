@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// What holds for the request layer as a whole: one pipe, one operation at a time.
+// What holds for the request layer as a whole: one pipe and one operation at a time, and replies and names
+// that are written unlike the usual.
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Modal/DistinguishedName.h"
 #include "Quorvan/ViewModal/ScopedPipe.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
 #include "Tests/Quorvan/ViewModal/Session.h"
@@ -98,6 +101,67 @@ TEST_F(RequestLayer, LetsNoOperationBeginInsideAnother) {
     EXPECT_DEATH(controller.getUserType(), "while a pipe is in use");
     busy.onBegin = nullptr;
     EXPECT_EQ(controller.getUserType(), "ActiveDirectory") << "and the next one runs";
+}
+
+TEST_F(RequestLayer, ReadsRepliesThatAreWrittenOnSeveralLines) {
+    AttributesInfo attributes;
+    reply("<r>\n <fileInfo>\n  <getFileInfo> <standardInfo> <attributes>\n\t<archive/>\r\n <hidden/>\n"
+          "</attributes> </standardInfo> <result value=\"0\"/></getFileInfo></fileInfo></r>");
+    EXPECT_EQ(controller.getAttributes("VOL1:\\a", attributes, "Morvane"), "0");
+    EXPECT_THAT(*attributes.attributes, ElementsAre("archive", "hidden"));
+    Strings rights;
+    reply("<r><fileInfo><getFileInfo><rightsInfo><effectiveRights>\n<read/>\n</effectiveRights></rightsInfo>"
+          "<result value=\"0\"/></getFileInfo></fileInfo></r>");
+    EXPECT_EQ(controller.getEffectiveRightsForMappedUser("VOL1:\\a", rights, "Morvane"), "0");
+    EXPECT_THAT(rights, ElementsAre("read"));
+    const auto attribute = [this](const std::string& values) {
+        reply("<r><result value=\"0\"/><trellObject><getAttribute><result value=\"0\"/><trellAttribute>" +
+              values + "</trellAttribute></getAttribute></trellObject></r>");
+    };
+    attribute("\n <value>g-1</value>\n");
+    EXPECT_EQ(controller.getGuid_Morvane("", ""), "g-1");
+    attribute("\n <value> two words </value>\n text <value>b</value> <!-- --> \n");
+    std::vector<Group> groups;
+    EXPECT_EQ(controller.getGroupMemberShip_Morvane("", groups, "", ""), "0");
+    Strings names;
+    for (const Group& group : groups)
+        names.push_back(group.groupName);
+    EXPECT_THAT(names, ElementsAre(" two words ", "", "b")) << "a text that says something stays a child";
+}
+
+TEST_F(RequestLayer, TakesEndTagsThatNeverBegan) {
+    XMLResponseParser parser;
+    parser.didEndElement("read");
+    EXPECT_EQ(parser.rightsBit, 0x0001);
+    parser.didEndElement("rights");
+    EXPECT_EQ(parser.rightsBit, 0);
+    EXPECT_DEATH(parser.didEndElement("file"), "\"file\" ended in the reply and never began");
+}
+
+TEST_F(RequestLayer, KeepsEscapedNamesWhole) {
+    for (const char* name : {R"(.CN=Smith\, Jo.O=org.TREE.)", R"(CN=a\+b.O=org)", R"(\TREE\O=a\.b\CN=c)"}) {
+        std::string context;
+        std::string object;
+        EXPECT_FALSE(convertDntoContextAndNameRootLeft(name, context, object));
+        EXPECT_EQ(context + object, name);
+        EXPECT_EQ(getDNFromGroupNameRootRight(name), name);
+    }
+}
+
+TEST_F(RequestLayer, WritesTheTagsOfAllAttributes) {
+    std::string tags;
+    for (const std::string_view name : FileAttributes::FILE_ATTRIBUTES) {
+        tags += FileAttributes::FILE_ATTRIBUTES_TAG_ENABLED.at(name);
+        tags += FileAttributes::FILE_ATTRIBUTES_TAG_DISABLED.at(name);
+    }
+    EXPECT_EQ(tags, R"(<readOnly enabled="yes"/><readOnly enabled="no"/>)"
+                    R"(<hidden enabled="yes"/><hidden enabled="no"/>)"
+                    R"(<archive enabled="yes"/><archive enabled="no"/>)"
+                    R"(<immediatePurge enabled="yes"/><immediatePurge enabled="no"/>)"
+                    R"(<renameInhibit enabled="yes"/><renameInhibit enabled="no"/>)"
+                    R"(<deleteInhibit enabled="yes"/><deleteInhibit enabled="no"/>)"
+                    R"(<compressImmediate enabled="yes"/><compressImmediate enabled="no"/>)"
+                    R"(<doNotCompress enabled="yes"/><doNotCompress enabled="no"/>)");
 }
 
 } // namespace
