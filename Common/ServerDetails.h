@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Keychain.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -8,8 +10,7 @@
 
 namespace quorvan {
 
-/// The keychain's code for "item not found": no usable account is stored for the server.
-inline constexpr std::int32_t errSecItemNotFound = -25300;
+using platform::errSecItemNotFound; ///< no usable account is stored for the server
 
 /// The defaults suite through which the file manager's menu extension hands over the selection.
 inline constexpr const char* groupSuiteName = "group.tarnix.common";

@@ -10,17 +10,34 @@
 
 namespace quorvan::platform {
 
+// Types of records.
+inline constexpr const char* kODRecordTypeUsers = "dsRecTypeStandard:Users";
+inline constexpr const char* kODRecordTypeGroups = "dsRecTypeStandard:Groups";
+
+// Attributes of records; `nativeAttributePrefix` and X is attribute X of the directory itself.
+inline constexpr const char* kODAttributeTypeRecordName = "dsAttrTypeStandard:RecordName"; ///< account name
+inline constexpr const char* kODAttributeTypeSMBSID = "dsAttrTypeStandard:SMBSID";         ///< S-1-… text
+inline constexpr const char* kODAttributeTypePrimaryNTDomain =
+    "dsAttrTypeStandard:PrimaryNTDomain"; ///< the domain's NetBIOS name
+inline constexpr const char* kODAttributeTypeRecordType =
+    "dsAttrTypeStandard:RecordType"; ///< one of the types of records
+inline constexpr const char* nativeAttributePrefix = "dsAttrTypeNative:";
+inline constexpr const char* nativeDistinguishedName = "dsAttrTypeNative:distinguishedName";
+inline constexpr const char* nativeMemberOf = "dsAttrTypeNative:memberOf"; ///< distinguished names
+
+// Names of nodes: "/Active Directory/NAME" is a domain, "/Active Directory/NAME/All Domains" its forest.
+inline constexpr const char* activeDirectoryNode = "/Active Directory";
+inline constexpr const char* allDomainsNode = "/All Domains";
+
+/// The key of the node's name in the state of the Active Directory connection.
+inline constexpr const char* nodeNameKey = "NodeName";
+
 /// One user, group or other object of a directory.
 class DirectoryRecord {
 public:
     virtual ~DirectoryRecord() = default;
 
     /// All values of an attribute (empty when the record has none); nothing when reading failed.
-    ///
-    /// Attributes: "dsAttrTypeStandard:RecordName" (account name), "dsAttrTypeStandard:SMBSID"
-    /// (S-1-… text), "dsAttrTypeStandard:PrimaryNTDomain" (the domain's NetBIOS name),
-    /// "dsAttrTypeStandard:RecordType" ("dsRecTypeStandard:Users" or "dsRecTypeStandard:Groups"),
-    /// "dsAttrTypeNative:X" (attribute X of the directory itself).
     virtual std::optional<std::vector<std::string>> values(const std::string& attribute) = 0;
 };
 
@@ -30,8 +47,8 @@ using DirectoryRecords = std::vector<std::shared_ptr<DirectoryRecord>>;
 enum class DirectoryMatch { any, equalTo, contains };
 
 struct DirectoryQuery {
-    std::vector<std::string> recordTypes; ///< "dsRecTypeStandard:Users", "dsRecTypeStandard:Groups"
-    std::string attribute;                ///< one of the attributes of DirectoryRecord
+    std::vector<std::string> recordTypes;
+    std::string attribute;
     DirectoryMatch match = DirectoryMatch::equalTo;
     std::vector<std::string> values; ///< a record matches when one of them does; never interpreted
     std::size_t limit = 0;           ///< at most this many records; 0 = all
@@ -58,8 +75,8 @@ class DirectoryServices {
 public:
     virtual ~DirectoryServices() = default;
 
-    /// The state of the Active Directory connection ("NodeName": "/Active Directory/NAME"); nothing
-    /// when this machine is not bound to one.
+    /// The state of the Active Directory connection (`nodeNameKey`: "/Active Directory/NAME");
+    /// nothing when this machine is not bound to one.
     virtual std::optional<std::map<std::string, std::string>> activeDirectoryState() = 0;
 
     /// The names of all nodes, of each domain first the domain itself and then its forest

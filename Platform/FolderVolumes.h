@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/LocalVolumes.h"
+#include "Platform/VolumesFolder.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -53,7 +54,7 @@ private:
 
     /// Where a path really lies. One that climbs with ".." could leave its volume, and lies nowhere.
     std::optional<std::filesystem::path> placeOf(const std::string& path) {
-        constexpr std::string_view volumes = "/Volumes/";
+        const std::string volumes = volumesFolder + std::string("/");
         if (!path.starts_with(volumes))
             return std::nullopt;
         const std::size_t nameEnd = std::min(path.find('/', volumes.size()), path.size());

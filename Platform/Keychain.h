@@ -7,6 +7,9 @@
 
 namespace quorvan::platform {
 
+/// The keychain's code for "item not found".
+inline constexpr std::int32_t errSecItemNotFound = -25300;
+
 /// What the keychain knows about one internet password.
 struct KeychainItem {
     std::optional<std::string> account; ///< user name
@@ -14,7 +17,7 @@ struct KeychainItem {
 };
 
 struct KeychainResult {
-    std::int32_t status = 0;          ///< 0, or the service's own code; -25300 = no such item
+    std::int32_t status = 0;          ///< 0, or the service's own code; errSecItemNotFound
     std::optional<KeychainItem> item; ///< set when the status is 0
 };
 

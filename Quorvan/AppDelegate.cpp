@@ -70,7 +70,7 @@ void sendStandardStreamsInto(const std::string& file) {
 AppDelegate* AppDelegate::running_ = nullptr;
 
 AppDelegate::AppDelegate(const std::string& libraryDirectory) {
-    const std::string file = libraryDirectory + "/Logs/tarnix/Quorvan.log";
+    const std::string file = logFile(libraryDirectory);
     sendStandardStreamsInto(file);
     Log("%@", QUrl::fromLocalFile(QString::fromStdString(file)).toEncoded().toStdString());
     running_ = this;
@@ -85,6 +85,10 @@ std::string AppDelegate::userLibraryDirectory() {
     const char* home = std::getenv("HOME");
     require(home != nullptr && *home == '/', "The user has no home directory");
     return std::string(home) + "/Library";
+}
+
+std::string AppDelegate::logFile(const std::string& libraryDirectory) {
+    return libraryDirectory + "/Logs/tarnix/Quorvan.log";
 }
 
 void AppDelegate::buildMenuItems() {

@@ -18,7 +18,7 @@ class MainWindow;
 /// Build it before any window, with the platform's services installed and an application object.
 class AppDelegate : public QObject {
 public:
-    /// Sends standard error, input and output into "Logs/tarnix/Quorvan.log" of a library directory.
+    /// Sends standard error, input and output into the log file of a library directory.
     /// They stay as they are when the path is not ASCII or the file cannot be written.
     explicit AppDelegate(const std::string& libraryDirectory = userLibraryDirectory());
     ~AppDelegate() override;
@@ -27,6 +27,9 @@ public:
 
     /// ~/Library; fatal when the user has no home.
     static std::string userLibraryDirectory();
+
+    /// Where the log file of a library directory lies.
+    static std::string logFile(const std::string& libraryDirectory = userLibraryDirectory());
 
     // The items of the application menu. Those that this desktop has no use for only bear their title.
     QAction* AboutQuorvan = nullptr;

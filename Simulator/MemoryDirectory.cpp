@@ -14,11 +14,11 @@ namespace {
 using State = MemoryDirectory::State;
 using Values = std::vector<std::string>;
 
-const std::string recordName = "dsAttrTypeStandard:RecordName";
-const std::string sid = "dsAttrTypeStandard:SMBSID";
-const std::string distinguishedName = "dsAttrTypeNative:distinguishedName";
-constexpr const char* users = "dsRecTypeStandard:Users";
-constexpr const char* groups = "dsRecTypeStandard:Groups";
+const std::string recordName = platform::kODAttributeTypeRecordName;
+const std::string sid = platform::kODAttributeTypeSMBSID;
+const std::string distinguishedName = platform::nativeDistinguishedName;
+constexpr const char* users = platform::kODRecordTypeUsers;
+constexpr const char* groups = platform::kODRecordTypeGroups;
 
 Values memberOf(const Identity& identity) {
     Values names;
@@ -32,8 +32,8 @@ Values valuesOf(const Identity& identity, const std::string& attribute) {
     static const std::map<std::string, Getter> getters{
         {recordName, [](const Identity& i) { return Values{i.name}; }},
         {sid, [](const Identity& i) { return i.id.empty() ? Values() : Values{i.id}; }},
-        {"dsAttrTypeStandard:PrimaryNTDomain", [](const Identity& i) { return Values{i.domain}; }},
-        {"dsAttrTypeStandard:RecordType",
+        {platform::kODAttributeTypePrimaryNTDomain, [](const Identity& i) { return Values{i.domain}; }},
+        {platform::kODAttributeTypeRecordType,
          [](const Identity& i) { return Values{i.isGroup() ? groups : users}; }},
         {"dsAttrTypeNative:cn", [](const Identity& i) { return Values{i.name}; }},
         {"dsAttrTypeNative:sAMAccountName", [](const Identity& i) { return Values{i.name}; }},
@@ -44,7 +44,7 @@ Values valuesOf(const Identity& identity, const std::string& attribute) {
          [](const Identity& i) {
              return Values{"top", i.objectClass};
          }},
-        {"dsAttrTypeNative:memberOf", memberOf},
+        {platform::nativeMemberOf, memberOf},
     };
     const auto getter = getters.find(attribute);
     return getter == getters.end() ? Values() : getter->second(identity);
@@ -142,8 +142,8 @@ private:
     std::optional<std::string> domain_;
 };
 
-const std::string nodePrefix = "/Active Directory/";
-const std::string forestSuffix = "/All Domains";
+const std::string nodePrefix = platform::activeDirectoryNode + std::string("/");
+const std::string forestSuffix = platform::allDomainsNode;
 
 } // namespace
 
@@ -153,7 +153,7 @@ MemoryDirectory::MemoryDirectory(std::shared_ptr<const Identities> identities)
 std::optional<std::map<std::string, std::string>> MemoryDirectory::activeDirectoryState() {
     if (!state_->bound)
         return std::nullopt;
-    return std::map<std::string, std::string>{{"NodeName", nodePrefix + identities_->domain}};
+    return std::map<std::string, std::string>{{platform::nodeNameKey, nodePrefix + identities_->domain}};
 }
 
 std::vector<std::string> MemoryDirectory::domains() const {

@@ -49,7 +49,7 @@ platform::KeychainResult MemoryKeychain::findInternetPassword(const std::string&
         return {*failure, {}};
     const auto found = items.find(server);
     if (found == items.end())
-        return {itemNotFound, {}};
+        return {platform::errSecItemNotFound, {}};
     return {0, found->second};
 }
 

@@ -36,8 +36,6 @@ private:
 /// A keychain with any number of items, at most one per server.
 class MemoryKeychain : public platform::Keychain {
 public:
-    static constexpr std::int32_t itemNotFound = -25300;
-
     platform::KeychainResult findInternetPassword(const std::string& server) override;
 
     void setItem(const std::string& server, const std::string& account, const std::string& password);

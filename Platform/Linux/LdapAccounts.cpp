@@ -10,8 +10,6 @@
 namespace quorvan::platform {
 namespace {
 
-constexpr const char* users = "dsRecTypeStandard:Users";
-constexpr const char* groups = "dsRecTypeStandard:Groups";
 constexpr std::size_t batch = 100; ///< identifiers in one query
 
 /// As ldapFilter() tells them apart: computers are of the class user too.
@@ -19,7 +17,7 @@ std::string recordTypeOf(const std::vector<std::string>& classes) {
     const auto has = [&](const char* name) {
         return std::find(classes.begin(), classes.end(), name) != classes.end();
     };
-    return has("group") ? groups : has("user") && !has("computer") ? users : "";
+    return has("group") ? kODRecordTypeGroups : has("user") && !has("computer") ? kODRecordTypeUsers : "";
 }
 
 bool contains(const std::vector<std::string>& list, const std::string& wanted) {

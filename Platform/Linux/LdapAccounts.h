@@ -19,7 +19,7 @@ struct LdapAccount {
     std::optional<std::string> name;
     std::optional<std::string> sid; ///< S-1-…
     std::string domain;             ///< NetBIOS name
-    std::string recordType;         ///< "dsRecTypeStandard:Users" or "…:Groups"; "" for anything else
+    std::string recordType;         ///< "" for what is neither user nor group
 };
 
 /// The users and groups of a forest. Those found by their security identifier are remembered as long as

@@ -13,14 +13,15 @@ namespace {
 
 using Values = std::vector<std::string>;
 
-const std::string nodePrefix = "/Active Directory/";
-constexpr const char* forestSuffix = "/All Domains";
+std::string nodeNameOf(const std::string& domain) {
+    return std::string(activeDirectoryNode) + "/" + domain;
+}
 
 /// The names of a domain's own node and of that of its forest.
 std::pair<std::string, std::string> nodeNamesOf(const LdapDomain& domain) {
-    std::string own = nodePrefix + domain.name;
+    std::string own = nodeNameOf(domain.name);
     std::string forest = own;
-    return {std::move(own), std::move(forest.append(forestSuffix))};
+    return {std::move(own), std::move(forest.append(allDomainsNode))};
 }
 
 Values listOf(const std::optional<std::string>& value) {
@@ -34,9 +35,9 @@ public:
         , account_(std::move(account)) {}
 
     std::optional<Values> values(const std::string& attribute) override {
-        if (attribute == "dsAttrTypeStandard:RecordType")
+        if (attribute == kODAttributeTypeRecordType)
             return Values{account_->recordType};
-        if (attribute == "dsAttrTypeStandard:PrimaryNTDomain")
+        if (attribute == kODAttributeTypePrimaryNTDomain)
             return account_->domain.empty() ? Values() : Values{account_->domain};
         const std::optional<std::string> native = ldapAttribute(attribute);
         if (!native)
@@ -105,7 +106,7 @@ std::optional<std::map<std::string, std::string>> LdapDirectory::activeDirectory
     // A server that is down does not unbind the machine.
     const LdapDomain* domain = accounts_->load() ? accounts_->boundDomain() : nullptr;
     return std::map<std::string, std::string>{
-        {"NodeName", nodePrefix + (domain == nullptr ? usualName(base) : domain->name)}};
+        {nodeNameKey, nodeNameOf(domain == nullptr ? usualName(base) : domain->name)}};
 }
 
 std::optional<std::vector<std::string>> LdapDirectory::nodeNames() {
@@ -143,8 +144,7 @@ std::optional<std::vector<ManagedIdentity>> LdapDirectory::managedIdentities(Ide
     if (domain == nullptr)
         return std::nullopt;
     DirectoryQuery query;
-    query.recordTypes = {identityClass == IdentityClass::group ? "dsRecTypeStandard:Groups"
-                                                               : "dsRecTypeStandard:Users"};
+    query.recordTypes = {identityClass == IdentityClass::group ? kODRecordTypeGroups : kODRecordTypeUsers};
     query.match = DirectoryMatch::any;
     const auto found = accounts_->find({domain->base}, query);
     if (!found)

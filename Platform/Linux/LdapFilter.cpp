@@ -58,8 +58,8 @@ std::string recordTypeFilter(const std::vector<std::string>& recordTypes) {
         filters += filter;
         ++count;
     };
-    add("dsRecTypeStandard:Users", "(&(objectCategory=person)(objectClass=user))");
-    add("dsRecTypeStandard:Groups", "(objectClass=group)");
+    add(kODRecordTypeUsers, "(&(objectCategory=person)(objectClass=user))");
+    add(kODRecordTypeGroups, "(objectClass=group)");
     return count == 0 ? "" : anyOf(filters, count);
 }
 
@@ -128,11 +128,11 @@ std::string escapeForFilter(std::string_view value) {
 }
 
 std::optional<std::string> ldapAttribute(std::string_view attribute) {
-    if (attribute == "dsAttrTypeStandard:RecordName")
+    if (attribute == kODAttributeTypeRecordName)
         return "sAMAccountName";
-    if (attribute == "dsAttrTypeStandard:SMBSID")
+    if (attribute == kODAttributeTypeSMBSID)
         return "objectSid";
-    constexpr std::string_view native = "dsAttrTypeNative:";
+    constexpr std::string_view native = nativeAttributePrefix;
     if (attribute.substr(0, native.size()) != native || !isAttributeName(attribute.substr(native.size())))
         return std::nullopt;
     return std::string(attribute.substr(native.size()));

@@ -19,8 +19,8 @@ std::optional<std::string> sidBytes(std::string_view text);
 /// Nothing else may put a value into a filter.
 std::string escapeForFilter(std::string_view value);
 
-/// The attribute of the directory behind "dsAttrTypeStandard:…" or "dsAttrTypeNative:…"; nothing when
-/// there is none that can be searched.
+/// The attribute of the directory behind an attribute of records; nothing when there is none that can
+/// be searched.
 std::optional<std::string> ldapAttribute(std::string_view attribute);
 
 /// The filter of a query; nothing when no record can match it.

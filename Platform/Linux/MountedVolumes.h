@@ -12,7 +12,7 @@ class MountedVolumes : public FolderVolumes {
 public:
     /// Where to look.
     struct Places {
-        std::filesystem::path volumes = "/Volumes";
+        std::filesystem::path volumes = volumesFolder;
         std::filesystem::path mountTable = "/proc/self/mountinfo";
         std::filesystem::path desktopMounts; ///< the folder of GVfs; "" for the user's own
     };

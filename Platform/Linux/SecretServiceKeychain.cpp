@@ -10,8 +10,6 @@
 namespace quorvan::platform {
 namespace {
 
-constexpr std::int32_t itemNotFound = -25300;
-
 struct ObjectDeleter {
     void operator()(gpointer object) const { g_object_unref(object); }
 };
@@ -47,7 +45,7 @@ std::optional<KeychainItem> contents(SecretItem* item) {
 }
 
 KeychainResult find(const std::string& server, GCancellable* cancellable) {
-    KeychainResult result{itemNotFound, std::nullopt};
+    KeychainResult result{errSecItemNotFound, std::nullopt};
     if (g_utf8_validate(server.data(), static_cast<gssize>(server.size()), nullptr) == FALSE)
         return result;
     const ObjectPointer<SecretService> service(secret_service_open_sync(
@@ -84,7 +82,7 @@ KeychainResult SecretServiceKeychain::findInternetPassword(const std::string& se
     if (answer.wait_for(timeLimit_) == std::future_status::ready)
         return answer.get();
     g_cancellable_cancel(cancellable.get());
-    return {itemNotFound, std::nullopt};
+    return {errSecItemNotFound, std::nullopt};
 }
 
 } // namespace quorvan::platform

@@ -4,18 +4,18 @@
 #include "Platform/Linux/SmbProbe.h"
 #include "Platform/Linux/SmbSession.h"
 #include "Platform/Linux/SmbSockets.h"
+#include "Platform/VolumesFolder.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <optional>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
 namespace quorvan::platform {
 namespace {
 
-constexpr std::string_view root = "/Volumes/";
+const std::string root = volumesFolder + std::string("/");
 
 int fail(int error) {
     errno = error;
@@ -51,7 +51,7 @@ std::string SmbClientFileSystem::resolve(const std::string& host) {
 }
 
 std::string SmbClientFileSystem::freeMountPoint(const std::string& name) const {
-    const std::string wanted = std::string(root) + name;
+    const std::string wanted = root + name;
     std::string mountPoint = wanted;
     for (int number = 1; sessions_.count(mountPoint) > 0; ++number)
         mountPoint = wanted + "-" + std::to_string(number);

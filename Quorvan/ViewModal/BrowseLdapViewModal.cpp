@@ -14,8 +14,6 @@ namespace quorvan {
 
 namespace {
 
-constexpr const char* allDomains = "/All Domains";
-
 std::string firstOf(const std::vector<std::string>& values) {
     return values.empty() ? std::string() : values.front();
 }
@@ -31,7 +29,7 @@ std::optional<LdapRow> rowOf(platform::DirectoryRecord& record) {
 
 std::optional<platform::DirectoryRecords> query(const std::string& domain,
                                                 const platform::DirectoryQuery& wanted) {
-    const auto node = platform::services().directory->openNode(domain + allDomains);
+    const auto node = platform::services().directory->openNode(domain + platform::allDomainsNode);
     return node ? node->query(wanted) : std::nullopt;
 }
 
@@ -58,7 +56,7 @@ std::vector<std::string> BrowseLdapViewModal::getAvaialbleDomains() {
     }
     std::vector<std::string> domains;
     for (const std::string& name : *names)
-        if (name.starts_with("/Active Directory") && !name.ends_with(allDomains))
+        if (name.starts_with(platform::activeDirectoryNode) && !name.ends_with(platform::allDomainsNode))
             domains.push_back(name);
     return domains;
 }
@@ -132,7 +130,7 @@ std::vector<std::string> BrowseLdapViewModal::getGroupMembership(const std::stri
         node->query({{kODRecordTypeUsers}, kODAttributeTypeSMBSID, platform::DirectoryMatch::equalTo, {id}});
     std::vector<std::string> groups;
     for (const auto& record : unwrap(records, "The directory does not say which groups %@ belongs to", id))
-        if (auto values = record->values("dsAttrTypeNative:memberOf"))
+        if (auto values = record->values(platform::nativeMemberOf))
             groups = *std::move(values);
     return groups;
 }

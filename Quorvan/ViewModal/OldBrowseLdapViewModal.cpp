@@ -46,9 +46,9 @@ Names OldBrowseLdapViewModal::searchAD(const std::string& text, const std::strin
         Log("Could not find a Active Directory on the server");
         return {};
     }
-    const auto nodeName = state->find("NodeName");
+    const auto nodeName = state->find(platform::nodeNameKey);
     require(nodeName != state->end(), "The Active Directory of this machine has no node");
-    const auto node = directory.openNode(nodeName->second + "/All Domains");
+    const auto node = directory.openNode(nodeName->second + platform::allDomainsNode);
     const auto records = node ? node->query({{recordTypeOf(type)},
                                              kODAttributeTypeRecordName,
                                              platform::DirectoryMatch::contains,

@@ -26,8 +26,9 @@ struct DirectoryLookup::Surroundings {
     platform::DirectoryNode* node() {
         platform::DirectoryServices& directory = *platform::services().directory;
         if (!node_)
-            node_ = multiForest ? directory.openNetworkNode()
-                                : directory.openNode((*state)["NodeName"] + "/All Domains");
+            node_ = multiForest
+                        ? directory.openNetworkNode()
+                        : directory.openNode((*state)[platform::nodeNameKey] + platform::allDomainsNode);
         return node_.get();
     }
 
@@ -118,7 +119,7 @@ std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
 
 void DirectoryLookup::setTrusteeTypeforTrustee(Trustees& trustee) const {
     for (const auto& record : recordsOfID(trustee.trusteeID)) {
-        const auto values = record->values("dsAttrTypeStandard:RecordType");
+        const auto values = record->values(kODAttributeTypeRecordType);
         if (!values || values->empty()) {
             reportFailure();
             return;

@@ -10,11 +10,12 @@
 
 namespace quorvan {
 
-inline constexpr const char* kODRecordTypeUsers = "dsRecTypeStandard:Users";
-inline constexpr const char* kODRecordTypeGroups = "dsRecTypeStandard:Groups";
-inline constexpr const char* kODAttributeTypeRecordName = "dsAttrTypeStandard:RecordName";
-inline constexpr const char* kODAttributeTypeSMBSID = "dsAttrTypeStandard:SMBSID";
-inline constexpr const char* kODAttributeTypePrimaryNTDomain = "dsAttrTypeStandard:PrimaryNTDomain";
+using platform::kODAttributeTypePrimaryNTDomain;
+using platform::kODAttributeTypeRecordName;
+using platform::kODAttributeTypeRecordType;
+using platform::kODAttributeTypeSMBSID;
+using platform::kODRecordTypeGroups;
+using platform::kODRecordTypeUsers;
 
 /// Look-ups in Active Directory that share what they read about the machine, so that a list of many
 /// trustees reads it once. Each failure is logged; the user is warned of the first one only.

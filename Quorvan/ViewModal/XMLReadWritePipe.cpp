@@ -6,6 +6,7 @@
 #include "Common/ServerDetails.h"
 #include "Common/Utf8.h"
 #include "Platform/Services.h"
+#include "Platform/VolumesFolder.h"
 #include "Quorvan/ViewModal/ScopedPipe.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@
 namespace quorvan {
 namespace {
 
-const std::string volumes = "/Volumes";
+const std::string volumes = platform::volumesFolder;
 
 platform::NetworkFileSystem& network() {
     return *platform::services().network;

@@ -60,7 +60,7 @@ void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
         user->SID = std::move(*sid++);
         std::string name = lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypePrimaryNTDomain);
         name += '\\';
-        name += lookup.lookupAttrValueFromID(*user->SID, "dsAttrTypeStandard:RecordName");
+        name += lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypeRecordName);
         user->displayName = std::move(name);
     }
 }

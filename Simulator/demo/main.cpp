@@ -93,7 +93,8 @@ int walkThrough(const QString& folder, bool mainPagesOnly) {
 int open(const QString& user, const QString& path) {
     const quorvan::demo::Output output{
         QStandardPaths::writableLocation(QStandardPaths::CacheLocation), {}, {}};
-    std::printf("The log is in %s/Library/Logs/tarnix/Quorvan.log\n", qPrintable(output.folder));
+    std::printf("The log is in %s\n",
+                quorvan::AppDelegate::logFile((output.folder + "/Library").toStdString()).c_str());
     std::fflush(stdout);
     quorvan::demo::Stage stage(output,
                                quorvan::simulator::Embedded::demo(users.at(user), path.toStdString()));

@@ -45,7 +45,7 @@ struct FakeKeychain : platform::Keychain {
     std::map<std::string, platform::KeychainItem> items; ///< by server
     platform::KeychainResult findInternetPassword(const std::string& server) override {
         const auto item = items.find(server);
-        return item == items.end() ? platform::KeychainResult{-25300, {}}
+        return item == items.end() ? platform::KeychainResult{platform::errSecItemNotFound, {}}
                                    : platform::KeychainResult{0, item->second};
     }
 };

@@ -106,7 +106,7 @@ std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const s
     std::vector<std::string> sids;
     for (const std::string& name : BrowseLdapViewModal::getGroupMembership(id)) {
         std::string sid = BrowseLdapViewModal::getSidforObject(
-            name, std::string(UserQuotaConstants::ObjectTypes::GROUPS), "dsAttrTypeNative:distinguishedName");
+            name, std::string(UserQuotaConstants::ObjectTypes::GROUPS), platform::nativeDistinguishedName);
         if (!sid.empty())
             sids.push_back(std::move(sid));
     }
@@ -150,7 +150,7 @@ void GroupRightsViewController::addToDataSource(const std::vector<IdentityFileRi
     const DirectoryLookup directory;
     for (const auto& [id, rights] : arr) {
         if (domainIdentity == identityActiveDirectory) {
-            grpTrusteeList.push_back({directory.lookupAttrValueFromID(id, "dsAttrTypeStandard:RecordName"),
+            grpTrusteeList.push_back({directory.lookupAttrValueFromID(id, kODAttributeTypeRecordName),
                                       rights.fpath, rights.frights});
         } else if (domainIdentity == identityMorvane) {
             const auto group =

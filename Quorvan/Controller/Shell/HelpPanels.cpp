@@ -86,9 +86,7 @@ void showHelpPanel(QWidget* window) {
     content->addWidget(paragraph(L("Help_Editing_Label")));
     content->addWidget(heading(L("Help_Rights_Label")));
     content->addLayout(lettersOfTheRights());
-    auto* log = paragraph(
-        L("Help_Log_Label")
-            .arg(QString::fromStdString(AppDelegate::userLibraryDirectory() + "/Logs/tarnix/Quorvan.log")));
+    auto* log = paragraph(L("Help_Log_Label").arg(QString::fromStdString(AppDelegate::logFile())));
     log->setTextInteractionFlags(Qt::TextSelectableByMouse);
     content->addWidget(log);
     runPanel(panel, content);
