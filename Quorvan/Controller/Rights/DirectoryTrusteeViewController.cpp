@@ -93,14 +93,17 @@ void DirectoryTrusteeViewController::setChangesEnabled(bool enabled) {
 }
 
 void DirectoryTrusteeViewController::initTable(const std::string& path, Rows& list, bool subDirFlag) {
-    std::string other = path;
-    std::string& sent = subDirFlag ? selectedPath : other;
+    // Where a link leads the selection, the view follows; where one leads another path, it does not.
+    std::string otherServer = serverIP;
+    std::string otherPath = path;
+    std::string& server = subDirFlag ? serverIP : otherServer;
+    std::string& sent = subDirFlag ? selectedPath : otherPath;
     std::vector<std::string> identityTypes = {domainIdentity};
     if (Shared::value().bothID)
         identityTypes = {std::string(identityActiveDirectory), std::string(identityMorvane)};
     std::int32_t status = 0; // of the last one, which alone tells whether the load has failed
     for (const std::string& identityType : identityTypes)
-        status = renewController().getIRRequestHandleDFS(serverIP, list, mappedPath, sent, identityType);
+        status = renewController().getIRRequestHandleDFS(server, list, mappedPath, sent, identityType);
     if (status == 0)
         return;
     reportFailedStatus(status);

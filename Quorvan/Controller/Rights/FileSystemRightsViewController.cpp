@@ -210,8 +210,12 @@ void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
         for (const TrackedRights& change : trackfrightsList) {
             const Trustees trustee(namefield->text().toStdString(), selectedTrusteeID, change.rights->frights,
                                    change.status, "", "");
-            std::string path = change.rights->fpath; // a link on it must not move the selection
-            renewController().setTrusteeHandleDFS(serverIP, mappedPath, path, trustee, domainIdentity);
+            // A link on the way to this path leads this change elsewhere, but not the page, nor the changes
+            // after it.
+            std::string server = serverIP;
+            std::string mapped = mappedPath;
+            std::string path = change.rights->fpath;
+            renewController().setTrusteeHandleDFS(server, mapped, path, trustee, domainIdentity);
         }
         trackfrightsList.clear();
         initFSRRightsTable(selectedTrusteeID);
