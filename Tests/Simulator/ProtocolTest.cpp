@@ -3,15 +3,12 @@
 #include "Simulator/DemoData.h"
 #include "Simulator/SocketServer.h"
 #include "Tests/Simulator/SmallServer.h"
+#include "Tests/Support/Socket.h"
 
 #include <gmock/gmock.h>
 
 #include <atomic>
 #include <thread>
-
-#include <arpa/inet.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace quorvan::simulator {
 namespace {
@@ -112,30 +109,24 @@ TEST_F(Protocol, Misbehaves) {
     expect({{"read|99", "error 4\n"}, {"read|99", "<adminRep"}, {"read|99", "hung up"}});
 }
 
-int connectTo(std::uint16_t port) {
-    sockaddr_in address{AF_INET, htons(port), {htonl(INADDR_LOOPBACK)}, {}};
-    const int descriptor = ::socket(AF_INET, SOCK_STREAM, 0);
-    EXPECT_EQ(::connect(descriptor, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-    return descriptor;
-}
-
 /// All that comes back before the server hangs up, which it does by itself or when the lines end.
 std::string answersTo(std::uint16_t port, const std::string& lines, bool linesEnd = true) {
-    const int descriptor = connectTo(port);
-    ::send(descriptor, lines.data(), lines.size(), MSG_NOSIGNAL);
+    const test::Socket client;
+    EXPECT_TRUE(client.connect("127.0.0.1", port));
+    client.send(lines);
     if (linesEnd)
-        ::shutdown(descriptor, SHUT_WR);
+        client.shutDown(SHUT_WR);
     std::string answers;
-    for (char c = 0; ::recv(descriptor, &c, 1, 0) == 1;)
-        answers += c;
-    ::close(descriptor);
+    for (std::string some = client.receive(100); !some.empty(); some = client.receive(100))
+        answers += some;
     return answers;
 }
 
 TEST_F(Protocol, ServesManyConnectionsAtOnce) {
     SocketServer sockets(server, [] {});
     ASSERT_TRUE(sockets.start());
-    const int idle = connectTo(sockets.port());
+    const test::Socket idle;
+    EXPECT_TRUE(idle.connect("127.0.0.1", sockets.port()));
     const std::string lines =
         "open\trvogt\tIPC$\tZelSmbPipe\nwrite\t0\t42\n" + userTypeRequest + "read\t10\nnonsense\n";
     std::atomic<int> answered = 0;
@@ -152,9 +143,7 @@ TEST_F(Protocol, ServesManyConnectionsAtOnce) {
     EXPECT_EQ(answersTo(sockets.port(), "write\t0\t18446744073709551615\n", false), "");
     EXPECT_EQ(answersTo(sockets.port(), std::string(200000, 'x'), false), "");
     sockets.stop();
-    char byte = 0;
-    EXPECT_EQ(::recv(idle, &byte, 1, 0), 0) << "hung up";
-    ::close(idle);
+    EXPECT_EQ(idle.receive(1), "") << "hung up";
 }
 
 } // namespace
