@@ -55,23 +55,19 @@ TEST_F(FileSystemRightsTest, SendsOneRequestForEachChangeInTheOrderOfTheEdits) {
     EXPECT_THAT(alerts(), IsEmpty());
 
     addPaths({"Current Project"}); // a link
-    act("applyBtn");
-    EXPECT_EQ(changes().front(), "add admin VOL1:\\Current Project");
+    EXPECT_EQ(act("applyBtn").changes().front(), "add admin VOL1:\\Current Project");
     EXPECT_EQ(view<Page>().selectedPath, box) << "where a change leads, the selection does not follow";
     EXPECT_THAT(rows(), SizeIs(3));
 
-    act("tick 0R, revertBtn");
-    EXPECT_EQ(rows()[0], "Box RF");
+    EXPECT_EQ(act("tick 0R, revertBtn").rows()[0], "Box RF");
     EXPECT_FALSE(changesEnabled());
     act("removeBtn, applyBtn"); // nothing is selected, and nothing pending
     EXPECT_FALSE(changesEnabled());
     act("tick 0R");
     take("selectUserBtn", "Users_Title", meridal, {"Zoe"}); // drops what is pending
-    act("header, header");
-    EXPECT_THAT(rows(), ElementsAre("Box\\Low RWECMFA", "Box"));
+    EXPECT_THAT(act("header, header").rows(), ElementsAre("Box\\Low RWECMFA", "Box"));
     addPaths({"Tests"});
-    act("applyBtn");
-    EXPECT_THAT(changes(), ElementsAre("add Zoe VOL1:\\Tests"));
+    EXPECT_THAT(act("applyBtn").changes(), ElementsAre("add Zoe VOL1:\\Tests"));
 
     breakPipes();
     view<Page>().onReturnMorvaneSelectedUser({});
@@ -94,8 +90,7 @@ TEST_F(FileSystemRightsTest, TheFolderBrowserHandsOnWhatIsSelectedInTheOrderOfTh
     std::ofstream(volume / "latin-\xFC");
     std::filesystem::create_symlink("nowhere", volume / "dangling");
     openFor("admin");
-    act("addBtn");
-    EXPECT_EQ(value("pathController"), "/Volumes/VOL1");
+    EXPECT_EQ(act("addBtn").value("pathController"), "/Volumes/VOL1");
     EXPECT_FALSE(isShown("notMountedLabel") || isEnabled("selectBtn"));
 
     auto& tree = control<QTreeView>("fileBrowser");
@@ -181,15 +176,12 @@ TEST_F(FileSystemRightsTest, GroupRightsOfEitherDirectoryAppearWithEveryAppearan
     EXPECT_THAT(rows(), ElementsAre(">Staff Box\\Low RMF"));
     view<GroupRightsViewController>().viewWillAppear();
     EXPECT_THAT(rows(), ElementsAre("Staff Box\\Low RMF", "Staff Box\\Low RMF"));
-    act("type searchField zzz");
-    EXPECT_THAT(rows(), IsEmpty());
-    act("type searchField st?ff");
-    EXPECT_THAT(rows(), SizeIs(2));
+    EXPECT_THAT(act("type searchField zzz").rows(), IsEmpty());
+    EXPECT_THAT(act("type searchField st?ff").rows(), SizeIs(2));
 
     open("files", demo::supervisorTree);
     take("selectUserBtn", "Users_Title", verlag, {"CN=Eve.OU=Verlag.O=Meridal"});
-    act("grpBtn");
-    EXPECT_THAT(rows(), ElementsAre(".CN=Choir.OU=Verlag.O=Meridal.MERIDAL-TREE. Box RF"));
+    EXPECT_THAT(act("grpBtn").rows(), ElementsAre(".CN=Choir.OU=Verlag.O=Meridal.MERIDAL-TREE. Box RF"));
     auto& groups = view<GroupRightsViewController>();
     EXPECT_THAT(groups.grpIDs, ElementsAre("guid-choir"));
     groups.grouplist.clear();

@@ -16,10 +16,7 @@ const std::string redaktion = "CN=Redaktion.OU=Verlag.O=Meridal";
 
 struct IdentityBrowsersTest : WindowTest {
     RightsTabViewController& tab() { return view<RightsTabViewController>(); }
-    void openAndAdd(const char* user = demo::supervisor) {
-        open("rights", user);
-        act("addBtn");
-    }
+    void openAndAdd(const char* user = demo::supervisor) { open("rights", user).act("addBtn"); }
 };
 
 TEST_F(IdentityBrowsersTest, ListsOneCategoryOfTheTreeBelowABase) {
@@ -38,23 +35,18 @@ TEST_F(IdentityBrowsersTest, ListsOneCategoryOfTheTreeBelowABase) {
     EXPECT_THAT(rows(), ElementsAre("CN=Étienne Marchand.OU=Verlag.O=Meridal"));
     act("pick 0, type searchField MARCHAND, key Return");
     EXPECT_EQ(title(), "Browse_Morvane_Title") << "Return in a field closed the sheet";
-    act("key Escape");
-    EXPECT_EQ(rows(), users);
+    EXPECT_EQ(act("key Escape").rows(), users);
 
-    act("type searchField a, choose userTypePopUp Groups_Title");
-    EXPECT_EQ(value("searchField"), "");
+    EXPECT_EQ(act("type searchField a, choose userTypePopUp Groups_Title").value("searchField"), "");
     EXPECT_THAT(rows(), IsEmpty());
-    act("btnFetch");
-    EXPECT_THAT(rows(), Contains(redaktion));
+    EXPECT_THAT(act("btnFetch").rows(), Contains(redaktion));
     EXPECT_TRUE(control("userListTable").hasFocus()) << "Fetch went grey under the keyboard";
     act("type searchField redak"); // of the groups, not of the users that were searched before
     EXPECT_THAT(rows(), ElementsAre(redaktion));
     act("type treeTextField .OU=Leitung.O=Meridal., type searchField red");
     EXPECT_THAT(rows(), IsEmpty()) << "they are not below the new base";
-    act("btnFetch, type searchField ");
-    EXPECT_EQ(emptyText(), "no groups below .OU=Leitung.O=Meridal.");
-    act("cancelButton, addBtn");
-    EXPECT_EQ(value("treeTextField"), ".OU=Leitung.O=Meridal.");
+    EXPECT_EQ(act("btnFetch, type searchField ").emptyText(), "no groups below .OU=Leitung.O=Meridal.");
+    EXPECT_EQ(act("cancelButton, addBtn").value("treeTextField"), ".OU=Leitung.O=Meridal.");
     act("choose userTypePopUp Containers_Title, type treeTextField .OU=Nowhere.O=Meridal., key Return");
     EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed")) << "there is no such base";
     breakPipes();
@@ -76,13 +68,11 @@ TEST_F(IdentityBrowsersTest, AddsTreeUsersAndSaysOnceWhoIsThereAlready) {
     EXPECT_EQ(title(), "Browse_Morvane_Title") << "a refused answer leaves the sheet open";
     EXPECT_THAT(alerts(), ElementsAre("Err_Msg_Duplicate_Trustee")) << "one message for all of them";
     EXPECT_THAT(log.take(), Contains("Trustee is already present"));
-    act("selectButton, cancelButton");
-    EXPECT_THAT(alerts(), SizeIs(1));
+    EXPECT_THAT(act("selectButton, cancelButton").alerts(), SizeIs(1));
     EXPECT_EQ(rows().size(), users.size() - 1) << "Vera is a trustee, and the twins are one";
     EXPECT_TRUE(changesEnabled());
     EXPECT_EQ(trusteeIconName(tab().editedTrusteeList.back()->trusteeType), std::string("user_Morvane"));
-    act("applyBtn");
-    EXPECT_EQ(rightsOnServer("guid-one"), 0x41);
+    EXPECT_EQ(act("applyBtn").rightsOnServer("guid-one"), 0x41);
     EXPECT_EQ(rows().size(), users.size() - 1);
 }
 
@@ -100,24 +90,18 @@ TEST_F(IdentityBrowsersTest, ListsADomainOfActiveDirectoryAndAsksItAnewToSearch)
     EXPECT_THAT(groups, testing::AllOf(SizeIs(demo::secondForestGroups), Contains(demo::groupWithoutSid)));
     auto& directory = world.directory->state();
     const auto queries = directory.queries;
-    act("type searchField gJEST");
-    EXPECT_EQ(rows(), groups) << "it is not asked for each letter";
-    act("key Return");
-    EXPECT_THAT(rows(), ElementsAre(demo::groupWithoutSid));
+    EXPECT_EQ(act("type searchField gJEST").rows(), groups) << "it is not asked for each letter";
+    EXPECT_THAT(act("key Return").rows(), ElementsAre(demo::groupWithoutSid));
     EXPECT_EQ(directory.queries, queries + 1);
     act("type searchField fyr");
     EXPECT_TRUE(QTest::qWaitFor([this] { return rows().front() == "Fyrvæsen"; }));
-    act("key Escape");
-    EXPECT_EQ(rows(), groups);
+    EXPECT_EQ(act("key Escape").rows(), groups);
 
     directory.failQueries = true;
-    act("type searchField x, key Return");
-    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_THAT(act("type searchField x, key Return").rows(), IsEmpty());
     EXPECT_THAT(alerts(), ElementsAre("Warning_Title: Err_AD_Connect"));
-    act("choose domainPopUp /Active Directory/FJERNØY");
-    EXPECT_EQ(value("searchField"), "");
-    act("btnFetch");
-    EXPECT_EQ(emptyText(), "/Active Directory/FJERNØY is silent");
+    EXPECT_EQ(act("choose domainPopUp /Active Directory/FJERNØY").value("searchField"), "");
+    EXPECT_EQ(act("btnFetch").emptyText(), "/Active Directory/FJERNØY is silent");
     EXPECT_THAT(alerts(), IsEmpty()) << "a listing that fails is only logged";
     EXPECT_THAT(log.take(), Contains("Error in Open Directory Session - 113"));
 }
@@ -165,8 +149,7 @@ TEST_F(IdentityBrowsersTest, AnswersTheViewThatAskedAsLongAsItExists) {
     EXPECT_EQ(title(), "Browse_AD_Title") << "nothing was selected";
     act("pick 1");
     passing.reset();
-    act("selectButton");
-    EXPECT_EQ(title(), "Trustee_Rights_Title");
+    EXPECT_EQ(act("selectButton").title(), "Trustee_Rights_Title");
     EXPECT_THAT(rows(), SizeIs(5)) << "there is no view to answer to";
 }
 
@@ -174,8 +157,7 @@ TEST_F(IdentityBrowsersTest, AsksForTheDirectoryWhereBothAreShown) {
     Shared::value().bothID = true;
     openAndAdd();
     EXPECT_EQ(value("ADBtn", "checked"), "true");
-    act("MorvaneBtn");
-    EXPECT_EQ(value("ADBtn", "checked"), "false");
+    EXPECT_EQ(act("MorvaneBtn").value("ADBtn", "checked"), "false");
     act("CancelBtn");
     EXPECT_EQ(tab().domainIdentity, "ActiveDirectory");
     act("addBtn, key Up, key Return");
@@ -197,8 +179,7 @@ TEST_F(IdentityBrowsersTest, PicksFromTheSingleForestByName) {
     openAndAdd();
     EXPECT_EQ(control<QListWidget>("userTypeTable").count(), 2);
     EXPECT_EQ(rows("userListTable").front(), demo::supervisor);
-    act("type searchField t, key Return");
-    EXPECT_THAT(rows("userListTable"), Contains(demo::accessControl));
+    EXPECT_THAT(act("type searchField t, key Return").rows("userListTable"), Contains(demo::accessControl));
     act("pick:userListTable 0");
     control("userTypeTable").setFocus();
     act("key Down");
@@ -206,15 +187,13 @@ TEST_F(IdentityBrowsersTest, PicksFromTheSingleForestByName) {
     EXPECT_FALSE(isEnabled("selectButton"));
     act("type searchField ");
     EXPECT_EQ(rows("userListTable").front(), "Festival Team") << "the groups come back, not the users";
-    act("pick:userListTable 0, selectButton");
-    EXPECT_EQ(rows()[4], "Festival Team RF");
+    EXPECT_EQ(act("pick:userListTable 0, selectButton").rows()[4], "Festival Team RF");
     EXPECT_EQ(tab().editedTrusteeList.back()->trusteeID,
               world.identities->findByName("Festival Team").front()->id);
 
     act("addBtn");
     world.directory->state().bound = false;
-    act("type searchField x, key Return");
-    EXPECT_THAT(rows("userListTable"), IsEmpty());
+    EXPECT_THAT(act("type searchField x, key Return").rows("userListTable"), IsEmpty());
     EXPECT_THAT(log.take(), Contains("Could not find a Active Directory on the server"));
     EXPECT_THAT(alerts(), IsEmpty());
 }

@@ -57,12 +57,10 @@ TEST_F(MainWindowTest, OpensWithoutAnAnswerAndAsksAgainOnRequest) {
         EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
         EXPECT_THAT(log.take(), Contains(line));
         EXPECT_EQ(reached(), "tryAgainBtn") << "no view could say whose rights it shows";
-        act("tryAgainBtn");
-        EXPECT_FALSE(isEnabled("TrusteeRightsView"));
+        EXPECT_FALSE(act("tryAgainBtn").isEnabled("TrusteeRightsView"));
         mend();
         forgetServer();
-        act("tryAgainBtn");
-        EXPECT_TRUE(isEnabled("TrusteeRightsView") && !isShown("tryAgainBtn"));
+        EXPECT_TRUE(act("tryAgainBtn").isEnabled("TrusteeRightsView") && !isShown("tryAgainBtn"));
         alerts();
     }
     breakPipes();
@@ -83,13 +81,11 @@ TEST_F(MainWindowTest, LeadsToEveryPageByKeyAndBackAskingAnew) {
     for (int number = 0; const auto& page : pages) {
         for (int step = 0; step < number; ++step)
             act("key Tab");
-        act("key Return");
-        EXPECT_EQ(title(), page.title);
+        EXPECT_EQ(act("key Return").title(), page.title);
         EXPECT_EQ(window->size(), window->sizeHint().boundedTo(window->screen()->availableSize()));
         const QPointer<QWidget> left = window->container->childControllers().front();
         defaultOf("loggedUserType") = "Morvane";
-        act(page.close);
-        EXPECT_EQ(title(), "Rights Management");
+        EXPECT_EQ(act(page.close).title(), "Rights Management");
         EXPECT_EQ(defaultOf("loggedUserType"), "ActiveDirectory");
         EXPECT_TRUE(control("TrusteeRightsView").hasFocus() && left.isNull());
         EXPECT_EQ(requestsTo("/ZelSmbPipe"), static_cast<std::size_t>(++number) + 1);
@@ -109,19 +105,16 @@ TEST_F(MainWindowTest, LoadsATabAnewOnEachVisit) {
     const std::size_t loads = requestsTo("/FilesCmdPipe");
     act("tab 2");
     EXPECT_EQ(requestsTo("/FilesCmdPipe"), loads + 2) << "the user's own rights, and those of all trustees";
-    act("tab 0");
-    EXPECT_EQ(requestsTo("/FilesCmdPipe"), 2 * loads + 2);
+    EXPECT_EQ(act("tab 0").requestsTo("/FilesCmdPipe"), 2 * loads + 2);
 }
 
 TEST_F(MainWindowTest, SettingsSwitchBothDirectoriesOnAndOutliveThePage) {
     for (const auto& [user, text, before] : {std::tuple{demo::supervisor, "Morvane_Trustee_Label", false},
                                              {demo::accessControlTree, "AD_Trustee_Label", true}}) {
-        open("settings", user);
-        EXPECT_EQ(value("ListBoth"), text);
+        EXPECT_EQ(open("settings", user).value("ListBoth"), text);
         EXPECT_EQ(value("ListBoth", "checked"), before ? "true" : "false");
         EXPECT_EQ(value("LogInfoLabel"), "/Users/<username>/Library/Logs/tarnix");
-        act("ListBoth, CloseBtn, TrusteeRightsView");
-        EXPECT_THAT(rows(), SizeIs(before ? 1 : 5));
+        EXPECT_THAT(act("ListBoth, CloseBtn, TrusteeRightsView").rows(), SizeIs(before ? 1 : 5));
     }
 }
 
@@ -150,16 +143,14 @@ TEST_F(MainWindowTest, LeadsToTheDeletedFilesAndSendsNothing) {
     openWindow();
     for (const auto& [entry, expected] :
          {std::pair{"SalvageView", "Salvage_Title"}, {"PurgeView", "Purge_Title"}}) {
-        act(entry);
-        EXPECT_EQ(value("deletedFileButton"), expected);
+        EXPECT_EQ(act(entry).value("deletedFileButton"), expected);
         for (const char* button : {"deletedFileButton", "moreInfoButton"}) {
             act(button);
             EXPECT_EQ(title() + value("actionButton"), std::string("More_Information_Title") + expected);
             act("cancelButton");
         }
         EXPECT_EQ(title(), expected);
-        act("closeButton");
-        EXPECT_EQ(title(), "Rights Management");
+        EXPECT_EQ(act("closeButton").title(), "Rights Management");
     }
     EXPECT_EQ(world.server->requestCount(), requestsTo("/ZelSmbPipe")) << "more than who is logged in";
     const SalvagePurgeSegueController unnamed(std::nullopt, nullptr, nullptr);

@@ -10,56 +10,52 @@
 namespace quorvan::test {
 namespace {
 
-using PagesTest = WindowTest;
+struct PagesTest : WindowTest {
+    /// The rows of a table in text, their cells separated by bars.
+    static std::vector<Texts> tableOf(const char* text) {
+        std::vector<Texts> table;
+        for (const QString& line : QString(text).split('\n', Qt::SkipEmptyParts)) {
+            table.emplace_back();
+            for (const QString& cell : line.split('|'))
+                table.back().push_back(cell.trimmed().toStdString());
+        }
+        return table;
+    }
+};
 
 TEST_F(PagesTest, OfferWhatTheUsersOwnRightsAllow) {
-    const std::string filter =
-        "readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF closeBtn tabs";
-    const std::string folders =
-        "searchInSubField subdirTable removeBtnSub searchInParentField parentdirTable "
-        "removeBtnParent closeBtn tabs";
-    const std::string attributes = "tabs readChk hideChk archiveChk purgeImmediateChk renameInhibitChk "
-                                   "deleteInhibitChk immediateCompressChk closeButton";
-    const struct {
-        const char* page;
-        std::string supervisor, accessControl, readOnly;
-        std::string
-            withoutAdding; ///< a supervisor, where both directories are on show but not to choose from
-    } cases[] = {
-        {"rights", "rightsTable addBtn removeBtn closeBtn tabs searchField",
-         "rightsTable addBtn removeBtn closeBtn tabs searchField",
-         "rightsTable closeBtn tabs searchField read-only",
-         "rightsTable removeBtn closeBtn tabs searchField"},
-        {"inherited", filter, filter, "closeBtn tabs read-only", filter},
-        {"effective", "searchField effRightsTable selectUserBtn closeBtn tabs",
-         "searchField effRightsTable selectUserBtn closeBtn tabs", "searchField effRightsTable closeBtn tabs",
-         "searchField effRightsTable closeBtn tabs"},
-        {"folders", folders, folders,
-         "searchInSubField subdirTable searchInParentField parentdirTable closeBtn tabs read-only", folders},
-        {"files", "selectUserBtn fsrTable cancelBtn", "fsrTable cancelBtn read-only",
-         "fsrTable cancelBtn read-only", "fsrTable cancelBtn"},
-        {"quota", "userQuotaTable addUQButton editUQButton removeUQButton closeButton searchField",
-         "userQuotaTable closeButton searchField read-only",
-         "userQuotaTable closeButton searchField read-only",
-         "userQuotaTable removeUQButton closeButton searchField"},
-        {"information", attributes + " changeOwnerButton", attributes + " read-only",
-         attributes + " read-only", attributes},
-        {"settings", "ListBoth CloseBtn", "ListBoth CloseBtn", "CloseBtn read-only", "ListBoth CloseBtn"},
+    // What a supervisor reaches, and what another loses or gets: one with Access Control, one who may only
+    // read, and a supervisor where both directories are on show but not to choose from.
+    const auto cases = tableOf(R"(
+rights      | rightsTable addBtn removeBtn closeBtn tabs searchField | | addBtn removeBtn read-only | addBtn
+inherited   | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF closeBtn tabs | | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF read-only |
+effective   | searchField effRightsTable selectUserBtn closeBtn tabs | | selectUserBtn | selectUserBtn
+folders     | searchInSubField subdirTable removeBtnSub searchInParentField parentdirTable removeBtnParent closeBtn tabs | | removeBtnSub removeBtnParent read-only |
+files       | selectUserBtn fsrTable cancelBtn | selectUserBtn read-only | selectUserBtn read-only | selectUserBtn
+quota       | userQuotaTable addUQButton editUQButton removeUQButton closeButton searchField | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton
+information | tabs readChk hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton changeOwnerButton | changeOwnerButton read-only | changeOwnerButton read-only | changeOwnerButton
+settings    | ListBoth CloseBtn | | ListBoth read-only |
+)");
+    const auto changed = [](const std::string& controls, const std::string& by) {
+        QStringList names = QString::fromStdString(controls).split(' ');
+        for (const QString& name : QString::fromStdString(by).split(' ', Qt::SkipEmptyParts))
+            if (names.removeAll(name) == 0)
+                names.append(name);
+        return names.join(' ').toStdString();
     };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.page);
+    for (const Texts& each : cases) {
+        SCOPED_TRACE(each[0]);
+        const char* page = each[0].c_str();
         bundle->features->at("addBothTrustees") = true;
-        for (const auto& [user, expected] : {std::pair{demo::supervisor, each.supervisor},
-                                             {demo::accessControl, each.accessControl},
-                                             {demo::readOnly, each.readOnly},
-                                             {demo::supervisorTree, each.supervisor},
-                                             {demo::readOnlyTree, each.readOnly}}) {
-            open(each.page, user);
-            EXPECT_EQ(reached(), expected) << user;
-        }
+        for (const auto& [user, change] : {std::pair{demo::supervisor, ""},
+                                           {demo::accessControl, each[2].c_str()},
+                                           {demo::readOnly, each[3].c_str()},
+                                           {demo::supervisorTree, ""},
+                                           {demo::readOnlyTree, each[3].c_str()}})
+            EXPECT_EQ(open(page, user).reached(), changed(each[1], change)) << user;
         bundle->features->at("addBothTrustees") = false;
-        open(each.page, demo::supervisor, [] { Shared::value().bothID = true; });
-        EXPECT_EQ(reached(), each.withoutAdding);
+        open(page, demo::supervisor, [] { Shared::value().bothID = true; });
+        EXPECT_EQ(reached(), changed(each[1], each[4]));
         Shared::value().bothID = false;
         EXPECT_THAT(alerts(), IsEmpty());
     }
@@ -76,8 +72,8 @@ TEST_F(PagesTest, TakeTicksAndSelectionAsTheUsersOwnRightsAllow) {
         for (const auto& [user, expected] : {std::pair{demo::supervisor, each.supervisor},
                                              {demo::accessControl, each.accessControl},
                                              {demo::readOnly, each.readOnly}}) {
-            open(each.page, user);
-            act(std::string("pick:") + each.table + " 1, tick:" + each.table + " 1W 1S");
+            open(each.page, user)
+                .act(std::string("pick:") + each.table + " 1, tick:" + each.table + " 1W 1S");
             EXPECT_EQ(rows(each.table)[1], expected) << each.page;
         }
 }
@@ -87,8 +83,8 @@ TEST_F(PagesTest, ReportEveryFailureToLoadAndLeadBack) {
     enum Failure { noPipe, noPassword, refused };
     const struct {
         const char *page, *title;
-        const char* alerts[3]; ///< for each failure: f for one that failed, k for a missing password
-        const char* ofBoth[3]; ///< … with both directories on show
+        std::array<const char*, 3> alerts; ///< of each failure: f for what failed, k for a missing password
+        std::array<const char*, 3> ofBoth; ///< … with both directories on show
     } cases[] = {
         {"rights", "Rights Management", {"ff", "kf", "f"}, {"fff", "kkf", "ff"}},
         {"inherited", "Trustee_Rights_Title", {"", "", ""}, {"", "", ""}},
@@ -99,6 +95,7 @@ TEST_F(PagesTest, ReportEveryFailureToLoadAndLeadBack) {
         {"information", "Information_Title", {"ffff", "kkkk", "ffff"}, {"ffff", "kkkk", "ffff"}},
         {"settings", "Rights Management", {"ff", "kf", "f"}, {"ff", "kf", "f"}},
     };
+    const std::map<std::string, char> letters{{"Err_Operation_Failed", 'f'}, {"Err_Keychain_Not_Found", 'k'}};
     for (const auto& each : cases)
         for (const bool both : {false, true})
             for (const Failure failure : {noPipe, noPassword, refused}) {
@@ -116,16 +113,14 @@ TEST_F(PagesTest, ReportEveryFailureToLoadAndLeadBack) {
                 EXPECT_EQ(title(), each.title);
                 std::string reported;
                 for (const std::string& message : alerts())
-                    reported += message == "Err_Operation_Failed"     ? 'f'
-                                : message == "Err_Keychain_Not_Found" ? 'k'
-                                                                      : '?';
+                    reported += letters.at(message);
                 EXPECT_EQ(reported, (both ? each.ofBoth : each.alerts)[failure]);
-                const char* line[] = {"Failed with err - -1", "Failed with err - -25300",
-                                      "Failed with err - 1"};
+                const char* code[] = {"-1", "-25300", "1"};
                 // The directory quota leaves a line without credentials, too.
                 const bool isQuota = failure == noPassword && each.page == std::string_view("information");
                 const auto lines = std::ranges::count(reported, 'f') + (isQuota ? 1 : 0);
-                EXPECT_THAT(log.take(), Contains(line[failure]).Times(static_cast<int>(lines)));
+                EXPECT_THAT(log.take(), Contains(std::string("Failed with err - ") + code[failure])
+                                            .Times(static_cast<int>(lines)));
                 EXPECT_EQ(world.network->openDescriptors(), 0U);
                 mend();
             }
@@ -144,10 +139,9 @@ TEST_F(PagesTest, EndTheProgramWithoutAFeature) {
     for (const auto& [page, features] : cases)
         for (const char* key : features) {
             const auto openWith = [&, where = page](const std::function<void()>& fault) {
-                if (*where != '\0')
-                    return open(where, demo::supervisor, fault);
-                fault();
-                openWindow();
+                if (*where == '\0')
+                    return fault(), openWindow();
+                open(where, demo::supervisor, fault);
             };
             EXPECT_DEATH(openWith([&] { bundle->features->erase(key); }), key);
             EXPECT_DEATH(openWith([&] { bundle->features->at(key).reset(); }), "is not a Boolean");
@@ -167,77 +161,9 @@ TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
     const auto texts = std::make_shared<RealTexts>();
     services.bundle = texts;
     const platform::ScopedServices real(services);
-    const struct {
-        const char* page;
-        std::initializer_list<const char*> clicks; ///< that lead to a sheet, or switch more controls on
-        const char* reached;
-        const char* user = demo::supervisor;
-        std::function<void()> setting = [] {};
-    } places[] = {
-        {"",
-         {},
-         "TrusteeRightsView FileSystemRightsView UserQuotaView DirectoryQuotaView SettingView SalvageView "
-         "PurgeView"},
-        {"", {"PurgeView"}, "deletedFileButton moreInfoButton closeButton"},
-        {"", {"SalvageView", "moreInfoButton"}, "cancelButton"},
-        {"rights",
-         {"removeBtn"},
-         "removeBtn revertBtn applyBtn closeBtn tabs searchField rightsTable addBtn"},
-        {"inherited",
-         {"readIRF"},
-         "readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF revertBtn applyBtn closeBtn tabs"},
-        {"effective", {}, "searchField effRightsTable selectUserBtn closeBtn tabs"},
-        {"folders",
-         {"removeBtnSub"},
-         "removeBtnSub searchInParentField parentdirTable removeBtnParent revertbtn applybtn closeBtn tabs "
-         "searchInSubField subdirTable"},
-        {"files",
-         {"removeBtn"},
-         "removeBtn cancelBtn revertBtn applyBtn selectUserBtn grpBtn fsrTable addBtn"},
-        {"files", {"addBtn"}, "fileBrowser cancelBtn"},
-        {"files", {"grpBtn"}, "groupRightsTable closeBtn searchField"},
-        {"quota",
-         {"removeUQButton"},
-         "removeUQButton closeButton revert applyButton searchField userQuotaTable addUQButton editUQButton"},
-        {"quota",
-         {"addUQButton"},
-         "selectTrusteeBtn quotaLimitTextField selectUnit cancelBtn okBtn userList"},
-        {"information",
-         {"hideChk"},
-         "hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk "
-         "closeButton applyButton changeOwnerButton tabs readChk"},
-        {"limit",
-         {"editLimitBtn"},
-         "dirQuotaLimit selectUnit removeLimitBtn closeButton applyButton changeOwnerButton tabs",
-         demo::supervisor,
-         [&] { select("VOL1/Projects/Aurora"); }},
-        {"settings", {}, "ListBoth CloseBtn"},
-        {"rights", {"addBtn"}, "userTypePopUp domainPopUp userListTable cancelButton"},
-        {"rights",
-         {"addBtn"},
-         "userTypePopUp treeTextField searchField userListTable cancelButton",
-         demo::supervisorTree},
-        {"rights",
-         {"addBtn"},
-         "ADBtn OkBtn CancelBtn",
-         demo::supervisor,
-         [] { Shared::value().bothID = true; }},
-        {"rights",
-         {"addBtn"},
-         "searchField userListTable cancelButton userTypeTable",
-         demo::supervisor,
-         [&] { texts->features->at("multiForest") = false; }},
-    };
-    for (const auto& place : places) {
-        SCOPED_TRACE(place.reached);
-        Shared::value().bothID = false;
-        place.setting();
-        *place.page == '\0' ? openWindow() : open(place.page, place.user);
-        if (place.page == std::string_view("files"))
-            take("selectUserBtn", "Users", meridal, {"admin"});
-        for (const char* control : place.clicks)
-            click(control);
-        EXPECT_EQ(reached(), place.reached);
+    const auto expectNamed = [this](const std::string& expected) {
+        SCOPED_TRACE(expected);
+        EXPECT_EQ(reached(), expected);
         QString mnemonics;
         for (QWidget* each : front().findChildren<QWidget*>()) {
             if (!each->isVisible() || !each->isEnabled() || (each->focusPolicy() & Qt::TabFocus) == 0)
@@ -252,7 +178,42 @@ TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
             EXPECT_FALSE(isButton && !letter.isEmpty() && mnemonics.contains(letter)) << text.toStdString();
             mnemonics += isButton ? letter : QString();
         }
+    };
+    // The script switches more controls on, or leads to a sheet.
+    const auto places = tableOf(R"(
+inherited   | readIRF | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF revertBtn applyBtn closeBtn tabs
+effective   | key Ctrl+F | searchField effRightsTable selectUserBtn closeBtn tabs
+folders     | removeBtnSub | removeBtnSub searchInParentField parentdirTable removeBtnParent revertbtn applybtn closeBtn tabs searchInSubField subdirTable
+files       | removeBtn | removeBtn cancelBtn revertBtn applyBtn selectUserBtn grpBtn fsrTable addBtn
+files       | addBtn | fileBrowser cancelBtn
+files       | grpBtn | groupRightsTable closeBtn searchField
+quota       | removeUQButton | removeUQButton closeButton revert applyButton searchField userQuotaTable addUQButton editUQButton
+quota       | addUQButton | selectTrusteeBtn quotaLimitTextField selectUnit cancelBtn okBtn userList
+information | hideChk | hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton applyButton changeOwnerButton tabs readChk
+limit       | editLimitBtn | dirQuotaLimit selectUnit removeLimitBtn closeButton applyButton changeOwnerButton tabs
+settings    | key Tab | CloseBtn ListBoth
+settings    | CloseBtn | TrusteeRightsView FileSystemRightsView UserQuotaView DirectoryQuotaView SettingView SalvageView PurgeView
+settings    | CloseBtn, PurgeView | deletedFileButton moreInfoButton closeButton
+settings    | CloseBtn, SalvageView, moreInfoButton | cancelButton
+rights      | removeBtn | removeBtn revertBtn applyBtn closeBtn tabs searchField rightsTable addBtn
+rights      | addBtn | userTypePopUp domainPopUp userListTable cancelButton
+)");
+    select("VOL1/Projects/Aurora");
+    for (const Texts& place : places) {
+        open(place[0].c_str());
+        if (place[0] == "files")
+            take("selectUserBtn", "Users", meridal, {"admin"});
+        act(place[1]);
+        expectNamed(place[2]);
     }
+    open("rights", demo::supervisorTree).act("addBtn");
+    expectNamed("userTypePopUp treeTextField searchField userListTable cancelButton");
+    texts->features->at("multiForest") = false;
+    open("rights").act("addBtn");
+    expectNamed("searchField userListTable cancelButton userTypeTable");
+    Shared::value().bothID = true;
+    open("rights").act("addBtn");
+    expectNamed("ADBtn OkBtn CancelBtn");
 }
 
 } // namespace

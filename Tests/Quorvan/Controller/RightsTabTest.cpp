@@ -8,13 +8,11 @@ namespace {
 using RightsTabTest = WindowTest;
 
 TEST_F(RightsTabTest, SendsOneChangeForEachTrusteeInOneRequest) {
-    open("rights");
-    EXPECT_THAT(rows(), ElementsAre("Müller SRWECMFA", "admin RF", "Zoe", "ADMIN RWECMFA"));
+    EXPECT_THAT(open("rights").rows(), ElementsAre("Müller SRWECMFA", "admin RF", "Zoe", "ADMIN RWECMFA"));
     act("tick 0R 2S 0R 0A"); // S implies no other right
     EXPECT_THAT(changes(), IsEmpty());
     control("applyBtn").setFocus();
-    act("key Space");
-    EXPECT_THAT(changes(), ElementsAre("add Müller Box; add Zoe Box"));
+    EXPECT_THAT(act("key Space").changes(), ElementsAre("add Müller Box; add Zoe Box"));
     EXPECT_EQ(rightsOnServer("Müller"), 0x1DB);
     EXPECT_EQ(rightsOnServer("Zoe"), 0x100);
     EXPECT_FALSE(changesEnabled());
@@ -24,14 +22,12 @@ TEST_F(RightsTabTest, SendsOneChangeForEachTrusteeInOneRequest) {
     // What the server refuses is not reported; the list shows what it has.
     act("tick 1W");
     world.server->setTrustee("VOL1:\\", *world.identities->findByName(demo::supervisor).front(), 0x041);
-    act("applyBtn, tick 1S");
-    EXPECT_THAT(alerts(), IsEmpty());
+    EXPECT_THAT(act("applyBtn, tick 1S").alerts(), IsEmpty());
     EXPECT_EQ(rows()[1], "admin SRF") << "a right once seen is never lowered";
 }
 
 TEST_F(RightsTabTest, KeepsEverythingWhenApplyFailsAndSendsItWithTheNext) {
-    open("rights");
-    act("tick 1W");
+    open("rights").act("tick 1W");
     for (const bool password : {true, false}) {
         password ? breakPipes() : losePassword();
         log.take();
@@ -44,38 +40,29 @@ TEST_F(RightsTabTest, KeepsEverythingWhenApplyFailsAndSendsItWithTheNext) {
         mend();
     }
     forgetServer();
-    act("applyBtn");
-    EXPECT_EQ(rightsOnServer("admin"), 0x43);
+    EXPECT_EQ(act("applyBtn").rightsOnServer("admin"), 0x43);
     EXPECT_FALSE(changesEnabled());
 }
 
 TEST_F(RightsTabTest, RemovesTheSelectedRowsInTheirOrder) {
-    open("rights");
-    act("removeBtn, applyBtn");
-    EXPECT_THAT(changes(), IsEmpty());
+    EXPECT_THAT(open("rights").act("removeBtn, applyBtn").changes(), IsEmpty());
     EXPECT_TRUE(changesEnabled()) << "even though nothing was selected";
     act("tick 3W, pick 3 0, removeBtn");
     EXPECT_THAT(rows(), ElementsAre("admin RF", "Zoe")) << "… and the next click removes no more";
-    act("applyBtn");
-    EXPECT_THAT(changes(), ElementsAre("add ADMIN Box; remove Müller Box; remove ADMIN Box"));
+    EXPECT_THAT(act("applyBtn").changes(), ElementsAre("add ADMIN Box; remove Müller Box; remove ADMIN Box"));
     EXPECT_EQ(rightsOnServer("Müller"), -1);
     EXPECT_THAT(rows(), ElementsAre("admin RF", "Zoe"));
 }
 
 TEST_F(RightsTabTest, SearchesWhileRowsAreEditedAndRemoved) {
-    open("rights");
-    act("type searchField adm");
-    EXPECT_THAT(rows(), ElementsAre("admin RF", "ADMIN RWECMFA"));
+    EXPECT_THAT(open("rights").act("type searchField adm").rows(), ElementsAre("admin RF", "ADMIN RWECMFA"));
     act("tick 1R");           // mirrored into the rows that are not shown
     act("pick 0, removeBtn"); // not mirrored: the row comes back when the search ends
     EXPECT_THAT(rows(), ElementsAre("ADMIN WECMFA"));
-    act("type searchField admx");
-    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_THAT(act("type searchField admx").rows(), IsEmpty());
     EXPECT_EQ(emptyText(), "nothing like admx");
-    act("type searchField MULLER");
-    EXPECT_THAT(rows(), ElementsAre("Müller SRWECMFA"));
-    act("key Escape");
-    EXPECT_THAT(rows(), ElementsAre("Müller SRWECMFA", "admin RF", "Zoe", "ADMIN WECMFA"));
+    EXPECT_THAT(act("type searchField MULLER").rows(), ElementsAre("Müller SRWECMFA"));
+    EXPECT_THAT(act("key Escape").rows(), ElementsAre("Müller SRWECMFA", "admin RF", "Zoe", "ADMIN WECMFA"));
 
     // Revert leaves the search alone, and asks the server nothing; the rows that were saved when the search
     // began are back when it ends.
@@ -86,10 +73,8 @@ TEST_F(RightsTabTest, SearchesWhileRowsAreEditedAndRemoved) {
     EXPECT_THAT(rows(), ElementsAre("Müller SRWECMFA", "admin RF", "Zoe", "ADMIN RWECMFA"));
     EXPECT_FALSE(changesEnabled());
     EXPECT_EQ(value("searchField"), "zo");
-    act("type searchField ");
-    EXPECT_EQ(rows()[3], "ADMIN WECMFA");
-    act("removeBtn, applyBtn");
-    EXPECT_THAT(changes(), IsEmpty()) << "nothing is pending";
+    EXPECT_EQ(act("type searchField ").rows()[3], "ADMIN WECMFA");
+    EXPECT_THAT(act("removeBtn, applyBtn").changes(), IsEmpty()) << "nothing is pending";
 
     act("tick 3R, type searchField admin, pick 0, removeBtn, applyBtn");
     EXPECT_THAT(changes(), ElementsAre("add ADMIN Box; remove admin Box"));
@@ -102,8 +87,7 @@ TEST_F(RightsTabTest, SortsByNameAndForgetsTheOrderWithTheRows) {
             text += row.substr(0, row.find(' ')) + ' ';
         return text;
     };
-    open("rights");
-    act("header");
+    open("rights").act("header");
     EXPECT_EQ(names(), "admin ADMIN Müller Zoe ");
     act("header");
     EXPECT_EQ(names(), "Zoe Müller admin ADMIN ");
@@ -123,29 +107,23 @@ TEST_F(RightsTabTest, SortsByNameAndForgetsTheOrderWithTheRows) {
 
 TEST_F(RightsTabTest, KeepsPendingChangesHiddenOverAnotherVisit) {
     open("rights");
-    act("tick 0R, tab 1, tab 0");
-    EXPECT_EQ(rows()[0], "Müller SRWECMFA") << "the rows are the server's again";
+    EXPECT_EQ(act("tick 0R, tab 1, tab 0").rows()[0], "Müller SRWECMFA") << "the rows are the server's again";
     EXPECT_FALSE(changesEnabled());
-    act("tick 1W, applyBtn");
-    EXPECT_THAT(changes(), ElementsAre("add Müller Box; add admin Box"));
+    EXPECT_THAT(act("tick 1W, applyBtn").changes(), ElementsAre("add Müller Box; add admin Box"));
     EXPECT_EQ(rightsOnServer("Müller"), 0x1FA);
 }
 
 TEST_F(RightsTabTest, SwitchesToBothIdentityTypesAndDropsPendingChanges) {
-    open("rights");
-    EXPECT_FALSE(isShown("showCheck"));
+    EXPECT_FALSE(open("rights").isShown("showCheck"));
     EXPECT_EQ(value("showCheckCaption"), "Rights_Label_Title");
     bundle->features->at("enableSettings") = false;
     for (const auto& [user, title] :
          {std::pair{demo::supervisor, "Morvane_Trustee_Label"}, {demo::supervisorTree, "AD_Trustee_Label"}}) {
-        open("rights", user);
-        EXPECT_EQ(value("showCheck"), title);
+        EXPECT_EQ(open("rights", user).value("showCheck"), title);
     }
-    open("rights", demo::readOnly);
-    EXPECT_FALSE(isEnabled("showCheck"));
+    EXPECT_FALSE(open("rights", demo::readOnly).isEnabled("showCheck"));
     bundle->features->at("addBothTrustees") = false;
-    open("rights");
-    EXPECT_EQ(value("showCheck"), "Both_Trustee_Label");
+    EXPECT_EQ(open("rights").value("showCheck"), "Both_Trustee_Label");
     EXPECT_TRUE(isEnabled("addBtn"));
     act("tick 0R, showCheck");
     EXPECT_THAT(rows(), ElementsAre("Müller SRWECMFA", "admin RF", "Zoe", "ADMIN RWECMFA",
@@ -156,12 +134,10 @@ TEST_F(RightsTabTest, SwitchesToBothIdentityTypesAndDropsPendingChanges) {
     EXPECT_THAT(changes(), ElementsAre("add guid-vera Box; add admin Box")) << "what was pending is gone";
     EXPECT_EQ(rightsOnServer("guid-vera"), 0x43);
     EXPECT_THAT(rows(), SizeIs(5));
-    act("tab 1, tab 0");
-    EXPECT_EQ(value("showCheck", "checked"), "true");
+    EXPECT_EQ(act("tab 1, tab 0").value("showCheck", "checked"), "true");
     EXPECT_THAT(rows(), SizeIs(5));
     EXPECT_FALSE(isEnabled("addBtn"));
-    act("showCheck");
-    EXPECT_THAT(rows(), SizeIs(4));
+    EXPECT_THAT(act("showCheck").rows(), SizeIs(4));
     EXPECT_TRUE(isEnabled("addBtn"));
     EXPECT_FALSE(Shared::value().bothID);
 }

@@ -35,20 +35,17 @@ TEST_F(RightsViewsTest, InheritedFilterIsEditedSentAndKept) {
     view<InheritedRightsViewController>().editedIRF |= 0x0004; // a bit that nobody knows
     act("readIRF, writeIRF, accessIRF");
     EXPECT_EQ(view<InheritedRightsViewController>().editedIRF, 0x1DE);
-    act("tab 0, tab 1");
-    EXPECT_TRUE(isEnabled("applyBtn")) << "the edits outlive a visit to another tab";
+    EXPECT_TRUE(act("tab 0, tab 1").isEnabled("applyBtn")) << "the edits outlive a visit to another tab";
     act("applyBtn");
     EXPECT_EQ(world.server->filter(box), 0x1DA);
     EXPECT_FALSE(changesEnabled());
 
-    act("readIRF, readIRF");
-    EXPECT_TRUE(isEnabled("revertBtn")) << "a click never switches it off";
+    EXPECT_TRUE(act("readIRF, readIRF").isEnabled("revertBtn")) << "a click never switches it off";
     act("readIRF, revertBtn");
     EXPECT_EQ(filter(), "s-wecmf-");
     EXPECT_FALSE(isEnabled("applyBtn"));
     breakPipes();
-    act("eraseIRF, applyBtn");
-    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
+    EXPECT_THAT(act("eraseIRF, applyBtn").alerts(), ElementsAre("Err_Operation_Failed"));
     EXPECT_TRUE(isEnabled("applyBtn"));
     act("revertBtn");
     EXPECT_EQ(filter(), "s-w-cmf-") << "what could not be sent is what Revert returns to";
@@ -75,18 +72,15 @@ TEST_F(RightsViewsTest, EffectiveRightsOfTrusteesAndOfOneThatIsChosen) {
     EXPECT_DEATH(page.onReturnMorvaneSelectedUser({}), "no identity");
     mend();
 
-    act("type searchField adm");
-    EXPECT_THAT(rows(), ElementsAre("admin RF", "ADMIN RWECMFA"));
+    EXPECT_THAT(act("type searchField adm").rows(), ElementsAre("admin RF", "ADMIN RWECMFA"));
     act("tab 0");
     world.server->setTrustee(box, world.identities->addDomainUser("adminora", "adminora"), 1);
-    act("tab 2");
-    EXPECT_THAT(rows(), SizeIs(8)) << "each visit loads anew";
+    EXPECT_THAT(act("tab 2").rows(), SizeIs(8)) << "each visit loads anew";
     act("type searchField admi");
     EXPECT_THAT(rows(), SizeIs(2)) << "the search goes on over the rows it began with";
     act("header, header");
     EXPECT_THAT(rows(), ElementsAre("admin RF", "ADMIN RWECMFA")) << "equal names stay in their order";
-    act("type searchField , header");
-    EXPECT_EQ(rows().front(), "admin RF");
+    EXPECT_EQ(act("type searchField , header").rows().front(), "admin RF");
 }
 
 TEST_F(RightsViewsTest, BothIdentitiesComeTogetherAndTheFirstFailsInSilence) {
@@ -99,11 +93,9 @@ TEST_F(RightsViewsTest, BothIdentitiesComeTogetherAndTheFirstFailsInSilence) {
     auto& misbehaviour = world.server->misbehaviour;
     misbehaviour.code = 7;
     misbehaviour.onlyWith = "getAllEffectiveRights><adOnly/>";
-    act("tab 0, tab 2");
-    EXPECT_THAT(rows(), SizeIs(4)) << "those of the tree";
+    EXPECT_THAT(act("tab 0, tab 2").rows(), SizeIs(4)) << "those of the tree";
     misbehaviour.onlyWith = "<rightsRequest><adOnly/>";
-    act("tab 3");
-    EXPECT_EQ(rows("subdirTable")[0], "CN=Vera.OU=Verlag.O=Meridal Box RF");
+    EXPECT_EQ(act("tab 3").rows("subdirTable")[0], "CN=Vera.OU=Verlag.O=Meridal Box RF");
     EXPECT_EQ(rows("parentdirTable")[0], "CN=Vera.OU=Verlag.O=Meridal Box RF");
     EXPECT_THAT(alerts(), IsEmpty());
 }
@@ -130,20 +122,17 @@ TEST_F(RightsViewsTest, FolderTrusteesOfBothTablesGoOutInTheOrderOfTheEdits) {
                             "admin VOL1:\\Tests RMF", "ingrid.holm VOL1:\\ S", "tomas.beran VOL1:\\ RWECMFA",
                             "lea.fournier VOL1:\\ RF"))
         << "nearest first, and nothing from beside the path";
-    act("removeBtnSub, applybtn");
-    EXPECT_TRUE(isEnabled("applybtn") && changes().empty());
+    EXPECT_TRUE(act("removeBtnSub, applybtn").isEnabled("applybtn") && changes().empty());
     act("tick:subdirTable 4W, tick:parentdirTable 4S, tick:subdirTable 4R"); // the same row again
     act("pick:subdirTable 5, pick:parentdirTable 1, removeBtnSub, removeBtnParent");
     EXPECT_THAT(rows("parentdirTable"), SizeIs(7));
     EXPECT_EQ(rows("subdirTable").back(), "admin Box\\Low WF");
     EXPECT_THAT(changes(), IsEmpty());
-    act("tab 0, tab 3");
-    EXPECT_EQ(rows("subdirTable"), below) << "the rows are the server's again";
+    EXPECT_EQ(act("tab 0, tab 3").rows("subdirTable"), below) << "the rows are the server's again";
     EXPECT_FALSE(changesEnabled("applybtn", "revertbtn"));
     act("tick:subdirTable 2R"); // … and what is pending waits for the next Apply
     breakPipes();
-    act("applybtn");
-    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
+    EXPECT_THAT(act("applybtn").alerts(), ElementsAre("Err_Operation_Failed"));
     mend();
     act("applybtn");
     EXPECT_THAT(changes(), ElementsAre("add admin Box\\Low; add admin VOL1:\\Tests; remove Zoe Box\\Low; "
@@ -162,8 +151,7 @@ TEST_F(RightsViewsTest, FolderTrusteesOfBothTablesGoOutInTheOrderOfTheEdits) {
 }
 
 TEST_F(RightsViewsTest, FolderTrusteesAreSearchedByNameAndPath) {
-    open("folders");
-    act("type searchInSubField low");
+    open("folders").act("type searchInSubField low");
     EXPECT_THAT(rows("subdirTable"), ElementsAre("admin Box\\Low RF", "Zoe Box\\Low RWECMFA"));
     EXPECT_THAT(rows("parentdirTable"), SizeIs(8)) << "each table has its own search";
     act("tick:subdirTable 0W, pick:subdirTable 1, removeBtnSub, type searchInSubField q");
@@ -173,13 +161,11 @@ TEST_F(RightsViewsTest, FolderTrusteesAreSearchedByNameAndPath) {
                 ElementsAre("Müller Box SRWECMFA", "admin Box RWF", "Zoe Box", "ADMIN Box RWECMFA",
                             "admin Box\\Low RF", "Zoe Box\\Low RWECMFA"))
         << "the first row of the identity follows, on whatever path";
-    act("header:subdirTable");
-    EXPECT_EQ(rows("subdirTable")[1], "ADMIN Box RWECMFA");
+    EXPECT_EQ(act("header:subdirTable").rows("subdirTable")[1], "ADMIN Box RWECMFA");
     EXPECT_EQ(rows("parentdirTable")[0], "Müller Box SRWECMFA");
     act("type searchInParentField tomas, header:parentdirTable");
     EXPECT_THAT(rows("parentdirTable"), ElementsAre("tomas.beran VOL1:\\ RWECMFA"));
-    act("applybtn");
-    EXPECT_THAT(changes(), ElementsAre("add admin Box\\Low; remove Zoe Box\\Low"));
+    EXPECT_THAT(act("applybtn").changes(), ElementsAre("add admin Box\\Low; remove Zoe Box\\Low"));
 
     for (const char* expected : {"searchInSubField", "searchInParentField"}) {
         QTest::keySequence(&front(), QKeySequence::Find);

@@ -22,25 +22,20 @@ namespace {
 struct Page {
     const char* name;
     const char* entry; ///< of the menu
-    int tab = 0;
+    int tab;
 };
-constexpr Page pages[] = {{"rights", "TrusteeRightsView"},
+constexpr Page pages[] = {{"rights", "TrusteeRightsView", 0},
                           {"inherited", "TrusteeRightsView", 1},
                           {"effective", "TrusteeRightsView", 2},
                           {"folders", "TrusteeRightsView", 3},
-                          {"files", "FileSystemRightsView"},
-                          {"quota", "UserQuotaView"},
-                          {"information", "DirectoryQuotaView"},
+                          {"files", "FileSystemRightsView", 0},
+                          {"quota", "UserQuotaView", 0},
+                          {"information", "DirectoryQuotaView", 0},
                           {"limit", "DirectoryQuotaView", 1},
-                          {"settings", "SettingView"}};
+                          {"settings", "SettingView", 0}};
 
 std::string shortened(QString text) {
     return text.remove("VOL1:\\Tests\\").toStdString();
-}
-
-void clickCell(ListTable& list, const QModelIndex& cell, Qt::KeyboardModifiers modifiers) {
-    list.scrollTo(cell);
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, list.visualRect(cell).center());
 }
 
 } // namespace
@@ -60,17 +55,14 @@ WindowTest::WindowTest() {
     Shared::value().bothID = false;
     SharedTreeName::value().treeName.clear();
 
-    for (const auto& [name, rights] : {std::pair<const char*, simulator::Mask>{"Müller", 0x1FB},
-                                       {"admin", 0x041},
-                                       {"Zoe", 0x000},
-                                       {"ADMIN", 0x0FB}})
-        world.server->setTrustee(box, world.identities->addDomainUser(name, name), rights);
-    world.server->setTrustee(box, world.identities->addTreeUser("Vera", "Verlag", "guid-vera"), 0x041);
-    for (const auto& [path, id, rights] :
-         {std::tuple<const char*, const char*, simulator::Mask>{"\\Box\\Low", "admin", 0x041},
-          {"\\Box\\Low", "Zoe", 0x0FB},
-          {"", "admin", 0x0C1},
-          {"\\Boxes", "Zoe", 0x041}})
+    for (const char* name : {"Müller", "admin", "Zoe", "ADMIN"})
+        world.identities->addDomainUser(name, name);
+    world.identities->addTreeUser("Vera", "Verlag", "guid-vera");
+    const std::tuple<const char*, const char*, simulator::Mask> trustees[] = {
+        {"\\Box", "Müller", 0x1FB},   {"\\Box", "admin", 0x041},     {"\\Box", "Zoe", 0x000},
+        {"\\Box", "ADMIN", 0x0FB},    {"\\Box", "guid-vera", 0x041}, {"\\Box\\Low", "admin", 0x041},
+        {"\\Box\\Low", "Zoe", 0x0FB}, {"", "admin", 0x0C1},          {"\\Boxes", "Zoe", 0x041}};
+    for (const auto& [path, id, rights] : trustees)
         world.server->setTrustee(std::string("VOL1:\\Tests") + path, *world.identities->findById(id), rights);
 }
 
@@ -91,7 +83,7 @@ void WindowTest::openWindow(const char* user) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == &front(); }));
 }
 
-void WindowTest::open(const char* page, const char* user, const std::function<void()>& before) {
+WindowTest& WindowTest::open(const char* page, const char* user, const std::function<void()>& before) {
     const auto* found = std::ranges::find(pages, std::string_view(page), &Page::name);
     openWindow(user);
     if (found->tab == 0)
@@ -102,43 +94,45 @@ void WindowTest::open(const char* page, const char* user, const std::function<vo
         act("tab " + std::to_string(found->tab));
     }
     changes();
+    return *this;
 }
 
 void WindowTest::select(const std::string& local) {
     world.handOver("/Volumes/" + local, local.substr(0, local.find('/')) + ":\\");
 }
 
-void WindowTest::act(const std::string& script) {
+WindowTest& WindowTest::act(const std::string& script) {
     for (const QString& step : QString::fromStdString(script).split(", ")) {
         const QString verb = step.section(' ', 0, 0);
-        const QString object = step.section(' ', 1, 1);
+        const std::string object = step.section(' ', 1, 1).toStdString();
         const QString rest = step.section(' ', 2);
         if (verb == "type") {
-            auto& field = control<QLineEdit>(object.toStdString());
+            auto& field = control<QLineEdit>(object);
             field.setFocus();
             field.selectAll();
             QTest::keyClick(&field, Qt::Key_Delete);
             QTest::keyClicks(&field, rest);
         } else if (verb == "choose") {
-            auto& popUp = control<QComboBox>(object.toStdString());
+            auto& popUp = control<QComboBox>(object);
             popUp.setFocus();
             for (const int wanted = popUp.findText(rest); wanted >= 0 && popUp.currentIndex() != wanted;)
                 QTest::keyClick(&popUp, popUp.currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
             EXPECT_EQ(popUp.currentText(), rest);
         } else if (verb == "key") {
-            const QKeyCombination key = QKeySequence::fromString(object)[0];
+            const QKeyCombination key = QKeySequence(object.c_str())[0];
             QTest::keyClick(focus() != nullptr ? focus() : &front(), key.key(), key.keyboardModifiers());
         } else if (verb == "tab") {
             auto& bar = control<QTabBar>("");
-            QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(object.toInt()).center());
+            QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(std::stoi(object)).center());
             QCoreApplication::processEvents(); // the controls of a view that loads under the eyes follow
-        } else if (const QString name = verb.section(':', 1);
-                   verb.contains(QRegularExpression("^(pick|tick|header)"))) {
-            actOnTable(verb.section(':', 0, 0), table(name.toLatin1().constData()), step.split(' ').mid(1));
+        } else if (const QStringList parts = verb.split(':');
+                   QString("pick tick header").contains(parts[0])) {
+            actOnTable(parts[0], table(parts.mid(1).join("").toStdString()), step.split(' ').mid(1));
         } else {
             click(step.toStdString());
         }
     }
+    return *this;
 }
 
 void WindowTest::actOnTable(const QString& verb, ListTable& list, const QStringList& arguments) {
@@ -146,14 +140,16 @@ void WindowTest::actOnTable(const QString& verb, ListTable& list, const QStringL
         QTest::mouseClick(list.horizontalHeader()->viewport(), Qt::LeftButton, {}, {20, 8});
     if (verb == "pick")
         list.clearSelection();
-    for (const QString& each : arguments)
-        if (verb == "pick")
-            clickCell(list, list.model()->index(each.toInt(), 0), Qt::ControlModifier);
-        else
-            clickCell(
-                list,
-                dynamic_cast<RightsTable&>(list).box(each.chopped(1).toInt(), each.right(1).toStdString()),
-                {});
+    for (const QString& each : arguments) {
+        const bool isBox = verb == "tick";
+        const int row = (isBox ? each.chopped(1) : each).toInt();
+        const QModelIndex cell = isBox
+                                     ? dynamic_cast<RightsTable&>(list).box(row, each.right(1).toStdString())
+                                     : list.model()->index(row, 0);
+        list.scrollTo(cell);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, isBox ? Qt::NoModifier : Qt::ControlModifier,
+                          list.visualRect(cell).center());
+    }
 }
 
 void WindowTest::click(const std::string& name) {
@@ -179,14 +175,11 @@ void WindowTest::browse(const char* button, const char* category, const char* pl
 void WindowTest::take(const char* button, const char* category, const char* place, const Texts& names) {
     browse(button, category, place);
     const Texts listed = rows("userListTable");
-    for (const std::string& name : names) {
-        const auto found = std::ranges::find(listed, name);
-        ASSERT_NE(found, listed.end()) << name;
-        ListTable& list = table("userListTable");
-        const auto row = static_cast<int>(found - listed.begin());
-        clickCell(list, list.model()->index(row, 0), Qt::ControlModifier);
-    }
-    click("selectButton");
+    EXPECT_THAT(listed, testing::IsSupersetOf(names));
+    std::string picked;
+    for (const std::string& name : names)
+        picked += ' ' + std::to_string(std::ranges::find(listed, name) - listed.begin());
+    act("pick:userListTable" + picked + ", selectButton");
 }
 
 QWidget& WindowTest::front() const {
@@ -194,9 +187,29 @@ QWidget& WindowTest::front() const {
     return sheet != nullptr ? *sheet : *window;
 }
 
-bool WindowTest::isShown(const char* name) const {
-    const auto found = front().findChildren<QWidget*>(name);
+bool WindowTest::isShown(const std::string& name) const {
+    const auto found = front().findChildren<QWidget*>(QString::fromStdString(name));
     return std::ranges::any_of(found, &QWidget::isVisible);
+}
+
+std::string WindowTest::state(const std::string& names) const {
+    QStringList states;
+    for (const QString& name : QString::fromStdString(names).split(' ')) {
+        if (!isShown(name.toStdString())) {
+            states.append("hidden");
+            continue;
+        }
+        const QWidget& each = control(name.toStdString());
+        const QVariant checked = each.property("checked");
+        const bool isButton = checked.isValid();
+        QString text = each.property(each.inherits("QComboBox") ? "currentText" : "text").toString();
+        if (isButton)
+            text = !each.property("checkable").toBool() ? (each.isEnabled() ? "ready" : "")
+                   : checked.toBool()                   ? "on"
+                                                        : "off";
+        states.append(each.isEnabled() ? text : (text + " grey").trimmed());
+    }
+    return states.join(", ").toStdString();
 }
 
 bool WindowTest::changesEnabled(const char* apply, const char* revert) const {
@@ -208,7 +221,7 @@ std::string WindowTest::value(const char* name, const char* property) const {
     return control(name).property(property).toString().toStdString();
 }
 
-Texts WindowTest::rows(const char* name) const {
+Texts WindowTest::rows(const std::string& name) const {
     const QAbstractItemModel* model = table(name).model();
     const std::vector<int> selected = table(name).selectedRowIndexes();
     Texts found;
@@ -259,25 +272,22 @@ Texts WindowTest::alerts() {
 }
 
 std::string WindowTest::dismissAlert() {
-    auto* alert = qobject_cast<QMessageBox*>(&front());
-    if (alert == nullptr)
-        return {};
-    const std::string text = alert->text().toStdString();
-    QTest::mouseClick(alert->buttons().front(), Qt::LeftButton);
-    return text;
+    auto& alert = dynamic_cast<QMessageBox&>(front());
+    QTest::mouseClick(alert.buttons().front(), Qt::LeftButton);
+    return alert.text().toStdString();
 }
 
 Texts WindowTest::changes() {
     static const QRegularExpression change(
         "<(add|remove)Trustee\\b.*?<userID>(.*?)</userID>.*?<fileName>(.*?)</fileName>|"
-        "<id>(.*?)</id><quota>(.*?)</quota>|<quotaAmount>(.*?)<|<creatorID[^>]*>(.*?)<|<attributes>(.+?)</"
-        "attributes>");
+        "<id>(.*?)</id><quota>(.*?)</quota>|<quotaAmount>(.*?)<|<creatorID[^>]*>(.*?)<|"
+        "<attributes>(.+?)</attributes>");
     Texts found;
     for (; seen_ < world.server->requests().size(); ++seen_) {
         QString line;
-        for (auto it = change.globalMatch(QString::fromStdString(world.server->requests()[seen_].text));
-             it.hasNext();) {
-            QStringList parts = it.next().capturedTexts().mid(1);
+        const auto text = QString::fromStdString(world.server->requests()[seen_].text);
+        for (const auto& match : change.globalMatch(text)) {
+            QStringList parts = match.capturedTexts().mid(1);
             parts.removeAll(QString());
             line += (line.isEmpty() ? "" : "; ") + parts.join(' ');
         }

@@ -47,7 +47,7 @@ struct WindowTest : testing::Test {
     /// … and goes to one of the pages: "rights", "inherited", "effective", "folders" (the tabs of the trustee
     /// rights), "files", "quota", "information", "limit" (its other tab), "settings".
     /// `before` is called when nothing but the page itself is left to load.
-    void open(
+    WindowTest& open(
         const char* page, const char* user = demo::supervisor, const std::function<void()>& before = [] {});
     /// Selects a path as it is mounted, "VOL1/Projects".
     void select(const std::string& local);
@@ -58,7 +58,7 @@ struct WindowTest : testing::Test {
     /// selects these rows of a table and no others, "tick 0R 2S" clicks its check boxes, "header" its first
     /// header, "type FIELD text" replaces the text of a field, "choose POPUP item", "key Return" goes to the
     /// control with the keyboard, "tab 2" opens a tab. A table is named behind a colon: "pick:subdirTable 1".
-    void act(const std::string& script);
+    WindowTest& act(const std::string& script);
     void click(const std::string& name);
     /// Fetches a category, "Users_Title", from a domain or from below a place in the tree in the browser that
     /// the button opens.
@@ -79,8 +79,12 @@ struct WindowTest : testing::Test {
     View& view() const {
         return visible<View>(*window, "");
     }
-    bool isShown(const char* name) const;
+    bool isShown(const std::string& name) const;
     bool isEnabled(const char* name) const { return control(name).isEnabled(); }
+    /// What these controls show, "20 GB, on, grey": a field's text, a pop-up's item, whether a box is on or
+    /// off, a button's "ready"; "grey" behind or instead of it when it is disabled, "hidden" for what is not
+    /// there.
+    std::string state(const std::string& names) const;
     /// Whether there is something to send, or to take back.
     bool changesEnabled(const char* apply = "applyBtn", const char* revert = "revertBtn") const;
     /// The value of a control's property: what it reads, whether it is checked, …
@@ -88,7 +92,7 @@ struct WindowTest : testing::Test {
     std::string title() const { return front().windowTitle().toStdString(); }
     /// The rows of a table: the texts of its columns, then the letters of the ticked boxes; ">" in front of
     /// those that are selected.
-    Texts rows(const char* table = "") const;
+    Texts rows(const std::string& table = "") const;
     std::string emptyText(const char* table = "") const;
     /// The controls that Tab reaches from where the keyboard is, until it is there again; "read only" at the
     /// end where the page says so.
@@ -130,7 +134,7 @@ private:
         throw std::runtime_error("there is no " + name);
     }
     void actOnTable(const QString& verb, ListTable& table, const QStringList& arguments);
-    ListTable& table(const char* name) const { return control<ListTable>(name); }
+    ListTable& table(const std::string& name) const { return control<ListTable>(name); }
     std::size_t seen_ = 0;
 };
 
