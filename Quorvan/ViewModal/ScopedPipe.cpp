@@ -3,6 +3,8 @@
 
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
+#include <utility>
+
 namespace quorvan {
 
 ScopedPipe::ScopedPipe(XMLReadWriteController& controller, const std::string& server,
@@ -11,10 +13,13 @@ ScopedPipe::ScopedPipe(XMLReadWriteController& controller, const std::string& se
     , isOpen_(status_ == 0) {}
 
 void ScopedPipe::close() {
-    if (!isOpen_)
-        return;
-    isOpen_ = false;
-    XMLReadWriteController::closePipe();
+    if (std::exchange(isOpen_, false))
+        XMLReadWriteController::closePipe();
+}
+
+void ScopedPipe::drop() {
+    if (std::exchange(isOpen_, false))
+        XMLReadWriteController::dropPipe();
 }
 
 } // namespace quorvan

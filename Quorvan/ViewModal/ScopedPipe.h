@@ -26,6 +26,8 @@ public:
 
     /// Closes the pipe before the scope ends, which is logged. Nothing when it is not open.
     void close();
+    /// The same without the line in the log, where the program ends and the operation does not.
+    void drop();
 
 private:
     std::int32_t status_;

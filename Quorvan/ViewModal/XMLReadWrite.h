@@ -87,6 +87,8 @@ public:
     /// Ends an operation: logs "pipe closed" and closes the descriptor, whose number stays. Then the user
     /// reads what was kept back while the pipe was open.
     static void closePipe();
+    /// Closes the descriptor alone, where the program ends and the operation does not.
+    static void dropPipe();
     /// Writes a request to the open pipe and returns the whole reply, well-formed UTF-8. Without an
     /// open pipe the process ends with status 1; in the middle of another exchange it is fatal.
     std::string exchangeRequest(const std::string& request, const ExchangeLog& log);

@@ -193,6 +193,10 @@ std::int32_t XMLReadWriteController::mountShare(const std::string& server, const
 
 void XMLReadWriteController::closePipe() {
     Log("pipe closed");
+    dropPipe();
+}
+
+void XMLReadWriteController::dropPipe() {
     network().close(fileDes);
     inUse.isOpen = false;
     for (const auto& report : std::exchange(inUse.whenClosed, {}))

@@ -51,6 +51,7 @@ BrowseMorvaneUserListViewController::BrowseMorvaneUserListViewController()
 void BrowseMorvaneUserListViewController::prepare(ViewController& view, IdentityBrowserDelegate& receiver,
                                                   const IdentityWish& wish) {
     delegate.set(view, receiver);
+    tellWhenClosed(view, receiver);
     takeWish(wish);
 }
 
@@ -124,14 +125,14 @@ void BrowseMorvaneUserListViewController::fetchUserList() {
         return;
     xmlController = std::make_unique<XMLReadWriteController>();
     std::string result;
-    const std::int32_t status = xmlController->openPipe(serverIP, "/_admin", "/Manage_KELP/TRELL.cmd");
-    if (status != 0) {
-        Log("Failed with err - %d", status);
+    ScopedPipe pipe(*xmlController, serverIP, pipes::directoryTree);
+    if (!pipe.isOpen()) {
+        Log("Failed with err - %d", pipe.status());
         displayErrorMsg(errorCode::operationFailed);
     } else {
         std::vector<User> entries;
         result = xmlController->getMorvaneBrowse(searchTree, entries);
-        XMLReadWriteController::closePipe();
+        pipe.close();
         fetched_ = result == "0";
         showRows(filterOnUserType(currUserType, entries));
         disableFetch();

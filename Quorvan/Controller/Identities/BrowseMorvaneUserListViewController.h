@@ -4,6 +4,7 @@
 #include "Quorvan/Controller/Identities/IdentityBrowserSheet.h"
 #include "Quorvan/Toolkit/SearchFilter.h"
 #include "Quorvan/Toolkit/WeakDelegate.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <memory>

@@ -23,6 +23,7 @@ BrowseLdapViewModal& BrowseUserListViewController::ldapList() {
 void BrowseUserListViewController::prepare(ViewController& view, IdentityBrowserDelegate& receiver,
                                            const IdentityWish& wish) {
     delegate.set(view, receiver);
+    tellWhenClosed(view, receiver);
     takeWish(wish);
 }
 

@@ -74,6 +74,11 @@ void IdentityBrowserSheet::viewDidAppear() {
     reload();
 }
 
+void IdentityBrowserSheet::viewWillDisappear() {
+    if (IdentityBrowserDelegate* opener = opener_.get())
+        opener->onBrowserClosed();
+}
+
 /// Room for long names, and for some fifteen of them.
 QSize IdentityBrowserSheet::sizeHint() const {
     const QFontMetrics metrics = fontMetrics();

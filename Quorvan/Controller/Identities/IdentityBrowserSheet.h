@@ -4,6 +4,7 @@
 #include "Quorvan/Controller/Identities/IdentityBrowsers.h"
 #include "Quorvan/Toolkit/SearchField.h"
 #include "Quorvan/Toolkit/ViewController.h"
+#include "Quorvan/Toolkit/WeakDelegate.h"
 
 #include <QTimer>
 
@@ -39,6 +40,7 @@ public:
 
     void loadView() override;
     void viewDidAppear() override;
+    void viewWillDisappear() override;
     QSize sizeHint() const override;
 
     virtual void onSearch(SearchField* field) = 0;
@@ -55,6 +57,9 @@ protected:
     virtual QString emptyText() const = 0;
 
     void takeWish(const IdentityWish& wish);
+    void tellWhenClosed(ViewController& view, IdentityBrowserDelegate& receiver) {
+        opener_.set(view, receiver);
+    }
     /// Shows the names as they are now.
     void reload();
     /// Waits for the user to stop typing before a search, which otherwise follows each letter.
@@ -67,6 +72,7 @@ private:
     void searchTextChanged();
 
     QTimer searchDelay_;
+    WeakDelegate<IdentityBrowserDelegate> opener_;
 };
 
 /// A sheet that lists what was fetched from a place that the user names, one category at a time.
@@ -125,7 +131,7 @@ protected:
             onSearch(this->searchField);
     }
 
-    /// Drops the rows, and the search in them, because they are no longer what the user asks for.
+    /// Drops the rows, and the search in them, because they are not what the user asks for.
     void forgetRows() {
         userlist.clear();
         backupUserList.clear();

@@ -50,6 +50,9 @@ public:
     // One answer for both browsers of Active Directory.
     bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
                               const std::string& category) override = 0;
+
+    /// A browser has closed, with or without having returned anything.
+    virtual void onBrowserClosed() {}
 };
 
 /// What a view wants picked.
@@ -70,7 +73,7 @@ public:
 
 /// Opens the browser of an identity type as a sheet over `view`, with `delegate` (usually the view itself)
 /// to answer to: "ViewBrowseAD" or "ViewBrowseMorvane"; any other identity type opens nothing. A browser
-/// that outlives `view` answers to nobody.
+/// that outlives `view` has no receiver.
 void openIdentityBrowser(ViewController& view, IdentityBrowserDelegate& delegate,
                          const std::string& identityType, const IdentityWish& wish);
 

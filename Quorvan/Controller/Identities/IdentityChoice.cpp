@@ -22,12 +22,21 @@ void IdentityChoice::readMultiForest() {
 }
 
 void IdentityChoice::onSelectTrusteeClick(QObject* /*sender*/) {
-    openIdentityBrowser(view_, *this, domainIdentity_, wish_, Shared::value().bothID, multiForestFlag);
+    openIdentityBrowser(view_, *this, domainIdentity_, wish_, bothIdentities(), multiForestFlag);
+}
+
+bool IdentityChoice::bothIdentities() const {
+    return Shared::value().bothID;
 }
 
 void IdentityChoice::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity_ = identityType;
+    typeShown_ = std::exchange(domainIdentity_, identityType);
     openIdentityBrowser(view_, *this, domainIdentity_, wish_);
+}
+
+void IdentityChoice::onBrowserClosed() {
+    if (typeShown_)
+        domainIdentity_ = *std::exchange(typeShown_, {});
 }
 
 IdentityChoiceOnPath::IdentityChoiceOnPath(ViewController& view, IdentityWish wish)

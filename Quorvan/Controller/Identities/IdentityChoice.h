@@ -21,6 +21,7 @@ public:
 
     void onSelectTrusteeClick(QObject* sender);
     void onReturnIdentifySource(const std::string& identityType) override;
+    void onBrowserClosed() override;
 
 protected:
     /// `view` is the view itself, over which the browsers open, `domainIdentity` the identity type that it
@@ -29,10 +30,18 @@ protected:
 
     void readMultiForest();
 
+    /// Whether the user is asked for the directory first.
+    virtual bool bothIdentities() const;
+
+    /// Keeps the identity type that was asked for: something of it has been chosen. Otherwise the view goes
+    /// back to the type of what it shows when the browser closes.
+    void keepIdentityType() { typeShown_.reset(); }
+
 private:
     ViewController& view_;
     std::string& domainIdentity_;
     const IdentityWish wish_;
+    std::optional<std::string> typeShown_; ///< while a browser of another type may be open
 };
 
 /// The same for a view about the selected path, where the choice hangs on what the user may do there.

@@ -26,6 +26,7 @@ OldBrowseLdapViewModal& OldBrowseUserListViewController::ldapList() {
 void OldBrowseUserListViewController::prepare(ViewController& view, IdentityBrowserDelegate& receiver,
                                               const IdentityWish& wish) {
     delegate.set(view, receiver);
+    tellWhenClosed(view, receiver);
     takeWish({wish.listType.empty() ? currUserType : wish.listType, wish.isMultipleSel});
 }
 

@@ -64,12 +64,10 @@ void InformationViewController::initInformationTab() {
 }
 
 std::int32_t InformationViewController::send(const std::function<void()>& request) {
-    const std::int32_t status = xmlController->openPipe(serverIP, "/IPC$", "/FilesCmdPipe");
-    if (status == 0) {
+    const ScopedPipe pipe(*xmlController, serverIP, pipes::files);
+    if (pipe.isOpen())
         request();
-        XMLReadWriteController::closePipe();
-    }
-    return status;
+    return pipe.status();
 }
 
 void InformationViewController::getOwnerInformation() {
@@ -198,6 +196,7 @@ bool InformationViewController::onReturnSelectedUser(const std::vector<std::stri
 }
 
 void InformationViewController::takeOwner(const std::string& name, const std::string& id) {
+    keepIdentityType();
     editedOwner = {name, id};
     showOwner(name, id);
     applyOwner = true;

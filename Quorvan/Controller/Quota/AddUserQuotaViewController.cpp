@@ -143,6 +143,7 @@ void AddUserQuotaViewController::add(const std::vector<std::string>& names,
         user->action = UserQuotaConstants::Actions::ADD;
         user->domainIdentity = domainIdentity;
         users.push_back(std::move(user));
+        keepIdentityType();
     }
     if (isDuplicate) {
         Log("Trustee is already present");

@@ -72,17 +72,16 @@ void UserQuotaViewController::checkMappedInUserRights() {
     readOnlyLabel->setVisible(rights && !isSupervisor);
 }
 
-bool UserQuotaViewController::openQuotaPipe() {
-    const std::int32_t status = xmlController->openPipe(serverIP, "/_admin", "/Manage_KELP/user.cmd");
-    if (status != 0)
-        reportFailedStatus(status);
-    return status == 0;
+/// The quotas are read and set by one controller for as long as the page lives.
+std::unique_ptr<ScopedPipe> UserQuotaViewController::openQuotaPipe() {
+    return openPipeOf(*xmlController, pipes::userQuotas);
 }
 
 void UserQuotaViewController::getUserQuotaInfo() {
     for (UserQuotaList* list : {&users, &usersToRemove, &usersEdited, &usersDisplay})
         list->clear();
-    wasRead_ = openQuotaPipe();
+    auto pipe = openQuotaPipe();
+    wasRead_ = pipe != nullptr;
     if (wasRead_) {
         if (Shared::value().bothID) {
             xmlController->getUserQuotaInfo(selectedPath, users, std::string(identityActiveDirectory));
@@ -92,7 +91,7 @@ void UserQuotaViewController::getUserQuotaInfo() {
         }
         usersEdited = users;
         usersDisplay = users;
-        XMLReadWriteController::closePipe();
+        pipe.reset();
     }
     forgetSearch();
     redisplay();
@@ -231,12 +230,13 @@ UserQuotaList UserQuotaViewController::getOperationsToPerform() const {
 
 void UserQuotaViewController::setUserQuotaInfo() {
     const UserQuotaList operations = getOperationsToPerform();
-    if (!openQuotaPipe()) {
+    auto pipe = openQuotaPipe();
+    if (!pipe) {
         getUserQuotaInfo();
         return;
     }
     const std::string result = xmlController->setUserQuotaInfo(selectedPath, operations, domainIdentity);
-    XMLReadWriteController::closePipe();
+    pipe.reset();
     setChangesEnabled(false, revert, applyButton, userQuotaTable);
     if (result == "0")
         getUserQuotaInfo();

@@ -83,7 +83,7 @@ private:
     void buildControls();
     void layOutControls();
     void connectControls();
-    bool openQuotaPipe();
+    std::unique_ptr<ScopedPipe> openQuotaPipe();
     void redisplay();
     void forgetSearch();
 

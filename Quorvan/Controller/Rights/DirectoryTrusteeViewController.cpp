@@ -217,10 +217,11 @@ void DirectoryTrusteeViewController::onRevertClick(QObject* /*sender*/) {
 void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
     if (trackTrusteeList.empty())
         return;
-    if (!openPipe("/IPC$", "/FilesCmdPipe"))
+    auto pipe = openPipe(pipes::files);
+    if (!pipe)
         return;
     xmlController->setTrusteeforDir(trackTrusteeList, domainIdentity);
-    XMLReadWriteController::closePipe();
+    pipe.reset();
     trackTrusteeList.clear();
     initSubDirTable();
     initParentDirTable();

@@ -81,6 +81,7 @@ void EffectiveRightsViewController::redisplay() {
 
 bool EffectiveRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
     require(!users.empty(), "The browser returned no identity");
+    keepIdentityType();
     userGroupField->setPath(QString::fromStdString(users.back().trusteeName));
     initEffRforUser(users.back().trusteeID);
     return true;
@@ -91,16 +92,18 @@ bool EffectiveRightsViewController::onReturnSelectedUser(const std::vector<std::
                                                          const std::string& /*category*/) {
     const std::size_t count = std::min(names.size(), ids.size());
     require(count != 0, "The browser returned no identity");
+    keepIdentityType();
     userGroupField->setPath(QString::fromStdString(names[count - 1]));
     initEffRforUser(ids[count - 1]);
     return true;
 }
 
 void EffectiveRightsViewController::initEffRforUser(const std::string& userID) {
-    if (!openPipe("/IPC$", "/FilesCmdPipe"))
+    auto pipe = openPipe(pipes::files);
+    if (!pipe)
         return;
     xmlController->getEffectiveRightsforUserOnPath(selectedPath, userID, effRforUser, domainIdentity);
-    XMLReadWriteController::closePipe();
+    pipe.reset();
     setEffR();
 }
 

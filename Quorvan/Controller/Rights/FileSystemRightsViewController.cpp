@@ -72,13 +72,13 @@ void FileSystemRightsViewController::setBtnState() {
 
 void FileSystemRightsViewController::initFSRRightsTable(const std::string& userID) {
     frightsList.clear();
+    backupfrightsList.clear();
+    removedfrightsList.clear();
     trackfrightsList.clear();
-    if (openPipe("/IPC$", "/RightsCmdPipe")) {
+    if (const auto pipe = openPipe(pipes::rights))
         xmlController->getFSRights(selectedPath, {userID}, frightsList, domainIdentity);
-        XMLReadWriteController::closePipe();
-    } else {
+    else
         onReturnMainMenu();
-    }
     showLoadedRows();
 }
 
@@ -100,6 +100,7 @@ void FileSystemRightsViewController::setChangesEnabled(bool enabled) {
 
 bool FileSystemRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
     if (!users.empty()) {
+        keepIdentityType();
         const User& user = users.back();
         namefield->setPath(QString::fromStdString(user.trusteeName));
         selectedTrusteeID = user.trusteeID;
@@ -113,6 +114,7 @@ bool FileSystemRightsViewController::onReturnSelectedUser(const std::vector<std:
                                                           const std::vector<std::string>& ids,
                                                           const std::string& category) {
     if (const std::size_t count = std::min(names.size(), ids.size()); count != 0) {
+        keepIdentityType();
         namefield->setPath(QString::fromStdString(names[count - 1]));
         selectedTrusteeID = ids[count - 1];
         SelectedTrusteeType = category;

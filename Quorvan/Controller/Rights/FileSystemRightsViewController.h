@@ -49,15 +49,18 @@ public:
         std::string status; ///< "ADD" or "REMOVE"
     };
 
-    std::vector<IdentityFileRights> frightsList;                ///< as last loaded
-    std::vector<std::shared_ptr<FileRights>> editedfrightsList; ///< the rows
-    std::vector<TrackedRights> trackfrightsList;                ///< in the order the changes were made
+    std::vector<IdentityFileRights> frightsList;                 ///< as last loaded
+    std::vector<std::shared_ptr<FileRights>> editedfrightsList;  ///< the rows
+    std::vector<std::shared_ptr<FileRights>> backupfrightsList;  ///< reserved for a search; emptied by a load
+    std::vector<std::shared_ptr<FileRights>> removedfrightsList; ///< reserved; emptied by a load
+    std::vector<TrackedRights> trackfrightsList;                 ///< in the order the changes were made
     std::string selectedTrusteeID;
     std::string SelectedTrusteeName; ///< only known of identities of the tree
     std::string SelectedTrusteeType;
     FileRights::Order sortOrder = FileRights::Order::fpath;
     bool sortAscending = true; ///< of this view alone
     bool newFileBrowserFlag = false;
+    bool isSearching = false; ///< reserved: the page has no search
 
     void loadView() override;
     void viewDidLoad() override;

@@ -114,7 +114,8 @@ std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const s
 }
 
 std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
-    if (!openPipe("/_admin", "/Manage_KELP/TRELL.cmd"))
+    const auto pipe = openPipe(pipes::directoryTree);
+    if (!pipe)
         return {};
     std::string context;
     std::string name;
@@ -133,16 +134,16 @@ std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
     }
     if (status != "0")
         Log("Failed with kelp err - %@", status);
-    XMLReadWriteController::closePipe();
     return guids;
 }
 
 void GroupRightsViewController::initEffRightsTable(const std::vector<std::string>& ids) {
-    if (!openPipe("/IPC$", "/RightsCmdPipe"))
+    auto pipe = openPipe(pipes::rights);
+    if (!pipe)
         return;
     frightsList.clear();
     xmlController->getFSRights(selectedPath, ids, frightsList, domainIdentity);
-    XMLReadWriteController::closePipe();
+    pipe.reset();
     addToDataSource(frightsList);
 }
 

@@ -14,13 +14,8 @@
 
 namespace quorvan {
 
-void RightsTabViewController::onSelectTrusteeClick(QObject* /*sender*/) {
-    openIdentityBrowser(*this, *this, domainIdentity, {}, showCheck->isChecked(), multiForestFlag);
-}
-
-void RightsTabViewController::onReturnIdentifySource(const std::string& identityType) {
-    domainIdentity = identityType;
-    openIdentityBrowser(*this, *this, domainIdentity, {});
+bool RightsTabViewController::bothIdentities() const {
+    return showCheck->isChecked();
 }
 
 bool RightsTabViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
@@ -62,6 +57,7 @@ bool RightsTabViewController::add(const TrusteeList& chosen) {
     }
     redisplay();
     if (added) {
+        keepIdentityType();
         setChangesEnabled(true);
         rightsTable->setSortDescriptor({}); // the new rows stand at the end, whatever the order was
         rightsTable->scrollToBottom();

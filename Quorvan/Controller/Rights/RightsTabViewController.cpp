@@ -31,6 +31,9 @@ Trustees* findByID(const TrusteeList& trustees, const std::string& id) {
 
 } // namespace
 
+RightsTabViewController::RightsTabViewController()
+    : IdentityChoice(static_cast<ViewController&>(*this), TrusteeContext::domainIdentity, {}) {}
+
 RightsTabViewController& RightsTabViewController::besides(const ViewController& view) {
     const ViewController* window = view.parentController();
     require(window != nullptr && !window->childControllers().empty(), "The view is no tab");
@@ -41,9 +44,8 @@ RightsTabViewController& RightsTabViewController::besides(const ViewController& 
 
 void RightsTabViewController::viewDidLoad() {
     rightsTable->setSortDescriptorPrototype(0, {"TrusteeName", true});
-    featureFlagDict = readFeatureFlags();
+    readMultiForest();
     bothIdentitiesFlag = featureFlag(*featureFlagDict, "bothIdentities");
-    multiForestFlag = featureFlag(*featureFlagDict, "multiForest");
     addBothTrusteesFlag = featureFlag(*featureFlagDict, "addBothTrustees");
     enableSettingsFlag = featureFlag(*featureFlagDict, "enableSettings");
     initRightsMainView();
@@ -191,10 +193,11 @@ void RightsTabViewController::onRevertClick(QObject* /*sender*/) {
 void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
     if (trackTrusteeList.empty())
         return;
-    if (!openPipe("/IPC$", "/FilesCmdPipe"))
+    auto pipe = openPipe(pipes::files);
+    if (!pipe)
         return;
     xmlController->setTrustee(trackTrusteeList, selectedPath, domainIdentity);
-    XMLReadWriteController::closePipe();
+    pipe.reset();
     trackTrusteeList.clear();
     if (showCheck->isChecked()) {
         onShowBothMorvaneAD(showCheck);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Platform/Bundle.h"
-#include "Quorvan/Controller/Identities/IdentityBrowsers.h"
+#include "Quorvan/Controller/Identities/IdentityChoice.h"
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Selection/TrusteeContext.h"
 #include "Quorvan/Modal/Users.h"
@@ -30,8 +29,10 @@ class PathLabel;
 /// Nothing is sent until Apply, which sends all pending changes in one request and loads the list
 /// anew. Pending changes outlive everything but a successful Apply, Revert and a change to both
 /// identity types; also another visit to the tab, after which the rows no longer show them.
-class RightsTabViewController : public ViewController, public TrusteeContext, public IdentityBrowserDelegate {
+class RightsTabViewController : public ViewController, public TrusteeContext, public IdentityChoice {
 public:
+    RightsTabViewController();
+
     /// The first tab beside a view of the rights window, which knows what the user may do with the path.
     static RightsTabViewController& besides(const ViewController& view);
 
@@ -55,9 +56,7 @@ public:
     TrusteeList removedTrusteeList;      ///< taken out by the latest Remove
     TrusteeList trackTrusteeList;        ///< pending changes, "ADD" or "REMOVE", in the order they were made
 
-    std::optional<platform::FeatureDictionary> featureFlagDict;
     bool bothIdentitiesFlag = false;
-    bool multiForestFlag = false;
     bool addBothTrusteesFlag = false;
     bool enableSettingsFlag = false;
     bool isSearching = false;
@@ -77,8 +76,6 @@ public:
     void sortDescriptorsDidChange();
 
     void onShowBothMorvaneAD(QCheckBox* sender);
-    void onSelectTrusteeClick(QObject* sender);
-    void onReturnIdentifySource(const std::string& identityType) override;
     bool onReturnMorvaneSelectedUser(const std::vector<User>& users) override;
     bool onReturnSelectedUser(const std::vector<std::string>& names, const std::vector<std::string>& ids,
                               const std::string& category) override;
@@ -98,6 +95,7 @@ private:
     bool canEdit() const { return isSupervisor || isAccessControl; }
     void setChangesEnabled(bool enabled);
     void redisplay();
+    bool bothIdentities() const override;
 
     RowSearch<std::shared_ptr<Trustees>> search_{
         editedTrusteeList, backupEditedTrusteeList, isSearching, {trusteeNameOf}};

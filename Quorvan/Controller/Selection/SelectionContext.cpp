@@ -18,11 +18,17 @@ XMLReadWriteController& SelectionContext::renewController() {
     return *xmlController;
 }
 
-bool SelectionContext::openPipe(const char* share, const char* pipe) {
-    const std::int32_t status = renewController().openPipe(serverIP, share, pipe);
-    if (status != 0)
-        reportFailedStatus(status);
-    return status == 0;
+std::unique_ptr<ScopedPipe> SelectionContext::openPipe(const ManagementPipe& pipe) {
+    return openPipeOf(renewController(), pipe);
+}
+
+std::unique_ptr<ScopedPipe> SelectionContext::openPipeOf(XMLReadWriteController& controller,
+                                                         const ManagementPipe& pipe) const {
+    auto opened = std::make_unique<ScopedPipe>(controller, serverIP, pipe);
+    if (opened->isOpen())
+        return opened;
+    reportFailedStatus(opened->status());
+    return nullptr;
 }
 
 QString SelectionContext::selectedPathName() {

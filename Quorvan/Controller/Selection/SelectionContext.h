@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/ViewModal/ScopedPipe.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <QString>
@@ -17,9 +18,12 @@ struct SelectionContext {
     /// A request controller for the next operation.
     XMLReadWriteController& renewController();
 
-    /// Opens a pipe for the next operation, whose request controller is new; a failure is reported to the
-    /// user.
-    bool openPipe(const char* share, const char* pipe);
+    /// Opens a pipe for the next operation, whose request controller is new; null after a failure, which is
+    /// reported to the user.
+    std::unique_ptr<ScopedPipe> openPipe(const ManagementPipe& pipe);
+    /// The same for an operation of a controller that is there already.
+    std::unique_ptr<ScopedPipe> openPipeOf(XMLReadWriteController& controller,
+                                           const ManagementPipe& pipe) const;
 
     /// The path that was selected, to be shown; requests go to where a link on it leads.
     static QString selectedPathName();

@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPropertyAnimation>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -51,17 +52,17 @@ void ContainerViewController::showDestinationView(ViewController* sourceViewCont
     waiting_ = {sourceViewController, destinationViewController, windowTitle};
     if (switching_)
         return;
-    switching_ = true;
+    const QScopedValueRollback switching(switching_, true);
     while (waiting_)
         perform(*std::exchange(waiting_, {}));
-    switching_ = false;
 }
 
 void ContainerViewController::perform(const Switch& next) {
     const QPixmap before = animates(*this) ? grab() : QPixmap();
     insertChild(1, next.destination);
+    window()->setWindowTitle(next.title); // above the alerts of a destination that cannot load
     next.destination->beginAppearing();
-    window()->setWindowTitle(next.title);
+    window()->setWindowTitle(next.title); // the options page has set its own, which is for the start alone
     layout()->removeWidget(next.source);
     layout()->addWidget(next.destination);
     removeChild(next.source);

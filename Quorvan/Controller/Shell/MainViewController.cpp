@@ -162,14 +162,15 @@ void MainViewController::viewDidAppear() {
 
 void MainViewController::checkLoggedInUser() {
     xmlController = std::make_unique<XMLReadWriteController>();
-    const std::int32_t status = xmlController->openPipe(serverIP, "/IPC$", "/ZelSmbPipe");
-    if (status != 0) {
-        Log("Failed with err - %d", status);
+    ScopedPipe pipe(*xmlController, serverIP, pipes::smbInformation);
+    if (!pipe.isOpen()) {
+        Log("Failed with err - %d", pipe.status());
         displayErrorMsg(errorCode::operationFailed);
         return;
     }
     const std::string userType = xmlController->getUserType();
     if (!featureFlag(readFeatureFlags(), "MorvaneSupport") && userType == identityMorvane) {
+        pipe.drop(); // an alert runs an event loop
         displayErrorMsg(errorCode::loggedUserMorvane);
         AppDelegate::terminate();
         return;
@@ -178,7 +179,6 @@ void MainViewController::checkLoggedInUser() {
         suite->setString("loggedUserType", userType);
         suite->synchronize();
     }
-    XMLReadWriteController::closePipe();
 }
 
 void MainViewController::initMainView() {

@@ -3,6 +3,7 @@
 
 #include "Platform/Bundle.h"
 #include "Quorvan/Toolkit/ViewController.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <memory>
