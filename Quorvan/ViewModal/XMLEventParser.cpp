@@ -1,9 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/ViewModal/XMLEventParser.h"
 
+#include <algorithm>
+#include <array>
 #include <climits>
+#include <cstddef>
 #include <exception>
+#include <functional>
 #include <memory>
+#include <unordered_set>
+#include <utility>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
@@ -11,13 +17,41 @@
 namespace quorvan {
 namespace {
 
+/// Counts how many different names libxml2 keeps, by their addresses in its dictionary. That has a fixed
+/// number of buckets: millions of names would be compared with each other.
+class NameCount {
+public:
+    /// False once there are more than any reply has.
+    bool add(const void* name) {
+        const void*& recent =
+            recent_[std::hash<const void*>()(name) / alignof(std::max_align_t) % recent_.size()];
+        if (std::exchange(recent, name) == name)
+            return true;
+        return all_.insert(name).second ? all_.size() <= XMLEventParser::mostNames : true;
+    }
+
+private:
+    std::array<const void*, 256> recent_{};
+    std::unordered_set<const void*> all_;
+};
+
 /// One run of libxml2 and what stands between its C callbacks and the delegate.
 struct Run {
     XMLEventHandler& delegate;
     xmlParserCtxtPtr context = nullptr;
     std::optional<XMLError> error;
     std::exception_ptr exception; ///< must not pass through libxml2's frames
+    NameCount names;
+    bool isRefused = false;
 };
+
+/// Ends the reading because of something that no reply needs.
+void refuse(Run& run, const char* what) {
+    if (!run.isRefused)
+        run.error = {XML_ERR_NOT_STANDALONE, what};
+    run.isRefused = true;
+    xmlStopParser(run.context);
+}
 
 template <class Event>
 void forward(void* data, Event&& event) {
@@ -36,6 +70,12 @@ const char* text(const xmlChar* bytes) {
 }
 
 void startElement(void* data, const xmlChar* name, const xmlChar** attributes) {
+    Run& run = *static_cast<Run*>(data);
+    bool areFew = run.names.add(name);
+    for (const xmlChar** each = attributes; each != nullptr && *each != nullptr; each += 2)
+        areFew = run.names.add(*each) && areFew;
+    if (!areFew)
+        return refuse(run, "the document has too many different names");
     forward(data, [&](XMLEventHandler& delegate) {
         delegate.didStartElement(text(name), XMLAttributes(reinterpret_cast<const char**>(attributes)));
     });
@@ -51,7 +91,16 @@ void characters(void* data, const xmlChar* bytes, int length) {
     });
 }
 
-/// Keeps the first error: what follows it is often only its consequence.
+void internalSubset(void* data, const xmlChar*, const xmlChar*, const xmlChar*) {
+    refuse(*static_cast<Run*>(data), "the document has a document type");
+}
+
+void processingInstruction(void* data, const xmlChar*, const xmlChar*) {
+    refuse(*static_cast<Run*>(data), "the document has a processing instruction");
+}
+
+/// Keeps the first error: what follows it is often only its consequence. Nothing of it is told to the
+/// delegate, so it need not be read either.
 void keepError(void* data, const char*, ...) {
     Run& run = *static_cast<Run*>(data);
     if (run.error)
@@ -61,6 +110,23 @@ void keepError(void* data, const char*, ...) {
     description.erase(description.find_last_not_of('\n') + 1);
     run.error = {last != nullptr ? last->code : XML_ERR_INTERNAL_ERROR,
                  "line " + std::to_string(last != nullptr ? last->line : 0) + ": " + description};
+    if (run.context->wellFormed == 0)
+        xmlStopParser(run.context);
+}
+
+/// Whether a start tag may hold more attributes than libxml2, which compares each with all before it, reads
+/// in a moment. No tag holds a "<", so that the stretch between two of them bounds it.
+bool hasHugeTag(const std::string& document) {
+    constexpr std::size_t longTag = 8192;
+    for (std::size_t begin = document.find('<'); begin != std::string::npos;) {
+        const std::size_t end = document.find('<', begin + 1);
+        const std::string_view stretch = std::string_view(document).substr(begin, end - begin);
+        if (stretch.size() > longTag &&
+            std::count(stretch.begin(), stretch.end(), '=') > XMLEventParser::mostAttributes)
+            return true;
+        begin = end;
+    }
+    return false;
 }
 
 void freeContext(xmlParserCtxtPtr context) {
@@ -77,6 +143,8 @@ std::optional<XMLError> XMLEventParser::parse(const std::string& document, XMLEv
         return XMLError{XML_ERR_DOCUMENT_END, "the document is too long"};
     if (document.find('\0') != std::string::npos)
         return XMLError{XML_ERR_INVALID_CHAR, "the document holds a NUL"};
+    if (hasHugeTag(document))
+        return XMLError{XML_ERR_ATTRIBUTE_NOT_FINISHED, "the document has a tag with too many attributes"};
     const std::unique_ptr<xmlParserCtxt, decltype(&freeContext)> context(xmlNewParserCtxt(), &freeContext);
     const auto* bytes = reinterpret_cast<const xmlChar*>(document.c_str());
     const xmlParserInputPtr input =
@@ -93,7 +161,9 @@ std::optional<XMLError> XMLEventParser::parse(const std::string& document, XMLEv
     context->sax->characters = characters;
     context->sax->ignorableWhitespace = characters;
     context->sax->error = keepError;
-    Run run{delegate, context.get(), {}, {}};
+    context->sax->internalSubset = internalSubset;
+    context->sax->processingInstruction = processingInstruction;
+    Run run{delegate, context.get(), {}, {}, {}, false};
     context->userData = &run;
     // HUGE lifts the limits on size and depth. NOENT only makes "&amp;" in an attribute come as "&".
     // What the reply was decoded from is known, whatever its declaration says: IGNORE_ENC.
@@ -105,7 +175,7 @@ std::optional<XMLError> XMLEventParser::parse(const std::string& document, XMLEv
         std::rethrow_exception(run.exception);
     if (context->wellFormed == 0 && !run.error)
         run.error = {XML_ERR_INTERNAL_ERROR, "not well-formed"};
-    return context->wellFormed == 0 ? run.error : std::nullopt;
+    return context->wellFormed == 0 || run.isRefused ? run.error : std::nullopt;
 }
 
 } // namespace quorvan

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -74,9 +75,13 @@ public:
 ///
 /// Documents come from a server and are not trusted: nothing is fetched from files or the network, and
 /// only the five entities that XML itself defines are known, so that nothing can be expanded. There
-/// is no limit on the size of a document or the depth of its elements.
+/// is no limit on the size of a document or the depth of its elements, but what would take a time that grows
+/// with its square is refused: a document type, processing instructions, more names or attributes than below.
 class XMLEventParser {
 public:
+    static constexpr std::size_t mostNames = 10'000;        ///< different ones, of elements and attributes
+    static constexpr std::ptrdiff_t mostAttributes = 1'000; ///< of one element
+
     /// Tells `delegate` about the document up to its end or its first error. Returns that error, or
     /// nothing for a well-formed document.
     static std::optional<XMLError> parse(const std::string& document, XMLEventHandler& delegate);

@@ -72,12 +72,32 @@ TEST_F(HostileReply, ExpandsAndFetchesNothing) {
     }
     EXPECT_EQ(controller.getResultValue(
                   "<!DOCTYPE r SYSTEM \"http://127.0.0.1:1/x.dtd\"><r><result value=\"5\"/></r>", {"result"}),
-              "5");
+              "0");
     unlink(secretFile.c_str());
     unlink((secretFile + ".dtd").c_str());
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     EXPECT_LT(usage.ru_maxrss, 1'000'000) << "kilobytes";
+}
+
+TEST(XMLDocument, RefusesWhatTakesATimeThatGrowsWithItsSquare) {
+    std::string attributes = "<r";
+    std::string names = "<r>";
+    for (int number = 0; number < 20'000; ++number) {
+        attributes += " a" + std::to_string(number) + "=\">\"";
+        names += "<n" + std::to_string(number) + "/>";
+    }
+    const std::pair<std::string, std::string> cases[] = {
+        {"<!DOCTYPE r><r/>", "the document has a document type"},
+        {attributes + "/>", "the document has a tag with too many attributes"},
+        {names + "</r>", "the document has too many different names"},
+        {"<r><?target?></r>", "the document has a processing instruction"},
+        {"<r>" + repeated("a = b, ", 20'000) + "</r>", "the document has a tag with too many attributes"},
+    };
+    for (const auto& [text, description] : cases) {
+        const XMLDocument document(text);
+        EXPECT_EQ(document.error() ? document.error()->description : "", description) << text.substr(0, 40);
+    }
 }
 
 TEST_F(HostileReply, MayBeCutAnywhereOrHoldAnyByte) {
