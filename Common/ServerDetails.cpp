@@ -105,12 +105,12 @@ std::string ServerDetails::getFormattedPath(const std::string& path) {
 
 void ServerDetails::getKeychainCred() {
     const std::string& server = unwrap(serverIP, "The shared defaults hold no \"serverIP\"");
-    const platform::KeychainResult found = platform::services().keychain->findInternetPassword(server);
+    platform::KeychainResult found = platform::services().keychain->findInternetPassword(server);
     if (found.status == 0 && found.item) {
         username = found.item->account;
-        require(isUtf8(unwrap(found.item->data, "The keychain item has no data")),
+        require(isUtf8(unwrap(found.item->data, "The keychain item has no data").reveal()),
                 "The data of the keychain item is not UTF-8");
-        password = found.item->data;
+        password = std::move(found.item->data);
     }
     if (username && !username->empty() && *username != "No user account") {
         Log("Volume mapping with username %@", *username);

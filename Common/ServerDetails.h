@@ -31,7 +31,7 @@ public:
     std::optional<std::string> selectedAbsolutePath; ///< the selection as handed over, below /Volumes
     std::optional<std::string> mappedPathName;       ///< the server path of the share's root, VOLUME:\dir
     std::optional<std::string> username;
-    std::optional<std::string> password;        ///< never logged
+    std::optional<platform::Secret> password;
     std::optional<std::int32_t> keychainStatus; ///< 0 or errSecItemNotFound
     std::optional<std::string> loggedUserType;  ///< "ActiveDirectory" or "Morvane"
 

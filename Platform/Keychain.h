@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Secret.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -13,7 +15,7 @@ inline constexpr std::int32_t errSecItemNotFound = -25300;
 /// What the keychain knows about one internet password.
 struct KeychainItem {
     std::optional<std::string> account; ///< user name
-    std::optional<std::string> data;    ///< the secret, as bytes
+    std::optional<Secret> data;         ///< the password
 };
 
 struct KeychainResult {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Secret.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -37,7 +39,7 @@ public:
     virtual int createContext(const std::string& server) = 0;
 
     /// Mounts an "smb://server/share" URL below /Volumes, under a free name.
-    virtual MountResult mount(const std::string& url, const std::string& user, const std::string& password,
+    virtual MountResult mount(const std::string& url, const std::string& user, const Secret& password,
                               const MountOptions& options) = 0;
     virtual int unmount(const std::string& path, bool force) = 0;
 

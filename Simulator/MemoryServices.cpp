@@ -50,7 +50,7 @@ platform::KeychainResult MemoryKeychain::findInternetPassword(const std::string&
     const auto found = items.find(server);
     if (found == items.end())
         return {platform::errSecItemNotFound, {}};
-    return {0, found->second};
+    return {0, platform::KeychainItem{found->second.account, platform::Secret(found->second.password)}};
 }
 
 void MemoryKeychain::setItem(const std::string& server, const std::string& account,

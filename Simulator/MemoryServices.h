@@ -40,8 +40,12 @@ public:
 
     void setItem(const std::string& server, const std::string& account, const std::string& password);
 
-    std::map<std::string, platform::KeychainItem> items; ///< by server, exactly as spelled
-    std::optional<std::int32_t> failure;                 ///< every look-up fails with this status
+    struct Item {
+        std::string account;
+        std::string password;
+    };
+    std::map<std::string, Item> items;   ///< by server, exactly as spelled
+    std::optional<std::int32_t> failure; ///< every look-up fails with this status
 };
 
 } // namespace quorvan::simulator

@@ -66,13 +66,14 @@ std::string SimulatedFileSystem::freeMountPoint(const std::string& share) const 
 }
 
 platform::MountResult SimulatedFileSystem::mount(const std::string& url, const std::string& user,
-                                                 const std::string& password, const platform::MountOptions&) {
+                                                 const platform::Secret& password,
+                                                 const platform::MountOptions&) {
     calls.push_back("mount " + url + " " + user);
     const auto [host, share] = hostAndShare(url);
     const Server* at = findServer(host);
     if (at == nullptr)
         return {EHOSTUNREACH, {}};
-    if (const int error = at->server->checkMount(user, password, share); error != 0)
+    if (const int error = at->server->checkMount(user, password.reveal(), share); error != 0)
         return {error, {}};
     const std::string mountPoint = freeMountPoint(share);
     mounts_[mountPoint] = {at->server, share, user};

@@ -24,7 +24,8 @@ public:
 
     std::string resolve(const std::string& host) override;
     int createContext(const std::string& server) override;
-    platform::MountResult mount(const std::string& url, const std::string& user, const std::string& password,
+    platform::MountResult mount(const std::string& url, const std::string& user,
+                                const platform::Secret& password,
                                 const platform::MountOptions& options) override;
     int unmount(const std::string& path, bool force) override;
     int stat(const std::string& path) override;

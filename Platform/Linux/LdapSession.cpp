@@ -105,25 +105,11 @@ std::string withDomain(const std::string& account, const std::string& base) {
     return domain == nullptr ? account : account + "@" + domain;
 }
 
-/// A keychain item whose secret goes with it.
-struct Credentials {
-    explicit Credentials(KeychainResult found)
-        : result(std::move(found)) {}
-    ~Credentials() {
-        if (areComplete())
-            ::explicit_bzero(&result.item->data->front(), result.item->data->size());
-    }
-    Credentials(const Credentials&) = delete;
-    Credentials& operator=(const Credentials&) = delete;
-
-    /// Logging in with no password would succeed, as nobody.
-    bool areComplete() const {
-        return result.status == 0 && result.item && result.item->account && !result.item->account->empty() &&
-               result.item->data && !result.item->data->empty();
-    }
-
-    KeychainResult result;
-};
+/// Logging in with no password would succeed, anonymously.
+bool isComplete(const KeychainResult& found) {
+    return found.status == 0 && found.item && found.item->account && !found.item->account->empty() &&
+           found.item->data && !found.item->data->empty();
+}
 
 } // namespace
 
@@ -225,12 +211,11 @@ LdapFailure LdapSession::logIn(const std::string& base, Keychain& keychain) {
         return {};
     if (code == LDAP_SERVER_DOWN || code == LDAP_TIMEOUT)
         return answer(code);
-    const Credentials credentials(keychain.findInternetPassword(host_));
-    if (!credentials.areComplete())
+    const KeychainResult found = keychain.findInternetPassword(host_);
+    if (!isComplete(found))
         return failure(EACCES,
                        "lets nobody in: there is neither a valid ticket nor a keyring item for " + host_);
-    const KeychainItem& item = *credentials.result.item;
-    return logInWithPassword(withDomain(*item.account, base), *item.data);
+    return logInWithPassword(withDomain(*found.item->account, base), *found.item->data);
 }
 
 int LdapSession::logInWithTicket() {
@@ -247,9 +232,9 @@ int LdapSession::logInWithTicket() {
                                         acceptProposals, nullptr);
 }
 
-LdapFailure LdapSession::logInWithPassword(const std::string& account, const std::string& password) {
+LdapFailure LdapSession::logInWithPassword(const std::string& account, const Secret& password) {
     LDAP* const handle = handle_.get();
-    berval secret{static_cast<ber_len_t>(password.size()), const_cast<char*>(password.data())};
+    berval secret{static_cast<ber_len_t>(password.size()), const_cast<char*>(password.reveal().data())};
     const auto bind = [&] {
         return ldap_sasl_bind_s(handle, account.c_str(), LDAP_SASL_SIMPLE, &secret, nullptr, nullptr,
                                 nullptr);

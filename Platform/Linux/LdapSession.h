@@ -59,7 +59,7 @@ private:
     LdapFailure startTls(bool byRequest);
     LdapFailure logIn(const std::string& base, Keychain& keychain);
     int logInWithTicket();
-    LdapFailure logInWithPassword(const std::string& account, const std::string& password);
+    LdapFailure logInWithPassword(const std::string& account, const Secret& password);
     bool reachesThisMachine() const;
     LdapFailure failure(int error, const std::string& text) const;
     LdapFailure answer(int code) const;

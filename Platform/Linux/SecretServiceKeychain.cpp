@@ -3,6 +3,7 @@
 
 #include <future>
 #include <memory>
+#include <string_view>
 #include <thread>
 
 #include <libsecret/secret.h>
@@ -40,7 +41,7 @@ std::optional<KeychainItem> contents(SecretItem* item) {
         found.account = user;
     gsize length = 0;
     const char* bytes = secret_value_get(secret.get(), &length);
-    found.data.emplace(bytes, length);
+    found.data.emplace(std::string_view(bytes, length));
     return found;
 }
 
@@ -58,7 +59,7 @@ KeychainResult find(const std::string& server, GCancellable* cancellable) {
         service.get(), SECRET_SCHEMA_COMPAT_NETWORK, attributes.get(),
         static_cast<SecretSearchFlags>(SECRET_SEARCH_ALL | SECRET_SEARCH_LOAD_SECRETS), cancellable,
         nullptr));
-    // After the time limit nobody takes the answer any more, so no secret is copied either.
+    // After the time limit the answer is not waited for, so no password is copied either.
     for (const GList* at = items.get(); at != nullptr && g_cancellable_is_cancelled(cancellable) == FALSE;
          at = at->next) {
         if (auto item = contents(SECRET_ITEM(at->data)))

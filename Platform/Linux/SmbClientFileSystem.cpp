@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <optional>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -20,6 +21,12 @@ const std::string root = volumesFolder + std::string("/");
 int fail(int error) {
     errno = error;
     return -1;
+}
+
+/// Tells one name and password from another without keeping the password.
+std::size_t hashOf(const std::string& user, const Secret& password) {
+    const std::size_t hash = std::hash<std::string_view>()(password.reveal());
+    return std::hash<std::string>()(user + '\0' + std::to_string(hash));
 }
 
 } // namespace
@@ -130,14 +137,14 @@ bool SmbClientFileSystem::attend(const ServerAddress& server, const std::functio
 }
 
 MountResult SmbClientFileSystem::mount(const std::string& url, const std::string& user,
-                                       const std::string& password, const MountOptions&) {
+                                       const Secret& password, const MountOptions&) {
     const std::optional<SmbUrl> share = SmbUrl::parse(url);
-    if (!share || !SmbSession::canUse(user, password))
+    if (!share || !SmbCredentials::canUse(user, password))
         return {EINVAL, {}};
     const ServerAddress server{resolver_.resolve(share->host()).any, share->port()};
     if (server.host.empty())
         return {EHOSTUNREACH, {}};
-    const std::size_t credentials = std::hash<std::string>()(user + '\0' + password);
+    const std::size_t credentials = hashOf(user, password);
     if (const auto refused = refused_.find(share->server);
         refused != refused_.end() && refused->second == credentials)
         return {EACCES, {}};

@@ -45,7 +45,7 @@ public:
     std::string resolve(const std::string& host) override;
     /// 0: mount() needs no preparation.
     int createContext(const std::string& server) override;
-    MountResult mount(const std::string& url, const std::string& user, const std::string& password,
+    MountResult mount(const std::string& url, const std::string& user, const Secret& password,
                       const MountOptions& options) override;
     /// EINVAL when nothing is mounted there, EBUSY when files are open and `force` is false.
     int unmount(const std::string& path, bool force) override;

@@ -4,41 +4,22 @@
 #include "Platform/Linux/SmbConfiguration.h"
 
 #include <cerrno>
-#include <cstring>
-#include <string_view>
 #include <utility>
 
 #include <fcntl.h>
 
 namespace quorvan::platform {
-namespace {
 
-/// The library's own buffers for user name and password.
-constexpr std::size_t longestCredential = 255;
-
-void fillIn(char* target, int size, std::string_view text) {
-    const std::size_t length = text.copy(target, static_cast<std::size_t>(size) - 1);
-    target[length] = '\0';
-}
-
-} // namespace
-
-SmbSession::SmbSession(SmbUrl share, ServerAddress server, std::string user, const std::string& password,
+SmbSession::SmbSession(SmbUrl share, ServerAddress server, std::string user, const Secret& password,
                        std::chrono::milliseconds timeLimit)
     : server_(std::move(server))
     , share_(share.at(server_.host))
-    , user_(std::move(user))
-    , password_(password)
+    , credentials_(share_.host(), std::move(user), password.copy())
     , timeLimit_(timeLimit) {}
 
 SmbSession::~SmbSession() {
     if (context_ != nullptr)
         smbc_free_context(context_, 1);
-    ::explicit_bzero(password_.data(), password_.size());
-}
-
-bool SmbSession::canUse(const std::string& user, const std::string& password) {
-    return user.size() <= longestCredential && password.size() <= longestCredential;
 }
 
 bool SmbSession::makeContext() {
@@ -109,11 +90,8 @@ SmbSession& SmbSession::of(SMBCCTX* context) {
 
 void SmbSession::logIn(SMBCCTX* context, const char* server, const char*, char*, int, char* user,
                        int userSize, char* password, int passwordSize) {
-    const SmbSession& session = of(context);
-    if (session.share_.host() != server)
-        return; // a server may refer to another one, but the password is for this one
-    fillIn(user, userSize, session.user_);
-    fillIn(password, passwordSize, session.password_);
+    of(context).credentials_.answer(server, {user, static_cast<std::size_t>(userSize)},
+                                    {password, static_cast<std::size_t>(passwordSize)});
 }
 
 int SmbSession::connectionAdded(SMBCCTX* context, SMBCSRV* connection, const char* server, const char* share,

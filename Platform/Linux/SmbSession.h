@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Platform/Linux/SmbCredentials.h"
 #include "Platform/Linux/SmbSockets.h"
 #include "Platform/Linux/SmbUrl.h"
 
@@ -16,14 +17,11 @@ namespace quorvan::platform {
 /// the library's own, for each message: a last resort behind the caller's.
 class SmbSession {
 public:
-    SmbSession(SmbUrl share, ServerAddress server, std::string user, const std::string& password,
+    SmbSession(SmbUrl share, ServerAddress server, std::string user, const Secret& password,
                std::chrono::milliseconds timeLimit);
     ~SmbSession();
     SmbSession(const SmbSession&) = delete;
     SmbSession& operator=(const SmbSession&) = delete;
-
-    /// Whether the library takes these as they are; it would log in with a part of longer ones.
-    static bool canUse(const std::string& user, const std::string& password);
 
     /// Logs in and connects to the share; 0 or an errno value.
     int connect();
@@ -48,8 +46,7 @@ private:
 
     ServerAddress server_;
     SmbUrl share_; ///< on the server's address, so that the library has no name to resolve
-    std::string user_;
-    std::string password_;
+    SmbCredentials credentials_;
     std::chrono::milliseconds timeLimit_;
     SMBCCTX* context_ = nullptr;
     SMBCSRV* connection_ = nullptr; ///< owned by the context

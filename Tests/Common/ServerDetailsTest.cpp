@@ -38,7 +38,7 @@ TEST_F(ServerDetailsTest, ReadsTheHandOverThenTheKeychain) {
     EXPECT_EQ(details.selectedAbsolutePath, "/Volumes/bob/a.txt");
     EXPECT_EQ(details.mappedPathName, "VOL1:\\users\\bob");
     EXPECT_EQ(details.username, "bob");
-    EXPECT_EQ(details.password, "secret");
+    EXPECT_EQ(details.password.value().reveal(), "secret");
     EXPECT_EQ(details.keychainStatus, 0);
     EXPECT_THAT(world.defaults->openedSuites, ElementsAre("group.tarnix.common"));
     EXPECT_THAT(log.lines, ElementsAre("Path selected is bob:\\a.txt",

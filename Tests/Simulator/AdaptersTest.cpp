@@ -14,7 +14,9 @@ using testing::ElementsAre;
 /// The demo world with its management share mounted.
 class DemoWorld : public testing::Test {
 protected:
-    DemoWorld() { network.mount("smb://192.0.2.10/IPC$", demo::supervisor, demo::password, {}); }
+    DemoWorld() {
+        network.mount("smb://192.0.2.10/IPC$", demo::supervisor, platform::Secret(demo::password), {});
+    }
 
     int send(int descriptor, const std::string& request) {
         network.seek(descriptor, 0);
@@ -54,7 +56,7 @@ TEST_F(DemoWorld, MountsUnderFreeNames) {
         {"nfs://192.0.2.10/IPC$", "ingrid.holm", "kelp", EHOSTUNREACH, ""},
     };
     for (const auto& [url, user, password, error, mountPoint] : cases) {
-        const platform::MountResult result = network.mount(url, user, password, {});
+        const platform::MountResult result = network.mount(url, user, platform::Secret(password), {});
         EXPECT_EQ(result.error, error) << url << user;
         EXPECT_EQ(result.mountPoints.empty() ? "" : result.mountPoints[0], mountPoint) << url;
     }

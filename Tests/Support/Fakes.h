@@ -42,11 +42,18 @@ struct FakeSharedDefaults : platform::SharedDefaults {
 };
 
 struct FakeKeychain : platform::Keychain {
-    std::map<std::string, platform::KeychainItem> items; ///< by server
+    struct Item {
+        std::optional<std::string> account, data;
+    };
+    std::map<std::string, Item> items; ///< by server
     platform::KeychainResult findInternetPassword(const std::string& server) override {
         const auto item = items.find(server);
-        return item == items.end() ? platform::KeychainResult{platform::errSecItemNotFound, {}}
-                                   : platform::KeychainResult{0, item->second};
+        if (item == items.end())
+            return {platform::errSecItemNotFound, {}};
+        platform::KeychainItem found{item->second.account, {}};
+        if (item->second.data)
+            found.data.emplace(*item->second.data);
+        return {0, std::move(found)};
     }
 };
 
@@ -69,9 +76,10 @@ struct FakeNetwork : platform::NetworkFileSystem {
         calls.push_back("context " + server);
         return contextError;
     }
-    platform::MountResult mount(const std::string& url, const std::string& user, const std::string& password,
+    platform::MountResult mount(const std::string& url, const std::string& user,
+                                const platform::Secret& password,
                                 const platform::MountOptions& options) override {
-        calls.push_back("mount " + url + " " + user + " " + password +
+        calls.push_back("mount " + url + " " + user + " " + std::string(password.reveal()) +
                         (options.noUserInterface ? " NoUI" : "") +
                         (options.allowSubMounts ? " AllowSubMounts" : ""));
         return mountResult;

@@ -50,8 +50,8 @@ struct OneItem : Keychain {
     std::string server, account = DomainController::administrator, data = DomainController::password;
     KeychainResult findInternetPassword(const std::string& wanted) override {
         if (wanted != server)
-            return {-25300, std::nullopt};
-        return {0, KeychainItem{account, data}};
+            return {errSecItemNotFound, std::nullopt};
+        return {0, KeychainItem{account, Secret(data)}};
     }
 };
 

@@ -162,7 +162,7 @@ TEST_F(Adapters, GiveEachFailedMountItsErrorAndLogLine) {
 TEST_F(Adapters, GiveASecondMountAFreeName) {
     SmbClientFileSystem files([](std::string_view) {});
     const auto mount = [&] {
-        return files.mount(server->url("IPC$"), RealServer::user, RealServer::password, {});
+        return files.mount(server->url("IPC$"), RealServer::user, platform::Secret(RealServer::password), {});
     };
     EXPECT_THAT(mount().mountPoints, ElementsAre("/Volumes/IPC$"));
     EXPECT_THAT(mount().mountPoints, ElementsAre("/Volumes/IPC$-1"));

@@ -91,7 +91,7 @@ TEST(SmbdTest, IsLoggedInToByTheUserAndSignedOrNotAtAll) {
                                             {.silence = std::chrono::seconds(5)});
         platform::MountResult mounted;
         for (int tries = 0; tries < 200; ++tries) { // until smbd listens
-            mounted = files.mount(smbd.url(), "root", item.secret, {});
+            mounted = files.mount(smbd.url(), "root", platform::Secret(item.secret), {});
             if (mounted.error != ECONNREFUSED)
                 break;
             ::usleep(20'000);

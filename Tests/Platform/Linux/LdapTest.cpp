@@ -138,7 +138,7 @@ private:
 
 struct SameItem : Keychain {
     KeychainResult findInternetPassword(const std::string&) override {
-        return {0, KeychainItem{"u", "s3cret"}};
+        return {0, KeychainItem{"u", Secret("s3cret")}};
     }
 };
 

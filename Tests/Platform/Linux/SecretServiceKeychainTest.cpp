@@ -36,12 +36,12 @@ TEST_F(SecretService, FindsTheNetworkPasswordOfExactlyThisServer) {
     ASSERT_TRUE(found.item);
     EXPECT_EQ(found.status, 0);
     EXPECT_EQ(found.item->account, "zoë");
-    EXPECT_EQ(found.item->data, "pä ss\n word");
+    EXPECT_EQ(found.item->data.value().reveal(), "pä ss\n word");
 
     const KeychainResult nameless = keychain.findInternetPassword("nameless.example");
     ASSERT_TRUE(nameless.item);
     EXPECT_EQ(nameless.item->account, std::nullopt);
-    EXPECT_EQ(nameless.item->data, "x");
+    EXPECT_EQ(nameless.item->data.value().reveal(), "x");
 
     for (const char* server : {"files", "FILES.example", "files.example.com", "", "\xFF"}) {
         const KeychainResult result = keychain.findInternetPassword(server);

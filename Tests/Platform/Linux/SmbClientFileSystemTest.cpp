@@ -82,7 +82,8 @@ TEST(SmbClientFileSystemTest, GivesEachFailedMountItsOwnErrorWithinTheTimeLimit)
         {silent.url(), "x", ETIMEDOUT},
     };
     for (const auto& item : cases) {
-        const platform::MountResult result = network.mount(item.url, "bob", item.password, {});
+        const platform::MountResult result =
+            network.mount(item.url, "bob", platform::Secret(item.password), {});
         EXPECT_EQ(result.error, item.error) << item.url;
         EXPECT_TRUE(result.mountPoints.empty());
     }

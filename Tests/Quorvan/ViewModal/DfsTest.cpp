@@ -31,7 +31,7 @@ struct ScriptedNetwork : FakeNetwork {
     std::deque<std::string> replies;
     std::string closed; ///< the pipe that cannot be opened
 
-    platform::MountResult mount(const std::string& url, const std::string&, const std::string&,
+    platform::MountResult mount(const std::string& url, const std::string&, const platform::Secret&,
                                 const platform::MountOptions&) override {
         const std::string host = url.substr(6);
         return {0, {"/Volumes/" + host.substr(0, host.find('/'))}};

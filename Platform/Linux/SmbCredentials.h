@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "Platform/Secret.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace quorvan::platform {
+
+/// Name and password for one server, and for no other that it may refer to.
+class SmbCredentials {
+public:
+    SmbCredentials(std::string host, std::string user, Secret password);
+
+    /// Whether the library takes these as they are; it would log in with a part of longer ones.
+    static bool canUse(std::string_view user, const Secret& password);
+
+    /// Answers the library's question for a login: fills its buffers when `host` is the server that this is
+    /// for, and leaves them as they are for any other.
+    void answer(std::string_view host, std::span<char> user, std::span<char> password) const;
+
+private:
+    std::string host_;
+    std::string user_;
+    Secret password_;
+};
+
+} // namespace quorvan::platform
