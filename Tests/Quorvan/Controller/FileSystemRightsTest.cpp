@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 #include "Quorvan/Controller/Rights/GroupRightsViewController.h"
+#include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Toolkit/FileTreeModel.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
 
@@ -31,48 +32,38 @@ struct FileSystemRightsTest : WindowTest {
 
 TEST_F(FileSystemRightsTest, SendsOneRequestForEachChangeInTheOrderOfTheEdits) {
     openFor("Zoe");
-    EXPECT_THAT(rows(), ElementsAre("Box", "Box\\Low RWECMFA"));
-    EXPECT_TRUE(isEnabled("grpBtn") && isEnabled("addBtn") && isEnabled("removeBtn"));
-    view<Page>().onReturnSelectedUser({"Zoe"}, {"Zoe"}, "Groups");
-    EXPECT_FALSE(isEnabled("grpBtn")) << "groups are in no groups";
+    play("| rows Box, Box\\Low RWECMFA | grpBtn ready | addBtn ready | removeBtn ready");
+    view<Page>().onReturnSelectedUser({"Zoe"}, {"Zoe"}, "Groups"); // which are in no groups
+    EXPECT_FALSE(isEnabled("grpBtn"));
     view<Page>().onReturnSelectedUser({"?", "admin"}, {"?", "admin"}, "Users");
-    EXPECT_EQ(value("namefield"), "admin");
-    EXPECT_THAT(rows(), ElementsAre("Box RF", "Box\\Low RF"));
-    EXPECT_FALSE(changesEnabled());
+    play("| namefield admin | rows Box RF, Box\\Low RF | applyBtn grey | revertBtn grey");
 
+    world.server->addPath("VOL1:\\Tests\\Box\\50% #1 ü");
     act("tick 1W");
     addPaths({"Tests/Box/Low", "Tests/Box/50%25%20%231%20%C3%BC"}); // one that is listed is skipped
-    act("tick 2E");                                                 // goes into the pending addition
-    act("pick 0, removeBtn");
+    act("tick 2E, pick 0, removeBtn");                              // the tick goes into the pending addition
     addPaths({"Tests/Box"});
-    EXPECT_THAT(rows(), ElementsAre("Box\\Low RWF", "Box\\50% #1 ü REF", "Box RF"));
-    world.server->addPath("VOL1:\\Tests\\Box\\50% #1 ü");
-    act("pick 1, applyBtn");
-    EXPECT_THAT(changes(), ElementsAre("add admin Box\\Low", "add admin Box\\50% #1 ü", "remove admin Box",
-                                       "add admin Box"));
-    EXPECT_THAT(rows(), ElementsAre("Box RF", "Box\\50% #1 ü REF", "Box\\Low RWF"));
-    EXPECT_FALSE(changesEnabled());
-    EXPECT_THAT(alerts(), IsEmpty());
-
+    play(R"(
+                            | rows Box\Low RWF, Box\50% #1 ü REF, Box RF | applyBtn ready | revertBtn ready
+        pick 1, applyBtn    | sent add admin Box\Low / add admin Box\50% #1 ü / remove admin Box / add admin Box
+                            | rows Box RF, Box\50% #1 ü REF, Box\Low RWF | applyBtn grey | revertBtn grey | alerts
+    )");
     addPaths({"Current Project"}); // a link
     EXPECT_EQ(act("applyBtn").changes().front(), "add admin VOL1:\\Current Project");
     EXPECT_EQ(view<Page>().selectedPath, box) << "where a change leads, the selection does not follow";
-    EXPECT_THAT(rows(), SizeIs(3));
-
-    EXPECT_EQ(act("tick 0R, revertBtn").rows()[0], "Box RF");
-    EXPECT_FALSE(changesEnabled());
-    act("removeBtn, applyBtn"); // nothing is selected, and nothing pending
-    EXPECT_FALSE(changesEnabled());
-    act("tick 0R");
+    play(R"(
+                            | count 3
+        tick 0R, revertBtn  | row 0 Box RF | applyBtn grey
+        removeBtn, applyBtn | sent | applyBtn grey                  // nothing is selected, and nothing pending
+        tick 0R
+    )");
     take("selectUserBtn", "Users_Title", meridal, {"Zoe"}); // drops what is pending
-    EXPECT_THAT(act("header, header").rows(), ElementsAre("Box\\Low RWECMFA", "Box"));
+    play("header, header | rows Box\\Low RWECMFA, Box");
     addPaths({"Tests"});
-    EXPECT_THAT(act("applyBtn").changes(), ElementsAre("add Zoe VOL1:\\Tests"));
-
+    play("applyBtn | sent add Zoe VOL1:\\Tests");
     breakPipes();
     view<Page>().onReturnMorvaneSelectedUser({});
-    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed", "Err_Operation_Failed"));
-    EXPECT_EQ(title(), "Rights Management");
+    play("| alerts Err_Operation_Failed, Err_Operation_Failed | title Rights Management");
 }
 
 TEST_F(FileSystemRightsTest, TurnsLocalAddressesIntoServerPaths) {
@@ -90,18 +81,12 @@ TEST_F(FileSystemRightsTest, TheFolderBrowserHandsOnWhatIsSelectedInTheOrderOfTh
     std::ofstream(volume / "latin-\xFC");
     std::filesystem::create_symlink("nowhere", volume / "dangling");
     openFor("admin");
-    EXPECT_EQ(act("addBtn").value("pathController"), "/Volumes/VOL1");
-    EXPECT_FALSE(isShown("notMountedLabel") || isEnabled("selectBtn"));
-
+    play("addBtn | pathController /Volumes/VOL1 | notMountedLabel hidden | selectBtn grey");
     auto& tree = control<QTreeView>("fileBrowser");
     const auto child = [&tree](const QModelIndex& parent, const std::string& name) {
         const auto found = tree.model()->match(tree.model()->index(0, 0, parent), Qt::DisplayRole,
                                                QString::fromStdString(name), 1, Qt::MatchExactly);
         return found.isEmpty() ? QModelIndex() : found.front();
-    };
-    const auto choose = [&tree](const std::vector<QModelIndex>& chosen) {
-        for (const QModelIndex& each : chosen)
-            tree.selectionModel()->select(each, QItemSelectionModel::Select);
     };
     const QModelIndex tests = child(tree.model()->index(0, 0), "Tests");
     tree.setCurrentIndex(tests);
@@ -119,11 +104,12 @@ TEST_F(FileSystemRightsTest, TheFolderBrowserHandsOnWhatIsSelectedInTheOrderOfTh
     tree.collapse(box);
     tree.expand(box);
     EXPECT_TRUE(child(box, "later").isValid()) << "a folder is listed again whenever it is opened";
-
-    choose({child(box, "a b%20#ü"), box});
+    tree.setCurrentIndex(box);
     tree.clearSelection();
     EXPECT_TRUE(isEnabled("selectBtn")) << "once on, it stays so";
-    choose({child(box, "a b%20#ü"), child(box, odd), tests});
+    for (const QModelIndex& chosen : {box, child(box, "a b%20#ü"), child(box, odd), tests})
+        tree.selectionModel()->select(chosen, QItemSelectionModel::Select);
+    tree.selectionModel()->select(box, QItemSelectionModel::Deselect);
     Texts expected = {"VOL1:\\Tests", "VOL1:\\Tests\\Box\\a b%20#ü", "VOL1:\\Tests\\Box\\latin-\xFC"};
     if (child(box, odd).row() < child(box, "a b%20#ü").row())
         std::swap(expected[1], expected[2]);
@@ -170,35 +156,30 @@ TEST_F(FileSystemRightsTest, GroupRightsOfEitherDirectoryAppearWithEveryAppearan
     world.server->setTrustee(box, choir, 0x041);
 
     openFor("Ann");
-    act("grpBtn");
+    play("grpBtn, tick 0W | rows >Staff Box\\Low RMF"); // is for reading
     EXPECT_THAT(view<GroupRightsViewController>().grpIDs, ElementsAre("S-1-staff"));
-    act("tick 0W"); // is for reading
-    EXPECT_THAT(rows(), ElementsAre(">Staff Box\\Low RMF"));
     view<GroupRightsViewController>().viewWillAppear();
-    EXPECT_THAT(rows(), ElementsAre("Staff Box\\Low RMF", "Staff Box\\Low RMF"));
-    EXPECT_THAT(act("type searchField zzz").rows(), IsEmpty());
-    EXPECT_THAT(act("type searchField st?ff").rows(), SizeIs(2));
+    play("| rows Staff Box\\Low RMF, Staff Box\\Low RMF");
+    play("type searchField zzz | empty nothing like zzz");
+    play("type searchField st?ff | count 2");
 
-    open("files", demo::supervisorTree);
+    Shared::value().bothID = true;
+    open("files");
     take("selectUserBtn", "Users_Title", verlag, {"CN=Eve.OU=Verlag.O=Meridal"});
-    EXPECT_THAT(act("grpBtn").rows(), ElementsAre(".CN=Choir.OU=Verlag.O=Meridal.MERIDAL-TREE. Box RF"));
+    play("grpBtn | rows .CN=Choir.OU=Verlag.O=Meridal.MERIDAL-TREE. Box RF");
     auto& groups = view<GroupRightsViewController>();
     EXPECT_THAT(groups.grpIDs, ElementsAre("guid-choir"));
     groups.grouplist.clear();
     groups.addToDataSource(groups.frightsList);
     EXPECT_EQ(groups.grpTrusteeList.back().groupName, "Unknown");
-    act("closeBtn");
 
     world.server->misbehaviour.code = 7;
     world.server->misbehaviour.onlyWith = "<attributeName>guid<";
-    act("grpBtn");
+    act("closeBtn, grpBtn");
     EXPECT_THAT(view<GroupRightsViewController>().grouplist, SizeIs(1));
     EXPECT_THAT(view<GroupRightsViewController>().grpIDs, IsEmpty()) << "the server's code is no ID";
-    act("closeBtn");
-    breakPipes();
-    act("grpBtn");
-    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed", "Err_Operation_Failed")) << "one for each pipe";
-    EXPECT_EQ(title(), "Group_Rights_Title");
+    play("closeBtn, break pipes, grpBtn | alerts Err_Operation_Failed, Err_Operation_Failed | title "
+         "Group_Rights_Title");
 }
 
 } // namespace

@@ -88,6 +88,7 @@ TEST_F(InformationTest, TakesTheOwnerFromEitherDirectory) {
         EXPECT_THAT(act("applyButton").changes(), ElementsAre(owner.id));
         EXPECT_EQ(node(demo::fileOfNobody).owner, owner.id);
         EXPECT_EQ(state("ownerField applyButton"), owner.name + ", grey");
+        EXPECT_THAT(act("hideChk, applyButton").changes(), SizeIs(1)) << "the owner is not sent again";
     }
     Shared::value().bothID = false;
     openFile();

@@ -15,53 +15,42 @@ namespace {
 using MainWindowTest = WindowTest;
 
 TEST_F(MainWindowTest, AsksWhoIsLoggedInBeforeItOpens) {
+    const Texts marks = {"Path selected is",
+                         "Path mapped and selected is",
+                         "Volume mapping with username",
+                         "init",
+                         "Get userType Request : ",
+                         "Get userType Response: ",
+                         "pipe closed"};
     openWindow();
-    Texts marks;
+    Texts found;
     for (const std::string& line : log.lines)
-        for (const char* mark :
-             {"Path selected is", "Path mapped and selected is", "Volume mapping with username", "init",
-              "Get userType Request : ", "Get userType Response: ", "pipe closed"})
-            if (line.starts_with(mark))
-                marks.emplace_back(mark);
-    EXPECT_THAT(marks,
-                ElementsAre("Path selected is", "Path mapped and selected is", "Volume mapping with username",
-                            "init", "Get userType Request : ", "Get userType Response: ", "pipe closed"));
+        std::ranges::copy_if(marks, std::back_inserter(found),
+                             [&](const auto& mark) { return line.starts_with(mark); });
+    EXPECT_EQ(found, marks);
     EXPECT_EQ(defaultOf("loggedUserType"), "ActiveDirectory");
     EXPECT_EQ(world.network->openDescriptors(), 0U);
-    EXPECT_THAT(alerts(), IsEmpty());
-    EXPECT_EQ(title(), "RM_Window_Title");
-    EXPECT_EQ(value("managedServer"), "on files.meridal.example");
-    for (const auto& [label, text] : {std::pair{"menu1", "Trustee_Rights_Title"},
-                                      {"menu2", "File_System_Rights_Title"},
-                                      {"menu3", "User_Quota_Title"},
-                                      {"menu6", "Information_Title"},
-                                      {"menu4", "Settings_Title"}})
-        EXPECT_EQ(value(label), text);
-    EXPECT_FALSE(isShown("tryAgainBtn"));
+    EXPECT_EQ(state("menu1 menu2 menu3 menu6 menu4"), "Trustee_Rights_Title, File_System_Rights_Title, "
+                                                      "User_Quota_Title, Information_Title, Settings_Title");
+    play("| title RM_Window_Title | managedServer on files.meridal.example | tryAgainBtn hidden | alerts");
 }
 
 TEST_F(MainWindowTest, OpensWithoutAnAnswerAndAsksAgainOnRequest) {
-    const struct {
-        int mountError, openError;
-        const char* line;
-    } cases[] = {{0, ENOENT, "Failed with err - -1"},
-                 {EHOSTUNREACH, 0, "Failed with err - 113"},
-                 {0, 0, "Failed with err - -25300"}};
-    for (const auto& [mountError, openError, line] : cases) {
+    for (const auto& [mountError, openError, line] : {std::tuple{0, ENOENT, "Failed with err - -1"},
+                                                      {EHOSTUNREACH, 0, "Failed with err - 113"},
+                                                      {0, 0, "Failed with err - -25300"}}) {
         world.sharedDefaults->values("group.tarnix.common").erase("loggedUserType");
         if (mountError == 0 && openError == 0)
             losePassword();
         world.server->misbehaviour.mountError = mountError;
         world.server->misbehaviour.openError = openError;
         openWindow();
-        EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
         EXPECT_THAT(log.take(), Contains(line));
         EXPECT_EQ(reached(), "tryAgainBtn") << "no view could say whose rights it shows";
-        EXPECT_FALSE(act("tryAgainBtn").isEnabled("TrusteeRightsView"));
+        play("tryAgainBtn | alerts Err_Operation_Failed, Err_Operation_Failed | TrusteeRightsView grey");
         mend();
         forgetServer();
-        EXPECT_TRUE(act("tryAgainBtn").isEnabled("TrusteeRightsView") && !isShown("tryAgainBtn"));
-        alerts();
+        play("tryAgainBtn | alerts | TrusteeRightsView ready | SalvageView ready | tryAgainBtn hidden");
     }
     breakPipes();
     defaultOf("loggedUserType") = "Morvane";
@@ -71,51 +60,47 @@ TEST_F(MainWindowTest, OpensWithoutAnAnswerAndAsksAgainOnRequest) {
 }
 
 TEST_F(MainWindowTest, LeadsToEveryPageByKeyAndBackAskingAnew) {
-    const struct {
-        const char *title, *close;
-    } pages[] = {{"Trustee_Rights_Title", "closeBtn"}, {"File_System_Rights_Title", "cancelBtn"},
-                 {"User_Quota_Title", "closeButton"},  {"Information_Title", "closeButton"},
-                 {"Settings_Title", "CloseBtn"},       {"Salvage_Title", "closeButton"},
-                 {"Purge_Title", "closeButton"}};
+    const std::pair<const char*, const char*> pages[] = {
+        {"Trustee_Rights_Title", "closeBtn"}, {"File_System_Rights_Title", "cancelBtn"},
+        {"User_Quota_Title", "closeButton"},  {"Information_Title", "closeButton"},
+        {"Settings_Title", "CloseBtn"},       {"Salvage_Title", "closeButton"},
+        {"Purge_Title", "closeButton"}};
     openWindow();
-    for (int number = 0; const auto& page : pages) {
-        for (int step = 0; step < number; ++step)
+    for (std::size_t number = 0; const auto& [pageTitle, closeButton] : pages) {
+        for (std::size_t step = 0; step < number; ++step)
             act("key Tab");
-        EXPECT_EQ(act("key Return").title(), page.title);
+        EXPECT_EQ(act("key Return").title(), pageTitle);
         EXPECT_EQ(window->size(), window->sizeHint().boundedTo(window->screen()->availableSize()));
         const QPointer<QWidget> left = window->container->childControllers().front();
         defaultOf("loggedUserType") = "Morvane";
-        EXPECT_EQ(act(page.close).title(), "Rights Management");
+        EXPECT_EQ(act(closeButton).title(), "Rights Management");
         EXPECT_EQ(defaultOf("loggedUserType"), "ActiveDirectory");
         EXPECT_TRUE(control("TrusteeRightsView").hasFocus() && left.isNull());
-        EXPECT_EQ(requestsTo("/ZelSmbPipe"), static_cast<std::size_t>(++number) + 1);
+        EXPECT_EQ(requestsTo("/ZelSmbPipe"), ++number + 1);
     }
-    EXPECT_THAT(alerts(), IsEmpty());
 }
 
 TEST_F(MainWindowTest, LoadsATabAnewOnEachVisit) {
     open("rights");
-    auto& tabs = control<QTabWidget>("tabView");
-    Texts titles;
-    for (int item = 0; item < tabs.count(); ++item)
-        titles.push_back(tabs.tabText(item).toStdString());
-    EXPECT_THAT(titles, ElementsAre("Rights_Label", "Inherited_Rights_Label", "Effective_Rights_Label",
-                                    "Trustee_Directories_Label"));
     EXPECT_TRUE(control("rightsTable").hasFocus());
+    auto& tabs = control<QTabWidget>("tabView");
+    EXPECT_EQ(tabs.tabText(0) + tabs.tabText(1) + tabs.tabText(2) + tabs.tabText(3),
+              "Rights_LabelInherited_Rights_LabelEffective_Rights_LabelTrustee_Directories_Label");
     const std::size_t loads = requestsTo("/FilesCmdPipe");
-    act("tab 2");
-    EXPECT_EQ(requestsTo("/FilesCmdPipe"), loads + 2) << "the user's own rights, and those of all trustees";
+    EXPECT_EQ(act("tab 2").requestsTo("/FilesCmdPipe"), loads + 2)
+        << "the user's own rights, and all others'";
     EXPECT_EQ(act("tab 0").requestsTo("/FilesCmdPipe"), 2 * loads + 2);
 }
 
 TEST_F(MainWindowTest, SettingsSwitchBothDirectoriesOnAndOutliveThePage) {
-    for (const auto& [user, text, before] : {std::tuple{demo::supervisor, "Morvane_Trustee_Label", false},
-                                             {demo::accessControlTree, "AD_Trustee_Label", true}}) {
-        EXPECT_EQ(open("settings", user).value("ListBoth"), text);
-        EXPECT_EQ(value("ListBoth", "checked"), before ? "true" : "false");
-        EXPECT_EQ(value("LogInfoLabel"), "/Users/<username>/Library/Logs/tarnix");
-        EXPECT_THAT(act("ListBoth, CloseBtn, TrusteeRightsView").rows(), SizeIs(before ? 1 : 5));
-    }
+    play(R"(
+        open settings              | ListBoth off | LogInfoLabel /Users/<username>/Library/Logs/tarnix
+        ListBoth, CloseBtn, TrusteeRightsView | count 5
+        open settings pnovak       | ListBoth on
+    )");
+    EXPECT_EQ(value("ListBoth"), "AD_Trustee_Label");
+    play("ListBoth, CloseBtn, TrusteeRightsView | count 1");
+    EXPECT_EQ(open("settings").value("ListBoth"), "Morvane_Trustee_Label");
 }
 
 TEST_F(MainWindowTest, LeavesThePlaceOfTheSettingsOutWhereTheyAreSwitchedOff) {
@@ -141,15 +126,14 @@ TEST_F(MainWindowTest, LeavesThePlaceOfTheSettingsOutWhereTheyAreSwitchedOff) {
 
 TEST_F(MainWindowTest, LeadsToTheDeletedFilesAndSendsNothing) {
     openWindow();
-    for (const auto& [entry, expected] :
+    for (const auto& [entry, name] :
          {std::pair{"SalvageView", "Salvage_Title"}, {"PurgeView", "Purge_Title"}}) {
-        EXPECT_EQ(act(entry).value("deletedFileButton"), expected);
-        for (const char* button : {"deletedFileButton", "moreInfoButton"}) {
-            act(button);
-            EXPECT_EQ(title() + value("actionButton"), std::string("More_Information_Title") + expected);
-            act("cancelButton");
+        EXPECT_EQ(act(entry).value("deletedFileButton"), name);
+        for (const std::string button : {"deletedFileButton", "moreInfoButton"}) {
+            EXPECT_EQ(act(button).value("actionButton"), name);
+            EXPECT_EQ(title(), "More_Information_Title");
+            EXPECT_EQ(act("cancelButton").title(), name);
         }
-        EXPECT_EQ(title(), expected);
         EXPECT_EQ(act("closeButton").title(), "Rights Management");
     }
     EXPECT_EQ(world.server->requestCount(), requestsTo("/ZelSmbPipe")) << "more than who is logged in";
@@ -163,14 +147,14 @@ TEST_F(MainWindowTest, KeepsAPageThatIsTooLargeOnTheScreen) {
     };
     Storyboard::named("Main").add("settingsView", [] { return new HugePage; });
     openWindow();
-    const QRect room = window->screen()->availableGeometry();
-    window->move(room.left() + 100, room.top() + 20);
+    const QRect screen = window->screen()->availableGeometry();
+    window->move(screen.left() + 100, screen.top() + 20);
     act("SettingView");
-    EXPECT_EQ(window->frameGeometry().width(), room.width());
-    EXPECT_TRUE(room.contains(window->frameGeometry()));
+    EXPECT_EQ(window->frameGeometry().width(), screen.width());
+    EXPECT_TRUE(screen.contains(window->frameGeometry()));
     Storyboard::named("Main").add("optionsViewController", [] { return new HugePage; });
     openWindow();
-    EXPECT_LE(window->width(), room.width());
+    EXPECT_LE(window->width(), screen.width());
 }
 
 } // namespace

@@ -30,108 +30,98 @@ struct UserQuotaTest : WindowTest {
                                                    "guid-" + std::to_string(i)));
         open("quota", demo::supervisorTree);
     }
-    /// The rows as "Smith 1 GB, User 0 1 GB".
-    std::string limits() const {
-        static const QRegularExpression rest(R"(MERIDAL\\|CN=|\.OU=Verlag\.O=Meridal|( \S+ .?B){2}$)");
-        QStringList found;
-        for (const std::string& row : rows("userQuotaTable"))
-            found.append(QString::fromStdString(row).remove(rest));
-        return found.join(", ").toStdString();
-    }
-    std::string limitsAfter(const std::string& script) {
-        act(script);
-        return limits();
-    }
-    std::string limitsEdited(const std::string& rows, const std::string& limit) {
-        return limitsAfter("pick " + rows + ", editUQButton, type quotaLimitTextField " + limit + ", okBtn");
+    void edit(const std::string& rows, const std::string& limit) {
+        act("pick " + rows + ", editUQButton, type quotaLimitTextField " + limit + ", okBtn");
     }
     std::int64_t onServer(const std::string& id) const {
         const auto quotas = world.server->volumes().userQuotas("VOL2")->entries();
         return std::ranges::find(quotas, id, [](const auto& quota) { return quota.user->id; })->limit;
     }
-    const std::string none = " 9223372036854775807"; // amount of who has no limit
 };
 
 TEST_F(UserQuotaTest, ListsSearchesAndSorts) {
     openWith(2);
-    open("quota");
-    EXPECT_THAT(rows(), Each(testing::EndsWith(" 1 GB 0 KB 1 GB")));
-    const std::pair<const char*, const char*> steps[] = {
-        {"key Tab", "Smith 1 GB, jürgen 1 GB, Jan 1 GB"},
-        {"type searchField SMI", "Smith 1 GB"},
-        {"type searchField *j*n", "jürgen 1 GB, Jan 1 GB"},
-        {"header", "Jan 1 GB, jürgen 1 GB"},
-        {"type searchField q", ""},
-        {"key Escape", "Smith 1 GB, jürgen 1 GB, Jan 1 GB"},
-        {"pick 1, header", "Jan 1 GB, >jürgen 1 GB, Smith 1 GB"},
-        {"removeUQButton", "Jan 1 GB, Smith 1 GB"}};
-    for (const auto& [step, shown] : steps) {
-        EXPECT_EQ(limitsAfter(step), shown) << step;
-        EXPECT_TRUE(*shown != '\0' || emptyText() == "nothing like q");
-    }
+    play(R"(
+        open quota                | rows MERIDAL\Smith 1 GB 0 KB 1 GB, MERIDAL\jürgen 1 GB 0 KB 1 GB, MERIDAL\Jan 1 GB 0 KB 1 GB
+        type searchField SMI      | rows MERIDAL\Smith 1 GB 0 KB 1 GB
+        type searchField *j*n     | rows MERIDAL\jürgen 1 GB 0 KB 1 GB, MERIDAL\Jan 1 GB 0 KB 1 GB
+        header                    | rows MERIDAL\Jan 1 GB 0 KB 1 GB, MERIDAL\jürgen 1 GB 0 KB 1 GB
+        type searchField q        | empty nothing like q
+        key Escape                | row 0 MERIDAL\Smith 1 GB 0 KB 1 GB | count 3
+        pick 1, header            | rows MERIDAL\Jan 1 GB 0 KB 1 GB, >MERIDAL\jürgen 1 GB 0 KB 1 GB, MERIDAL\Smith 1 GB 0 KB 1 GB
+        removeUQButton            | rows MERIDAL\Jan 1 GB 0 KB 1 GB, MERIDAL\Smith 1 GB 0 KB 1 GB
+    )");
     Shared::value().bothID = true;
-    open("quota");
-    EXPECT_EQ(limits(), "Smith 1 GB, jürgen 1 GB, Jan 1 GB, User 0 1 GB, User 1 1 GB");
-    EXPECT_THAT(act("pick 0 3, removeUQButton, applyButton").changes(),
-                ElementsAre("S-1-5-21-Smith" + none + "; guid-0" + none));
+    play(R"(
+        open quota                | count 5 | row 3 CN=User 0.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB
+        pick 0 3, removeUQButton, applyButton | sent S-1-5-21-Smith 9223372036854775807; guid-0 9223372036854775807
+    )");
 }
 
 TEST_F(UserQuotaTest, AddsEditsAndRemovesInOneGo) {
-    openWith(4);
-    EXPECT_EQ(limitsEdited("1 2", "5"), "User 1 5 GB, User 2 5 GB, User 0 1 GB, User 3 1 GB");
-    EXPECT_EQ(state("applyButton revert"), "ready, ready");
+    openWith(5);
+    edit("1 2", "5");
     control("userQuotaTable").setFocus();
-    EXPECT_EQ(limitsAfter("pick 3 2, key Del"), "User 1 5 GB, User 2 5 GB");
-
-    // Added: one who was just removed, one who is listed, and one more; the first is picked twice.
-    act("addUQButton");
+    play(R"(
+        | applyButton ready | revert ready | row 0 CN=User 1.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB | row 2 CN=User 0.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB
+        pick 3 2, key Del | count 3
+        addUQButton
+    )");
+    // Two who are listed, one who was just removed, and one more; the third is picked twice.
     const std::string pavel = account(demo::accessControlTree).id;
-    view<AddUserQuotaViewController>().onReturnMorvaneSelectedUser(
-        {User("zero", "user", "guid-0"), User("one", "user", "guid-1"), User("Pavel", "user", pavel),
-         User("again", "user", "guid-0")});
-    EXPECT_THAT(alerts(), ElementsAre("Err_Msg_Duplicate_Trustee"));
-    EXPECT_THAT(log.take(), Contains("Trustee is already present"));
-    EXPECT_THAT(rows("userList"), ElementsAre("zero", "one", "Pavel"));
-    EXPECT_EQ(limitsAfter("choose selectUnit TB, type quotaLimitTextField 2, okBtn"),
-              "zero 2 TB, User 1 2 TB, Pavel 2 TB, User 2 5 GB");
-    EXPECT_EQ(rows()[2], "Pavel 2 TB 0 KB 2 TB");
+    std::vector<User> chosen;
+    for (const std::string& id :
+         {std::string("guid-1"), std::string("guid-4"), std::string("guid-0"), pavel, std::string("guid-0")})
+        chosen.emplace_back(id == pavel ? "Pavel" : id, "user", id);
+    view<AddUserQuotaViewController>().onReturnMorvaneSelectedUser(chosen);
+    play(R"(
+        | alerts Err_Msg_Duplicate_Trustee | logged Trustee is already present | rows:userList guid-1, guid-4, guid-0, Pavel
+        choose selectUnit TB, type quotaLimitTextField 2, okBtn | rows CN=User 1.OU=Verlag.O=Meridal 2 TB 0 KB 2 TB, CN=User 4.OU=Verlag.O=Meridal 2 TB 0 KB 2 TB, guid-0 2 TB 0 KB 2 TB, Pavel 2 TB 0 KB 2 TB, CN=User 2.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
+    )");
     EXPECT_THAT(act("applyButton").changes(),
-                ElementsAre("guid-0" + none + "; guid-3" + none +
-                            "; guid-1 2199023255552; guid-2 5368709120; guid-0 2199023255552; " + pavel +
-                            " 2199023255552"));
+                ElementsAre("guid-0 9223372036854775807; guid-3 9223372036854775807; guid-1 2199023255552; "
+                            "guid-2 5368709120; guid-4 2199023255552; guid-0 2199023255552; " +
+                            pavel + " 2199023255552"));
     EXPECT_EQ(onServer("guid-0"), gigabyte << 11);
-    EXPECT_EQ(state("applyButton revert"), "grey, grey");
     EXPECT_EQ(world.network->openDescriptors(), 0U);
-
-    limitsEdited("0", "7");
-    EXPECT_THAT(act("pick 0, removeUQButton, revert").rows(), SizeIs(4));
-    EXPECT_EQ(state("applyButton revert"), "grey, grey");
-    EXPECT_EQ(view<UserQuotaViewController>().usersToRemove.size(), 0U);
-    EXPECT_EQ(act("closeButton").title(), "Rights Management");
+    play("| applyButton grey | revert grey | count 5");
+    edit("0", "7");
+    play("pick 0, removeUQButton, revert | count 5 | applyButton grey | revert grey");
+    EXPECT_THAT(view<UserQuotaViewController>().usersToRemove, IsEmpty());
+    play("closeButton | title Rights Management | sent");
 }
 
 TEST_F(UserQuotaTest, MarksTheRowsOfTheWholeListWhileASearchIsOn) {
     openWith(4);
     act("type searchField User 3"); // the dialog gets User 3, but it is User 0 that is marked
-    EXPECT_EQ(limitsEdited("0", "5"), "User 3 5 GB, User 0 1 GB, User 1 1 GB, User 2 1 GB");
-    EXPECT_EQ(value("searchField"), "");
-    EXPECT_THAT(act("applyButton").changes(), ElementsAre("guid-0 1073741824"));
+    edit("0", "5");
+    play("| count 4 | row 0 CN=User 3.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB | searchField ");
+    play("applyButton | sent guid-0 1073741824");
 }
 
 TEST_F(UserQuotaTest, LivesWithUsersWhoShareAnId) {
-    for (const char* user : {"First", "Twin", "Other"})
-        addQuota(world.identities->addTreeUser(user, "Verlag", user));
-    const_cast<simulator::Identity*>(world.identities->findById("Twin"))->id = "First";
+    for (const char* user : {"First", "Twin", "Other"}) {
+        auto& identity = world.identities->addTreeUser(user, "Verlag", user);
+        identity.id = user == std::string("Twin") ? "First" : user;
+        addQuota(identity);
+    }
     openWith(0);
-    EXPECT_EQ(limitsEdited("2", "5"), "Other 5 GB, First 1 GB, Twin 1 GB");
-    act("revert"); // both stand for the first, and the second is still listed
-    EXPECT_EQ(limitsEdited("0 1", "6"), "First 6 GB, First 6 GB, Twin 6 GB, Other 1 GB");
-    limitsEdited("3", "7"); // the row has no number in the whole list, so nobody is marked
-    EXPECT_THAT(act("applyButton").changes(), ElementsAre("First 6442450944; First 6442450944"));
-    EXPECT_EQ(limitsAfter("pick 0, removeUQButton"), "Other 1 GB");
-    EXPECT_EQ(limitsAfter("type searchField *, type searchField "), "Twin 1 GB, Other 1 GB")
-        << "only the one that was chosen is gone";
-    EXPECT_THAT(act("applyButton").changes(), ElementsAre("First" + none));
+    edit("2", "5");
+    play(R"(
+                                 | count 3 | row 0 CN=Other.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
+        pick 1 2, removeUQButton, type searchField *, type searchField | rows CN=Other.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
+        revert
+    )");
+    edit("0 1", "6"); // both stand for the first, and the second is still listed
+    play("| count 4 | row 1 CN=First.OU=Verlag.O=Meridal 6 GB 0 KB 6 GB | row 2 CN=Twin.OU=Verlag.O=Meridal "
+         "6 GB 0 KB 6 GB");
+    edit("3", "7"); // the row has no number in the whole list, so none is marked
+    play(R"(
+        applyButton              | sent First 6442450944; First 6442450944 | count 3
+        pick 0, removeUQButton   | rows CN=Other.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB
+        type searchField *, type searchField | rows CN=Twin.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB, CN=Other.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB // only the one that was chosen is gone
+        applyButton              | sent First 9223372036854775807
+    )");
 }
 
 TEST_F(UserQuotaTest, KeepsTheDialogOpenForWhatIsNoLimit) {
@@ -145,14 +135,14 @@ TEST_F(UserQuotaTest, KeepsTheDialogOpenForWhatIsNoLimit) {
     for (const std::string text : {"8192", "9223372036854775807"})
         EXPECT_DEATH((setLogSink({}), act("type quotaLimitTextField " + text + ", okBtn")),
                      "too large for its unit");
-    EXPECT_EQ(limitsAfter("type quotaLimitTextField 8191, okBtn"), "User 0 8191 PB");
-    limitsEdited("0", "-1"); // a number, which the server refuses
-    EXPECT_THAT(act("applyButton").changes(), ElementsAre("guid-0 -1073741824"));
-    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
-
-    EXPECT_EQ(act("addUQButton").title(), "Add_User_Quota_Title");
-    EXPECT_EQ(act("type quotaLimitTextField 1, okBtn").state("applyButton"), "grey") << "nobody was chosen";
-    EXPECT_EQ(act("addUQButton, cancelBtn").title(), "User_Quota_Title");
+    play("type quotaLimitTextField 8191, okBtn | row 0 CN=User 0.OU=Verlag.O=Meridal 8191 PB 0 KB 8191 PB");
+    edit("0", "-1"); // a number, which the server refuses
+    play(R"(
+        applyButton              | sent guid-0 -1073741824 | alerts Err_Operation_Failed
+        addUQButton              | title Add_User_Quota_Title
+        type quotaLimitTextField 1, okBtn | title User_Quota_Title | applyButton grey // no user was chosen
+        addUQButton, cancelBtn   | title User_Quota_Title
+    )");
 }
 
 TEST_F(UserQuotaTest, TakesUsersFromTheSheetsOfEitherDirectory) {
@@ -194,26 +184,21 @@ TEST_F(UserQuotaTest, SendsThreeHundredAtATime) {
     act("editUQButton, type quotaLimitTextField 4, okBtn");
     view<UserQuotaViewController>().usersEdited[450]->SID = "guid-gone";
     EXPECT_EQ(sizesAfter("applyButton"), Sizes({300, 300, 1}));
-    EXPECT_THAT(log.take(), Contains("Failed with err - 20904"));
-    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
-    EXPECT_THAT(rows()[450], testing::StartsWith("CN=User 450.OU=Verlag.O=Meridal 4 GB"))
-        << "what was edited stays";
-    EXPECT_EQ(state("applyButton revert"), "grey, grey");
+    play(R"(
+        | logged Failed with err - 20904 | alerts Err_Operation_Failed | applyButton grey | revert grey
+        | row 450 CN=User 450.OU=Verlag.O=Meridal 4 GB 0 KB 4 GB    // what was edited stays on show
+    )");
     EXPECT_EQ(onServer("guid-600"), 4 * gigabyte) << "the rest was sent all the same";
 }
 
 TEST_F(UserQuotaTest, ReportsWhatFails) {
     openWith(1);
-    limitsEdited("0", "5");
+    edit("0", "5");
     world.server->misbehaviour.onlyPipe = "/Manage_KELP/user.cmd";
-    breakPipes();
-    EXPECT_THAT(act("applyButton").alerts(), ElementsAre("Err_Operation_Failed", "Err_Operation_Failed"));
-    EXPECT_EQ(limits(), "");
-    EXPECT_EQ(emptyText(), "User_Quotas_Unknown_Label");
-    mend();
-    losePassword();
-    EXPECT_THAT(act("revert").alerts(), ElementsAre("Err_Keychain_Not_Found"));
-    EXPECT_EQ(state("applyButton revert"), "grey, grey");
+    play(R"(
+        break pipes, applyButton    | alerts Err_Operation_Failed, Err_Operation_Failed | empty User_Quotas_Unknown_Label
+        mend, lose password, revert | alerts Err_Keychain_Not_Found | applyButton grey | revert grey
+    )");
 }
 
 } // namespace

@@ -121,6 +121,14 @@ WindowTest& WindowTest::act(const std::string& script) {
         } else if (verb == "key") {
             const QKeyCombination key = QKeySequence(object.c_str())[0];
             QTest::keyClick(focus() != nullptr ? focus() : &front(), key.key(), key.keyboardModifiers());
+        } else if (verb == "open") {
+            open(object.c_str(), rest.isEmpty() ? demo::supervisor : rest.toUtf8().constData());
+        } else if (verb == "break") {
+            breakPipes();
+        } else if (verb == "lose") {
+            losePassword();
+        } else if (verb == "mend") {
+            mend();
         } else if (verb == "tab") {
             auto& bar = control<QTabBar>("");
             QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(std::stoi(object)).center());
@@ -133,6 +141,54 @@ WindowTest& WindowTest::act(const std::string& script) {
         }
     }
     return *this;
+}
+
+void WindowTest::play(const char* scenario) {
+    for (const QString& line : QString(scenario).split('\n')) {
+        SCOPED_TRACE(line.trimmed().toStdString());
+        const QStringList cells = line.section(" //", 0, 0).split('|');
+        if (const std::string script = cells[0].trimmed().toStdString(); !script.empty())
+            act(script);
+        for (const QString& cell : cells.mid(1))
+            expect(cell.trimmed().section(' ', 0, 0), cell.trimmed().section(' ', 1));
+    }
+}
+
+void WindowTest::expect(const QString& what, const QString& wanted) {
+    const auto joined = [](const Texts& texts, const char* by) {
+        std::string all;
+        for (const std::string& text : texts)
+            all += (all.empty() ? "" : by) + text;
+        return all;
+    };
+    const std::string kind = what.section(':', 0, 0).toStdString();
+    const std::string list = what.section(':', 1).toStdString();
+    std::string seen;
+    if (kind == "rows") {
+        seen = joined(rows(list), ", ");
+    } else if (kind == "row") {
+        const QString row = wanted.section(' ', 0, 0);
+        seen = row.toStdString() + ' ' + rows(list).at(row.toUInt());
+    } else if (kind == "count") {
+        seen = std::to_string(rows(list).size());
+    } else if (kind == "empty") {
+        seen = rows(list).empty() ? table(list).emptyText().toStdString() : "not empty";
+    } else if (kind == "sent") {
+        seen = joined(changes(), " / ");
+    } else if (kind == "alerts") {
+        seen = joined(alerts(), ", ");
+    } else if (kind == "logged") {
+        for (const std::string& line : log.lines)
+            if (QString::fromStdString(line).trimmed() == wanted)
+                seen = wanted.toStdString();
+    } else if (kind == "title") {
+        seen = title();
+    } else if (kind == "focus") {
+        seen = focus()->objectName().toStdString();
+    } else {
+        seen = state(kind);
+    }
+    EXPECT_EQ(seen, wanted.toStdString()) << kind;
 }
 
 void WindowTest::actOnTable(const QString& verb, ListTable& list, const QStringList& arguments) {
@@ -212,11 +268,6 @@ std::string WindowTest::state(const std::string& names) const {
     return states.join(", ").toStdString();
 }
 
-bool WindowTest::changesEnabled(const char* apply, const char* revert) const {
-    EXPECT_EQ(isEnabled(apply), isEnabled(revert));
-    return isEnabled(apply);
-}
-
 std::string WindowTest::value(const char* name, const char* property) const {
     return control(name).property(property).toString().toStdString();
 }
@@ -240,10 +291,6 @@ Texts WindowTest::rows(const std::string& name) const {
         found.push_back((std::ranges::count(selected, row) != 0 ? ">" : "") + shortened(texts.join(' ')));
     }
     return found;
-}
-
-std::string WindowTest::emptyText(const char* name) const {
-    return table(name).emptyText().toStdString();
 }
 
 std::string WindowTest::reached() {

@@ -60,6 +60,12 @@ struct WindowTest : testing::Test {
     /// control with the keyboard, "tab 2" opens a tab. A table is named behind a colon: "pick:subdirTable 1".
     WindowTest& act(const std::string& script);
     void click(const std::string& name);
+    /// Carries out a scenario of lines "SCRIPT | EXPECTED | EXPECTED … // why". Expected is "rows A, B" (or
+    /// "rows:TABLE …"), "row 1 A", "count 5", "empty TEXT" of a list without rows, "sent A / B" and "alerts
+    /// A, B" since the last time, "logged LINE", "title TEXT", "focus NAME", or a control's name and its
+    /// state. Beside what act() does, a script may "open PAGE USER", "break pipes", "lose password" and
+    /// "mend".
+    void play(const char* scenario);
     /// Fetches a category, "Users_Title", from a domain or from below a place in the tree in the browser that
     /// the button opens.
     void browse(const char* button, const char* category, const char* place);
@@ -85,15 +91,12 @@ struct WindowTest : testing::Test {
     /// off, a button's "ready"; "grey" behind or instead of it when it is disabled, "hidden" for what is not
     /// there.
     std::string state(const std::string& names) const;
-    /// Whether there is something to send, or to take back.
-    bool changesEnabled(const char* apply = "applyBtn", const char* revert = "revertBtn") const;
     /// The value of a control's property: what it reads, whether it is checked, …
     std::string value(const char* name, const char* property = "text") const;
     std::string title() const { return front().windowTitle().toStdString(); }
     /// The rows of a table: the texts of its columns, then the letters of the ticked boxes; ">" in front of
     /// those that are selected.
     Texts rows(const std::string& table = "") const;
-    std::string emptyText(const char* table = "") const;
     /// The controls that Tab reaches from where the keyboard is, until it is there again; "read only" at the
     /// end where the page says so.
     std::string reached();
@@ -133,6 +136,7 @@ private:
                 return *found;
         throw std::runtime_error("there is no " + name);
     }
+    void expect(const QString& what, const QString& wanted);
     void actOnTable(const QString& verb, ListTable& table, const QStringList& arguments);
     ListTable& table(const std::string& name) const { return control<ListTable>(name); }
     std::size_t seen_ = 0;
