@@ -1,39 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The life cycle takes over standard streams and ends processes, so each run is a process of its own.
 #include "Quorvan/AppDelegate.h"
-#include "Common/Log.h"
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
-#include "Quorvan/Controller/Shell/MainWindow.h"
-#include "Simulator/Embedded.h"
-#include "Tests/Support/Fakes.h"
+#include "Tests/Quorvan/Controller/WindowTest.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QMenu>
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include <gmock/gmock.h>
-
 #include <csignal>
-#include <string>
-#include <vector>
 
 namespace quorvan::test {
 namespace {
 
-using testing::AllOf;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::EndsWith;
 using testing::ExitedWithCode;
-using testing::HasSubstr;
-using testing::Not;
-namespace demo = simulator::demo;
 
 struct LoggingAlerts : platform::Alerts {
     void runModal(const std::string&, const std::string& message, platform::AlertStyle) override {
@@ -52,18 +35,16 @@ struct AppDelegateTest : testing::Test {
     ~AppDelegateTest() override { qunsetenv("QUORVAN_TEST_LIBRARY"); }
 
     QString logFile() const { return QString::fromStdString(library + "/Logs/tarnix/Quorvan.log"); }
-
     /// The log's lines without their prefixes.
-    std::vector<std::string> logLines() const {
+    Texts logLines() const {
         QFile file(logFile());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        std::vector<std::string> lines;
+        Texts lines;
         for (const QByteArray& line : file.readAll().split('\n'))
             lines.push_back(line.mid(line.startsWith("20") ? line.indexOf("] ") + 2 : 0).toStdString());
         lines.pop_back();
         return lines;
     }
-
     /// Runs the program in this process until its end; `act` happens once the window is there.
     template <class Action>
     [[noreturn]] void runToTheEnd(const char* user, bool morvaneSupport, Action act) {
@@ -81,7 +62,7 @@ struct AppDelegateTest : testing::Test {
         QObject::connect(&later, &QTimer::timeout, [&] {
             if (delegate.mainWindow() != nullptr && delegate.mainWindow()->isVisible()) {
                 later.stop();
-                act(delegate, world);
+                act(delegate);
             }
         });
         later.start(0);
@@ -91,13 +72,12 @@ struct AppDelegateTest : testing::Test {
         Log("loggedUserType %@", world.sharedDefaults->values(groupSuiteName)["loggedUserType"]);
         std::exit(status);
     }
-
     QTemporaryDir folder;
     std::string library;
 };
 
 TEST_F(AppDelegateTest, AppendsEverythingThatIsWrittenToOneFile) {
-    const auto run = [&](const char* line) {
+    const auto run = [this](const char* line) {
         const AppDelegate delegate(library);
         Log(line);
         std::puts("printed");
@@ -129,48 +109,43 @@ TEST_F(AppDelegateTest, KeepsTheStreamsWhereNoLogFileCanBe) {
 }
 
 TEST_F(AppDelegateTest, UnmountsWhenTheWindowIsClosed) {
-    EXPECT_EXIT(
-        runToTheEnd(demo::supervisor, true,
-                    [](AppDelegate& delegate, auto&) {
-                        Log("titles %@ %@ %@ %@ %@ %@ %@ %@ %@", delegate.AboutQuorvan->text().toStdString(),
-                            delegate.Preferences->text().toStdString(),
-                            delegate.Services->text().toStdString(),
-                            delegate.HideQuorvan->text().toStdString(),
-                            delegate.HideOthers->text().toStdString(), delegate.ShowAll->text().toStdString(),
-                            delegate.QuitQuorvan->text().toStdString(), delegate.Help->title().toStdString(),
-                            delegate.QuorvanHelp->text().toStdString());
-                        delegate.mainWindow()->close();
-                    }),
-        ExitedWithCode(0), "");
-    const auto lines = logLines();
+    const auto close = [](AppDelegate& delegate) {
+        std::string titles = delegate.Help->title().toStdString();
+        for (const QAction* item :
+             {delegate.AboutQuorvan, delegate.Preferences, delegate.Services, delegate.HideQuorvan,
+              delegate.HideOthers, delegate.ShowAll, delegate.QuitQuorvan, delegate.QuorvanHelp})
+            titles += ' ' + item->text().toStdString();
+        Log("%@", titles);
+        delegate.mainWindow()->close();
+    };
+    EXPECT_EXIT(runToTheEnd(demo::supervisor, true, close), ExitedWithCode(0), "");
+    Texts lines = logLines();
     EXPECT_THAT(lines,
-                Contains("titles AboutQuorvan_title Preferences_title Services_title HideQuorvan_title "
-                         "HideOthers_title ShowAll_title QuitQuorvan_title Help_title QuorvanHelp_title"));
-    const auto closing = std::find_if(lines.begin(), lines.end(), [](const std::string& line) {
-        return line.starts_with("Closing Rights Management ");
-    });
-    ASSERT_NE(closing, lines.end());
-    EXPECT_THAT(std::vector(closing + 1, lines.end()),
-                ElementsAre("unmount 192.0.2.10/IPC$'s - /IPC$ : 0", "window not shown", "mounts left 0",
-                            "loggedUserType ActiveDirectory"));
+                Contains("Help_title AboutQuorvan_title Preferences_title Services_title HideQuorvan_title "
+                         "HideOthers_title ShowAll_title QuitQuorvan_title QuorvanHelp_title"));
+    lines.erase(lines.begin(), lines.end() - 5);
+    EXPECT_THAT(lines, ElementsAre(testing::StartsWith("Closing Rights Management "),
+                                   "unmount 192.0.2.10/IPC$'s - /IPC$ : 0", "window not shown",
+                                   "mounts left 0", "loggedUserType ActiveDirectory"));
 }
 
 TEST_F(AppDelegateTest, EndsForAUserWhoIsNotSupported) {
-    EXPECT_EXIT(runToTheEnd(demo::supervisorTree, false, [](auto&, auto&) { std::exit(3); }),
-                ExitedWithCode(0), "");
-    EXPECT_THAT(logLines(),
-                AllOf(Contains("alert Err_Logged_User_Morvane"),
-                      Contains("unmount 192.0.2.10/IPC$'s - /IPC$ : 0"), Contains("window not shown"),
-                      Contains("mounts left 0"), Contains("loggedUserType "),
-                      Not(Contains(HasSubstr("Closing Rights Management"))), Not(Contains("pipe closed"))));
+    EXPECT_EXIT(runToTheEnd(demo::supervisorTree, false, [](auto&) { std::exit(3); }), ExitedWithCode(0), "");
+    Texts lines = logLines();
+    EXPECT_THAT(lines,
+                testing::AllOf(Contains("alert Err_Logged_User_Morvane"), Not(Contains("pipe closed"))));
+    lines.erase(lines.begin(), lines.end() - 4);
+    EXPECT_THAT(lines, ElementsAre("unmount 192.0.2.10/IPC$'s - /IPC$ : 0", "window not shown",
+                                   "mounts left 0", "loggedUserType "));
 }
 
 TEST_F(AppDelegateTest, EndsInOrderOnASignalAndOnQuit) {
-    EXPECT_EXIT(runToTheEnd(demo::supervisor, false, [](auto&, auto&) { raise(SIGTERM); }), ExitedWithCode(0),
-                "");
-    EXPECT_EXIT(runToTheEnd(demo::supervisor, false,
-                            [](AppDelegate& delegate, auto&) { delegate.QuitQuorvan->trigger(); }),
-                ExitedWithCode(0), "");
+    for (const bool bySignal : {true, false}) {
+        const auto end = [&](AppDelegate& delegate) {
+            bySignal ? (void)raise(SIGTERM) : delegate.QuitQuorvan->trigger();
+        };
+        EXPECT_EXIT(runToTheEnd(demo::supervisor, false, end), ExitedWithCode(0), "");
+    }
     EXPECT_THAT(logLines(), Contains("mounts left 0").Times(2));
     EXPECT_THAT(logLines(), Contains("unmount 192.0.2.10/IPC$'s - /IPC$ : 0").Times(2));
 }

@@ -36,6 +36,7 @@ TEST_F(IdentityBrowsersTest, ListsOneCategoryOfTheTreeBelowABase) {
         type searchField a, choose userTypePopUp Groups_Title | searchField  | count 0
         btnFetch                 | row 0 CN=Redaktion.OU=Verlag.O=Meridal | focus userListTable
         type searchField redak   | rows CN=Redaktion.OU=Verlag.O=Meridal
+        type treeTextField .OU=Verlag.O=Meridal., type searchField redak, btnFetch | rows CN=Redaktion.OU=Verlag.O=Meridal
         type treeTextField .OU=Leitung.O=Meridal., type searchField red | count 0
         btnFetch, type searchField  | empty no groups below .OU=Leitung.O=Meridal.
         cancelButton, addBtn     | treeTextField .OU=Leitung.O=Meridal.
