@@ -97,10 +97,14 @@ std::string ServerDetails::getFormattedPath(const std::string& path) {
     std::string formatted = last == std::string::npos ? path : path.substr(last + root.size());
     require(!formatted.empty(), "The path \"%@\" names nothing below /Volumes", path);
     eraseFirstCharacter(formatted);
-    if (formatted.find('/') == std::string::npos)
-        return formatted + ":\\";
-    std::replace(formatted.begin(), formatted.end(), '/', '\\');
-    return formatted.insert(formatted.find('\\'), 1, ':');
+    return serverForm(std::move(formatted), ":\\");
+}
+
+std::string ServerDetails::serverForm(std::string belowVolumes, const char* rootEnd) {
+    if (belowVolumes.find('/') == std::string::npos)
+        return belowVolumes + rootEnd;
+    std::replace(belowVolumes.begin(), belowVolumes.end(), '/', '\\');
+    return belowVolumes.insert(belowVolumes.find('\\'), 1, ':');
 }
 
 void ServerDetails::getKeychainCred() {

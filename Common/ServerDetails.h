@@ -38,6 +38,9 @@ public:
     /// Turns a local path below /Volumes into server form: /Volumes/VOL1/dir/file is VOL1:\dir\file.
     static std::string getFormattedPath(const std::string& path);
 
+    /// The server form of a path relative to /Volumes. A mere VOL1, which has none, gets `rootEnd` appended.
+    static std::string serverForm(std::string belowVolumes, const char* rootEnd);
+
     /// Fills username, password and keychainStatus from the keychain item of serverIP.
     void getKeychainCred();
 

@@ -4,35 +4,24 @@
 #include "Quorvan/Modal/FileInfo.h"
 #include "Quorvan/Modal/UserQuotaData.h"
 #include "Quorvan/Modal/Users.h"
-#include "Quorvan/ViewModal/XMLResponseParse.h"
+#include "Quorvan/ViewModal/DictionaryForMountedPIPE.h"
+#include "Quorvan/ViewModal/IdentitySet.h"
+#include "Quorvan/ViewModal/Replies/ReplyPass.h"
+#include "Quorvan/ViewModal/Replies/XMLResponseParse.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace quorvan {
 
-/// Where each management share is mounted. Lives in memory only.
-class DictionaryForMountedPIPE {
-public:
-    static DictionaryForMountedPIPE& mountDict();
-
-    /// "ADDRESS/SHARE" (no scheme) -> the mount point without its leading "/Volumes".
-    std::map<std::string, std::string> PipeMapDict;
-
-    void removeValue(const std::string& key);
-
-    /// Unmounts every share, by force; failures are only logged.
-    void unmountAll() const;
-};
+struct FileProperty;
 
 /// The three texts that frame an exchange in the log. The labels hold one "%@".
 struct ExchangeLog {
@@ -40,13 +29,6 @@ struct ExchangeLog {
     std::string_view completion;
     std::string_view response;
 };
-
-/// Identities by ID, for asking "is this one of them?" without making a copy.
-struct IdentityHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view id) const { return std::hash<std::string_view>{}(id); }
-};
-using IdentitySet = std::unordered_set<std::string, IdentityHash, std::equal_to<>>;
 
 /// The request layer: opens a pipe file of the server, writes one request, reads one reply, and turns
 /// replies into records. Operations are named after what they ask; those ending in HandleDFS open and
@@ -295,21 +277,28 @@ public:
                                             const std::string& identityType);
 
 private:
-    struct SelectionRequest;
+    /// Reads a reply once: its entries into dictResponse, and for other readers. The rest of what the event
+    /// pass learned comes back.
+    template <class... Readers>
+    XMLResponseParser parse(const std::string& reply, const ElementPath& resultPath, Readers&... others) {
+        XMLResponseParser entries(resultPath);
+        entries.error = readReply(reply, entries, others...);
+        dictResponse = std::move(entries.arrStack);
+        return entries;
+    }
+    XMLResponseParser parse(const std::string& reply) { return parse(reply, {}); }
+    static std::string statusOf(const std::optional<XMLError>& error, const ResultElement& result);
+    static std::string statusOf(const XMLResponseParser& parsed) {
+        return statusOf(parsed.error, parsed.result);
+    }
 
-    /// What the event pass learned about a reply; its entries have moved on into dictResponse.
-    XMLResponseParser parse(const std::string& reply, const ElementPath& resultPath = {});
-    std::string statusOf(const XMLResponseParser& parsed) const;
-    std::string setOneTrustee(const std::string& element, const ElementPath& resultPath,
+    std::string setOneTrustee(const std::string& request, const ElementPath& resultPath,
                               const ExchangeLog& log);
-    std::int32_t performHandleDFS(const SelectionRequest& request, std::string& server,
-                                  std::string& selectedPath, const std::string& mappedPath);
-    std::int32_t followLink(const SelectionRequest& request, std::string& server, std::string& selectedPath,
-                            const std::string& mappedPath);
-    std::string getFileInfo(const std::string& request, const ExchangeLog& log,
-                            const std::function<void(const std::string& reply)>& decode);
-    std::string askTree(const std::string& request, const ExchangeLog& log,
-                        const std::function<std::string(const std::string& reply)>& parse);
+    template <class Info>
+    std::string getFileInfo(const std::string& request, const ExchangeLog& log, const FileProperty& property,
+                            Info& info);
+    template <class Reader>
+    std::string askTree(const std::string& request, const ExchangeLog& log, Reader&& reader);
 };
 
 } // namespace quorvan

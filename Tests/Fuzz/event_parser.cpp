@@ -2,7 +2,7 @@
 //
 // Any bytes as a reply: the event pass, the tree and the row reader agree on what is XML, and no text that
 // comes out of them is ill-formed.
-#include "Quorvan/ViewModal/XMLRows.h"
+#include "Quorvan/ViewModal/Replies/ElementReaders.h"
 #include "Tests/Fuzz/Harness.h"
 
 using namespace quorvan;
@@ -27,7 +27,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const XMLDocument document(reply);
     std::string ofRows;
-    const auto error = readRows(reply, {}, [&](XMLElement row) { ofRows += row.stringValue(); });
+    RowReader rows({}, [&](XMLElement row) { ofRows += row.stringValue(); });
+    const auto error = readReply(reply, rows);
     test::expect(error == document.error());
     if (error)
         return 0;

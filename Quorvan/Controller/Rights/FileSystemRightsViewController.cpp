@@ -3,7 +3,9 @@
 
 #include "Common/FeatureFlags.h"
 #include "Common/Log.h"
+#include "Common/ServerDetails.h"
 #include "Platform/PercentEscapes.h"
+#include "Platform/VolumesFolder.h"
 #include "Quorvan/Controller/Rights/GroupRightsViewController.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
@@ -153,18 +155,13 @@ void FileSystemRightsViewController::prepare(const Segue& segue) {
 }
 
 std::string FileSystemRightsViewController::formatPath(const std::string& selpath) {
-    constexpr std::string_view volumes = "file:///Volumes/";
+    const std::string volumes = std::string("file://") + platform::volumesFolder + "/";
     if (selpath.empty())
         return {};
     std::string path = selpath;
     if (const std::size_t at = path.find(volumes); at != std::string::npos)
         path.erase(at, volumes.size());
-    const std::size_t volumeEnd = path.find('/');
-    if (volumeEnd == std::string::npos)
-        return path + '\\';
-    std::ranges::replace(path, '/', '\\');
-    const std::size_t first = path.find('\\');
-    return path.insert(first, ":");
+    return ServerDetails::serverForm(std::move(path), "\\"); // no colon after a mere volume
 }
 
 void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std::string>& selpath) {

@@ -129,6 +129,77 @@ TEST_F(RequestLayer, ReadsRepliesThatAreWrittenOnSeveralLines) {
     EXPECT_THAT(names, ElementsAre(" two words ", "", "b")) << "a text that says something stays a child";
 }
 
+/// What is logged and answered, in this order, for a reply that breaks off after a complete row.
+TEST_F(RequestLayer, SaysOfEveryBrokenReplyWhatItSpoils) {
+    const std::string path = "VOL1:\\a";
+    const std::string kelp = "Error parsing KELP Reply - ";
+    OwnerInfo owner;
+    AttributesInfo attributes;
+    DirectoryQuotaInfo quota;
+    UserQuotaList users;
+    std::vector<DirectoryRights> directories;
+    std::vector<IdentityFileRights> files;
+    std::vector<User> objects;
+    std::vector<Group> groups;
+    Strings names = {"kept"};
+    const struct {
+        std::function<std::string()> run;
+        std::string status;
+        Strings complaints;
+    } cases[] = {
+        {[&] { return controller.getFileInfoOwner(path, owner, "Morvane"); },
+         "0",
+         {kelp, "Error parsing ownerInfo - "}},
+        {[&] { return controller.getAttributes(path, attributes, "Morvane"); },
+         "0",
+         {kelp, "Error parsing ownerInfo - "}},
+        {[&] { return controller.getDirectoryQuota(path, quota, "Morvane"); },
+         "0",
+         {kelp, "Error parsing Directory Quota Response - "}},
+        {[&] { return controller.getUserQuotaInfo(path, users, "ActiveDirectory"); },
+         "0",
+         {"Error parsing UserQuota Response : error ", kelp}},
+        {[&] { return controller.getIRRequest(path, directories, "Morvane"); }, "0", {kelp}},
+        {[&] { return controller.getFSRights(path, {"S-1"}, files, "Morvane"); },
+         "0",
+         {"Error parsing FSR Response : error "}},
+        {[&] { return controller.getEffectiveRightsForMappedUser(path, names, "Morvane"); },
+         "-1",
+         {"Error parsing ownerInfo : error "}},
+        {[&] { return controller.getMorvaneBrowse("O=org", objects); },
+         "",
+         {kelp, "Error parsing TRELL Response : error "}},
+        {[&] { return controller.getGuid_Morvane("", ""); },
+         "0",
+         {kelp, "Error parsing TRELL Morvane Guid Response : error "}},
+        {[&] { return controller.getGroupMemberShip_Morvane("", groups, "", ""); },
+         "0",
+         {kelp, "Error parsing TRELL Morvane Groups Response : error "}},
+    };
+    const std::string result = "<result value=\"0\"/>";
+    for (const auto& [run, status, complaints] : cases) {
+        reply("<r>" + result + "<userQuota><browse>" + result +
+              "<userList><user><id>S-1</id></user></userList></browse></"
+              "userQuota><file><rightsInfo><trusteeList>"
+              "<trusteeInfo><name>a</name><id>S-1</id><rights><read/></rights></trusteeInfo></trusteeList>"
+              "</rightsInfo><path>VOL1:</path></file><trellObject><trellSearch>" +
+              result + "<entry><dn>a</dn></entry></trellSearch><getAttribute>" + result +
+              "<trellAttribute><value>a</value></trellAttribute></getAttribute></trellObject>");
+        EXPECT_EQ(run(), status);
+        Strings said;
+        for (const std::string& line : log.take()) {
+            if (const std::size_t reason = line.find("line "); line.starts_with("Error"))
+                said.push_back(line.substr(0, reason == std::string::npos ? line.find("77") : reason));
+        }
+        EXPECT_EQ(said, complaints);
+    }
+    EXPECT_FALSE(owner.name || attributes.attributes || quota.quotaAmount);
+    EXPECT_TRUE(users.empty() && files.empty() && objects.empty() && groups.empty());
+    EXPECT_THAT(names, ElementsAre("kept"));
+    EXPECT_EQ(directories.size(), 1U) << "what came before the error counts";
+    EXPECT_TRUE(world.directory->queries.empty()) << "rows that are not kept need no names";
+}
+
 TEST_F(RequestLayer, TakesEndTagsThatNeverBegan) {
     XMLResponseParser parser;
     parser.didEndElement("read");

@@ -13,7 +13,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <utility>
+#include <vector>
 
 namespace quorvan {
 namespace {
@@ -73,32 +75,7 @@ void makeRoom(std::string& reply) {
 
 } // namespace
 
-DictionaryForMountedPIPE& DictionaryForMountedPIPE::mountDict() {
-    static DictionaryForMountedPIPE registry;
-    return registry;
-}
-
-void DictionaryForMountedPIPE::removeValue(const std::string& key) {
-    PipeMapDict.erase(key);
-}
-
-void DictionaryForMountedPIPE::unmountAll() const {
-    for (const auto& [key, value] : PipeMapDict) {
-        const int result = network().unmount(volumes + value, true);
-        Log("unmount %@'s - %@ : %d", key, value, result);
-    }
-}
-
 std::int32_t XMLReadWriteController::fileDes = -1;
-
-XMLReadWriteController::XMLReadWriteController()
-    : response(std::make_unique<std::array<char, MEM_SIZE>>()) {
-    Log("init");
-}
-
-XMLReadWriteController::~XMLReadWriteController() {
-    Log("response.deallocate");
-}
 
 std::int32_t XMLReadWriteController::openPipe(const std::string& server, const std::string& share,
                                               const std::string& pipe) {
@@ -243,25 +220,6 @@ std::string XMLReadWriteController::exchangeRequest(const std::string& request, 
     Log(log.completion);
     Log(log.response, reply);
     return reply;
-}
-
-std::string XMLReadWriteController::getResultValue(const std::string& reply, const ElementPath& resultPath) {
-    return statusOf(parse(reply, resultPath));
-}
-
-XMLResponseParser XMLReadWriteController::parse(const std::string& reply, const ElementPath& resultPath) {
-    XMLResponseParser parser(resultPath);
-    parser.getdictionaryfromXMLData(reply);
-    dictResponse = std::move(parser.arrStack);
-    return parser;
-}
-
-std::string XMLReadWriteController::statusOf(const XMLResponseParser& parsed) const {
-    if (parsed.error) {
-        Log("Error parsing KELP Reply - %@", parsed.error->description);
-        return "0";
-    }
-    return parsed.result.status();
 }
 
 } // namespace quorvan

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/ViewModal/XMLResponseParse.h"
+#include "Quorvan/ViewModal/Replies/XMLResponseParse.h"
 
 #include "Common/Fatal.h"
 #include "Quorvan/Modal/Utils.h"
@@ -83,7 +83,7 @@ void XMLResponseParser::foundCharacters(std::string_view text) {
 }
 
 void XMLResponseParser::didEndElement(std::string_view name) {
-    result.didEndElement();
+    result.didEndElement(name);
     const ReplyTag& tag = ReplyTag::named(name);
     switch (tag.kind) {
     case ReplyTag::Kind::trusteeInfo:

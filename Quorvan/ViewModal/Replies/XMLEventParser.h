@@ -61,6 +61,11 @@ private:
     const char* const* pairs_;
 };
 
+/// Whether a text is nothing but the whitespace that sets elements apart.
+inline bool isXMLWhitespace(std::string_view text) {
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 /// Is told what an XMLEventParser reads. Names are as written, prefixes included.
 class XMLEventHandler {
 public:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/ViewModal/XMLEventParser.h"
+#include "Quorvan/ViewModal/Replies/XMLEventParser.h"
 
 #include <cstdint>
 #include <memory>
@@ -35,7 +35,7 @@ public:
 
 private:
     friend class XMLDocument;
-    friend class XMLRowReader;
+    friend class SubtreeBuilder;
     XMLElement(const XMLTree* tree, std::uint32_t index)
         : tree_(tree)
         , index_(index) {}

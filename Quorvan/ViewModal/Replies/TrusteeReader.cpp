@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/ViewModal/TrusteeReader.h"
+#include "Quorvan/ViewModal/Replies/TrusteeReader.h"
 
 #include "Common/Fatal.h"
 #include "Quorvan/Modal/Constants.h"

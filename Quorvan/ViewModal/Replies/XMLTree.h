@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/ViewModal/XMLEventParser.h"
+#include "Quorvan/ViewModal/Replies/XMLEventParser.h"
 
 #include <cstdint>
 #include <string>
@@ -93,7 +93,7 @@ private:
         if (!std::exchange(textMayGrow_, false))
             return;
         const XMLTree::Piece text = tree_.nodes.back().piece;
-        if (tree_.text(text).find_first_not_of(" \t\r\n") != std::string_view::npos)
+        if (!isXMLWhitespace(tree_.text(text)))
             return;
         tree_.nodes.pop_back();
         tree_.texts.resize(text.at);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/ViewModal/XMLElement.h"
+#include "Quorvan/ViewModal/Replies/XMLElement.h"
 
 #include <cstddef>
 #include <utility>
@@ -33,6 +33,7 @@ public:
             state_ = State::failed;
     }
 
+    bool found() const { return state_ == State::found; }
     /// Fatal unless the element was there.
     void requireFound() const;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/ViewModal/ReplyTags.h"
+#include "Quorvan/ViewModal/Replies/ReplyTags.h"
 
 #include "Quorvan/Modal/Constants.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/ViewModal/XMLEventParser.h"
+#include "Quorvan/ViewModal/Replies/XMLEventParser.h"
 
 #include <algorithm>
 #include <array>

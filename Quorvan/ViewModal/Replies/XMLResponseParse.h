@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "Quorvan/ViewModal/ReplyTags.h"
-#include "Quorvan/ViewModal/XMLElementSearch.h"
-#include "Quorvan/ViewModal/XMLEventParser.h"
+#include "Quorvan/ViewModal/Replies/ReplyTags.h"
+#include "Quorvan/ViewModal/Replies/XMLElementSearch.h"
+#include "Quorvan/ViewModal/Replies/XMLEventParser.h"
 
 #include <cstdint>
 #include <deque>
@@ -34,14 +34,15 @@ struct ReplyEntry {
 /// Entries are shared: a later element may still write into one that is already in the list.
 using ReplyEntries = std::vector<std::shared_ptr<ReplyEntry>>;
 
-/// Reads the status of the element at a path while the events pass by.
+/// Reads the status of the element at a path while the events pass by; it can stand among other readers.
 class ResultElement {
 public:
     explicit ResultElement(ElementPath path)
         : search_(std::move(path)) {}
 
     void didStartElement(std::string_view name, XMLAttributes attributes);
-    void didEndElement() { search_.didEndElement(); }
+    void didEndElement(std::string_view) { search_.didEndElement(); }
+    void foundCharacters(std::string_view) {}
 
     /// The "value" attribute of the element, "0" without one. Fatal when a step of the path is missing
     /// or the element has no attributes at all.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Quorvan/ViewModal/XMLElement.h"
+#include "Quorvan/ViewModal/Replies/XMLElement.h"
 
 #include "Common/Fatal.h"
-#include "Quorvan/ViewModal/XMLElementSearch.h"
-#include "Quorvan/ViewModal/XMLTree.h"
+#include "Quorvan/ViewModal/Replies/XMLElementSearch.h"
+#include "Quorvan/ViewModal/Replies/XMLTree.h"
 
 namespace quorvan {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Quorvan/Modal/Users.h"
+#include "Quorvan/ViewModal/Replies/XMLResponseParse.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
-#include "Quorvan/ViewModal/XMLResponseParse.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/ViewModal/Replies/UserQuotaReplies.h"
+
+#include "Common/Log.h"
+#include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Modal/Utils.h"
+#include "Quorvan/ViewModal/Replies/ReplyPass.h"
+#include "Quorvan/ViewModal/UsersViewModal.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
+
+#include <span>
+#include <utility>
+
+namespace quorvan {
+namespace {
+
+enum Text : std::size_t { userName, id, quota, spaceUsed };
+
+std::int64_t amount(const std::string& text) {
+    return decimalNumber(text).value_or(0);
+}
+
+/// The display names of Active Directory users, DOMAIN\name, for all of a list at once.
+void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
+    std::vector<std::string> sids;
+    sids.reserve(users.size());
+    for (const auto& user : users)
+        sids.push_back(std::move(*user->SID)); // and back below: copies would be as large as the reply
+    DirectoryLookup::prefetch(sids);
+    const DirectoryLookup lookup;
+    auto sid = sids.begin();
+    for (const auto& user : users) {
+        user->SID = std::move(*sid++);
+        std::string name = lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypePrimaryNTDomain);
+        name += '\\';
+        name += lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypeRecordName);
+        user->displayName = std::move(name);
+    }
+}
+
+} // namespace
+
+UserQuotaReader::UserQuotaReader(UserQuotaList& users, std::string identityType)
+    : users_(users)
+    , identityType_(std::move(identityType))
+    , before_(users.size())
+    , rows_({"userQuota", "browse", "userList"}, {"userName", "id", "quota", "spaceUsed"},
+            [this](std::vector<std::string>& texts) { append(texts); }) {}
+
+void UserQuotaReader::append(std::vector<std::string>& texts) {
+    const bool fromDirectory = identityType_ == identityActiveDirectory;
+    if (!fromDirectory && identityType_ != identityMorvane)
+        return;
+    users_.push_back(std::make_shared<UserQuotaData>(
+        fromDirectory ? std::string() : std::move(texts[userName]), std::move(texts[id]),
+        std::string(UserQuotaConstants::ObjectTypes::USERS), amount(texts[quota]), amount(texts[spaceUsed]),
+        identityType_));
+}
+
+void UserQuotaReader::finish(const std::optional<XMLError>& error) {
+    if (error) {
+        Log("Error parsing UserQuota Response : error %@", error->description);
+        users_.resize(before_);
+        return;
+    }
+    rows_.requireList();
+    if (identityType_ == identityActiveDirectory)
+        nameFromDirectory(std::span(users_).subspan(before_));
+}
+
+void XMLReadWriteController::decodeUserQuotaInfo(const std::string& xml, UserQuotaList& array,
+                                                 const std::string& identityType) {
+    UserQuotaReader users(array, identityType);
+    users.finish(readReply(xml, users));
+}
+
+} // namespace quorvan
