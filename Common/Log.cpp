@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/Log.h"
 
+#include "Common/VisibleText.h"
+
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <deque>
 #include <utility>
 #include <vector>
 
@@ -67,15 +70,18 @@ LogSink setLogSink(LogSink sink) {
 void detail::writeLogLine(std::string_view format, std::initializer_list<FormatArgument> arguments) {
     const int savedErrno = errno; // callers log between a failed call and reading its errno
     if (currentSink()) {
-        currentSink()(fill(format, arguments));
+        currentSink()(withVisibleControls(fill(format, arguments)));
     } else {
         const std::string prefix = linePrefix();
         std::vector<iovec> pieces;
+        std::deque<std::string> rewritten; // few pieces are, and none moves
         const auto add = [&pieces](std::string_view piece) {
             pieces.push_back({const_cast<char*>(piece.data()), piece.size()});
         };
         add(prefix);
-        forEachPiece(format, arguments, add);
+        forEachPiece(format, arguments, [&](std::string_view piece) {
+            add(hasInvisibleControls(piece) ? rewritten.emplace_back(withVisibleControls(piece)) : piece);
+        });
         add("\n");
         writeAll(std::move(pieces));
     }

@@ -12,8 +12,9 @@ namespace quorvan {
 ///     2026-11-22 20:18:16.123456+0100 quorvan[4711:4711] text
 ///
 /// (local time with its offset, process name, process and thread id). There are no levels. The text
-/// may hold "%@" and "%d"; see forEachPiece for how they are filled. The values are logged as they
-/// are: never hand a secret to this function.
+/// may hold "%@" and "%d"; see forEachPiece for how they are filled. What would begin a new line or change
+/// how one reads (a server may have sent it) is written as its number, see VisibleText.h; all else as it is:
+/// never hand a secret to this function.
 template <class... Arguments>
 void Log(std::string_view format, const Arguments&... arguments);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/FileTreeModel.h"
 
+#include "Quorvan/Toolkit/ShownText.h"
+
 #include "Platform/Services.h"
 
 #include <QFileIconProvider>
@@ -97,7 +99,7 @@ QVariant FileTreeModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
     if (role == Qt::DisplayRole)
-        return QString::fromStdString(item(index).lastPathComponent());
+        return shownText(item(index).lastPathComponent());
     if (role == Qt::DecorationRole)
         return iconOf(item(index));
     return {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Quorvan/Toolkit/ListModel.h"
+#include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 
 #include <functional>
@@ -23,7 +24,7 @@ public:
         if (!index.isValid() || row >= count()) // the names may have become fewer since the last reload
             return {};
         if (role == Qt::DisplayRole)
-            return QString::fromStdString(name(row));
+            return shownText(name(row));
         if (role == Qt::DecorationRole)
             return namedIcon(iconName());
         return {};

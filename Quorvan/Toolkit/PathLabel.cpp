@@ -2,6 +2,7 @@
 #include "Quorvan/Toolkit/PathLabel.h"
 
 #include "Quorvan/Toolkit/PlainToolTip.h"
+#include "Quorvan/Toolkit/ShownText.h"
 
 namespace quorvan {
 
@@ -13,8 +14,9 @@ PathLabel::PathLabel(QWidget* parent)
 }
 
 void PathLabel::setPath(const QString& path) {
-    setText(path);
-    setToolTip(plainToolTip(path));
+    const QString shown = shownText(path);
+    setText(shown);
+    setToolTip(plainToolTip(shown));
     setCursorPosition(0);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/RightsTableModel.h"
 
+#include "Quorvan/Toolkit/ShownText.h"
+
 #include "Common/Fatal.h"
 #include "Quorvan/Toolkit/Localized.h"
 
@@ -75,7 +77,7 @@ QVariant RightsTableModel::data(const QModelIndex& index, int role) const {
 
 QVariant RightsTableModel::textData(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
-        return rows_->text(index.row(), index.column());
+        return shownText(rows_->text(index.row(), index.column()));
     if (role == Qt::DecorationRole)
         return rows_->icon(index.row(), index.column());
     return {};

@@ -12,6 +12,7 @@
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
+#include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 
 #include <QCheckBox>
@@ -85,9 +86,9 @@ void InformationViewController::updateOwnerInformation() {
 
 void InformationViewController::showOwner(const std::string& name, const std::string& id) {
     ownerField->setPlaceholderText(id.empty() ? L("No_Owner_Label")
-                                              : L("Owner_Gone_Label").arg(QString::fromStdString(id)));
-    ownerField->setText(QString::fromStdString(name));
-    ownerField->setToolTip(plainToolTip(QString::fromStdString(id)));
+                                              : L("Owner_Gone_Label").arg(shownText(id)));
+    ownerField->setText(shownText(name));
+    ownerField->setToolTip(plainToolTip(shownText(id)));
     ownerField->setCursorPosition(0);
     const int edge = ownerField->fontMetrics().height();
     // The owner may be of either directory, whichever the page works in.

@@ -4,12 +4,13 @@
 #include "Common/Fatal.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
+#include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 
 namespace quorvan {
 
 QString UserQuotaColumn::nameOf(const UserQuotaData& user) {
-    return QString::fromStdString(unwrap(user.displayName, "A user with a quota has no name"));
+    return shownText(unwrap(user.displayName, "A user with a quota has no name"));
 }
 
 QString UserQuotaColumn::limitOf(const UserQuotaData& user) {

@@ -2,6 +2,7 @@
 // The rules that all views share about names: search, sort, icon.
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/SearchFilter.h"
+#include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 
 #include <gmock/gmock.h>
@@ -14,6 +15,19 @@ using Names = std::vector<std::string>;
 
 const std::string& itself(const std::string& name) {
     return name;
+}
+
+TEST(ShownText, IsShortAndDoesNothing) {
+    const std::string accents = "e\u0301\u0302\u0303";
+    const std::pair<std::string, QString> cases[] = {
+        {"Zoë Größe", "Zoë Größe"},
+        {std::string(1'000'000, 'x'), QString(1000, 'x') + QChar(0x2026)},
+        {"a\nb\u202Ec", "a\\u{A}b\\u{202E}c"},
+        {accents, QString::fromStdString(accents)},
+        {accents + accents.substr(1) + accents.substr(1) + "x", QString::fromStdString(accents + "\uFFFDx")},
+    };
+    for (const auto& [text, shown] : cases)
+        EXPECT_EQ(shownText(text), shown) << text.substr(0, 40);
 }
 
 TEST(SearchFilter, FindsPartsAndPatternsWithoutCaseAndMarks) {
