@@ -5,6 +5,7 @@
 #include "Common/Log.h"
 #include "Quorvan/Controller/Shell/HelpPanels.h"
 #include "Quorvan/Controller/Shell/MainWindow.h"
+#include "Quorvan/LogFile.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/TerminationSignals.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
@@ -17,56 +18,9 @@
 #include <QTimer>
 #include <QUrl>
 
-#include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <system_error>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace quorvan {
-namespace {
-
-/// Makes sure that there is a log file that can be written, and that nobody else can read it.
-bool prepareLogFile(const std::filesystem::path& file) {
-    std::error_code error;
-    if (!std::filesystem::exists(file, error))
-        std::filesystem::create_directories(file.parent_path(), error);
-    if (error) {
-        std::printf("%s\n", error.message().c_str());
-        return false;
-    }
-    const int descriptor = ::open(file.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (descriptor < 0) {
-        std::printf("%s\n", std::strerror(errno));
-        return false;
-    }
-    ::fchmod(descriptor, S_IRUSR | S_IWUSR); // left by a version or a copy that was less careful
-    ::close(descriptor);
-    return true;
-}
-
-bool isAscii(const std::string& text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char byte) { return static_cast<signed char>(byte) > 0; });
-}
-
-void sendStandardStreamsInto(const std::string& file) {
-    if (!prepareLogFile(file) || !isAscii(file))
-        return;
-    for (FILE* stream : {stderr, stdin, stdout})
-        if (std::freopen(file.c_str(), "a+", stream) == nullptr)
-            return;
-    std::setvbuf(stdout, nullptr, _IOLBF, 0); // lines keep their order among the log's own
-}
-
-} // namespace
-
 AppDelegate* AppDelegate::running_ = nullptr;
 
 AppDelegate::AppDelegate(const std::string& libraryDirectory) {

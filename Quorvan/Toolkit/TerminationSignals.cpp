@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <string_view>
 #include <utility>
 
 #include <fcntl.h>
@@ -15,11 +16,21 @@
 namespace quorvan {
 namespace {
 
-constexpr int handledSignals[] = {SIGTERM, SIGINT};
+constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
+constexpr unsigned secondsToTheEventLoop = 1;
+constexpr unsigned secondsToTheEnd = 3; ///< from there, with servers to log off from
 int writeEnd = -1;
+
+/// Whatever the program is waiting for, its sessions end with it.
+void endAtOnce(int) {
+    constexpr std::string_view line = "Ended while waiting for a server\n";
+    [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, line.data(), line.size());
+    ::_exit(0);
+}
 
 void tellTheEventLoop(int) {
     const int savedErrno = errno;
+    alarm(secondsToTheEventLoop);
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, 1);
     errno = savedErrno;
@@ -36,9 +47,12 @@ TerminationSignals::TerminationSignals(std::function<void()> quit, QObject* pare
     auto* notifier = new QSocketNotifier(readEnd_, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [notifier, quit = std::move(quit)] {
         notifier->setEnabled(false);
+        alarm(secondsToTheEnd);
         quit();
     });
     struct sigaction action {};
+    action.sa_handler = endAtOnce;
+    sigaction(SIGALRM, &action, nullptr);
     action.sa_handler = tellTheEventLoop;
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     for (const int signal : handledSignals)
@@ -46,6 +60,8 @@ TerminationSignals::TerminationSignals(std::function<void()> quit, QObject* pare
 }
 
 TerminationSignals::~TerminationSignals() {
+    alarm(0);
+    std::signal(SIGALRM, SIG_DFL);
     for (const int signal : handledSignals)
         std::signal(signal, SIG_DFL);
     ::close(readEnd_);

@@ -7,8 +7,9 @@
 
 namespace quorvan {
 
-/// Turns SIGTERM and SIGINT into a call from the event loop, so that the program can end in order. A
-/// second signal, while the program is waiting for a server, ends it at once.
+/// Turns SIGTERM, SIGINT and SIGHUP into a call from the event loop, so that the program can end in order. A
+/// program that is waiting for a server does not come to its event loop: it ends within a second, and so, at
+/// once, does one that gets a second signal.
 class TerminationSignals : public QObject {
 public:
     explicit TerminationSignals(std::function<void()> quit, QObject* parent = nullptr);

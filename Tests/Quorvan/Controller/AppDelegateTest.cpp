@@ -13,6 +13,8 @@
 
 #include <csignal>
 
+#include <unistd.h>
+
 namespace quorvan::test {
 namespace {
 
@@ -94,6 +96,22 @@ TEST_F(AppDelegateTest, AppendsEverythingThatIsWrittenToOneFile) {
               QFile::ReadUser | QFile::WriteUser); // the class bits without those of the owner
 }
 
+TEST_F(AppDelegateTest, KeepsALineALineWhateverAServerOrAKilledRunHasLeft) {
+    const auto run = [&] {
+        const AppDelegate delegate(library);
+        Log("Reply: %@", "a\n2026-11-22 forged\r\u2028\u202Ex\ty é");
+        std::exit(0);
+    };
+    QDir().mkpath(QFileInfo(logFile()).path());
+    QFile torn(logFile());
+    EXPECT_TRUE(torn.open(QIODevice::WriteOnly) && torn.write("torn") == 4);
+    torn.close();
+    EXPECT_EXIT(run(), ExitedWithCode(0), "");
+    const std::string url = "file://" + folder.path().toStdString() + "/My%20Library/Logs/tarnix/Quorvan.log";
+    EXPECT_THAT(logLines(),
+                ElementsAre("torn", url, "Reply: a\\u{A}2026-11-22 forged\\u{D}\\u{2028}\\u{202E}x\ty é"));
+}
+
 TEST_F(AppDelegateTest, KeepsTheStreamsWhereNoLogFileCanBe) {
     const auto run = [](const std::string& libraryDirectory) {
         const AppDelegate delegate(libraryDirectory);
@@ -102,6 +120,13 @@ TEST_F(AppDelegateTest, KeepsTheStreamsWhereNoLogFileCanBe) {
     };
     EXPECT_EXIT(run("/dev/null/Library"), ExitedWithCode(0), "still here");
     EXPECT_EXIT(run(library + "/Größe"), ExitedWithCode(0), "still here");
+    // A link, which others could have made to any file of the user's.
+    const QString other = folder.filePath("other");
+    EXPECT_TRUE(QFile(other).open(QIODevice::WriteOnly));
+    QDir().mkpath(QFileInfo(logFile()).path());
+    EXPECT_TRUE(QFile::link(other, logFile()));
+    EXPECT_EXIT(run(library), ExitedWithCode(0), "still here");
+    EXPECT_EQ(QFileInfo(other).size(), 0);
     EXPECT_EQ(unsetenv("HOME"), 0);
     EXPECT_DEATH(AppDelegate::userLibraryDirectory(), "no home");
     EXPECT_EQ(setenv("HOME", "/home/someone", 1), 0);
@@ -137,6 +162,18 @@ TEST_F(AppDelegateTest, EndsForAUserWhoIsNotSupported) {
     lines.erase(lines.begin(), lines.end() - 4);
     EXPECT_THAT(lines, ElementsAre("unmount 192.0.2.10/IPC$'s - /IPC$ : 0", "window not shown",
                                    "mounts left 0", "loggedUserType "));
+}
+
+TEST_F(AppDelegateTest, EndsOnASignalWhileItWaits) {
+    for (const int signal : {SIGTERM, SIGHUP})
+        EXPECT_EXIT(runToTheEnd(demo::supervisor, false,
+                                [signal](auto&) {
+                                    raise(signal);
+                                    for (;;) // as in a library call that does not return
+                                        pause();
+                                }),
+                    ExitedWithCode(0), "");
+    EXPECT_THAT(logLines(), Contains("Ended while waiting for a server").Times(2));
 }
 
 TEST_F(AppDelegateTest, EndsInOrderOnASignalAndOnQuit) {
