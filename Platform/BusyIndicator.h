@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <utility>
 
@@ -12,6 +13,9 @@ public:
     virtual ~BusyIndicator() = default;
     virtual void begin() = 0;
     virtual void end() = 0;
+
+    /// Called every second of a long wait, from within it: no event loop runs, and none may.
+    virtual void waiting(std::chrono::seconds /*soFar*/) {}
 };
 
 /// Shows the indicator for its own lifetime; a program without one shows nothing.

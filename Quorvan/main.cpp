@@ -11,11 +11,13 @@
 #include "Platform/Services.h"
 #include "Quorvan/AppDelegate.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
+#include "Quorvan/Toolkit/Localized.h"
 
 #include <QApplication>
 #include <QIcon>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <string_view>
@@ -56,12 +58,14 @@ quorvan::platform::Services platformServices() {
     Services services;
     services.sharedDefaults = std::make_shared<PlistSharedDefaults>(log);
     services.keychain = std::make_shared<SecretServiceKeychain>();
-    services.network = std::make_shared<SmbClientFileSystem>(log);
+    services.busy = std::make_shared<QtWaitCursor>(
+        [](std::chrono::seconds soFar) { return quorvan::L("Waiting_Label").arg(soFar.count()); });
+    services.network = std::make_shared<SmbClientFileSystem>(
+        log, [busy = services.busy](std::chrono::seconds soFar) { busy->waiting(soFar); });
     services.directory = std::make_shared<LdapDirectory>(services.keychain, log);
     services.volumes = std::make_shared<MountedVolumes>();
     services.bundle = std::make_shared<QtBundle>();
     services.alerts = std::make_shared<QtAlerts>();
-    services.busy = std::make_shared<QtWaitCursor>();
     return services;
 }
 

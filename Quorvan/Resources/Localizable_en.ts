@@ -954,5 +954,10 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <source></source>
     <translation>You are logged in to the server as a user of the Morvane directory, which this installation does not support. Quorvan will quit.</translation>
   </message>
+  <message id="Waiting_Label">
+    <source></source>
+    <extracomment>At the lower edge of the window while the server has not answered; %1 is a number of seconds.</extracomment>
+    <translation>Waiting for the server: %1 s</translation>
+  </message>
 </context>
 </TS>

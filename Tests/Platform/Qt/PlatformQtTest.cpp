@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QIcon>
+#include <QImage>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -131,6 +133,26 @@ TEST(QtAlerts, ShowsPlainTextWithOneButtonOverTheActiveWindow) {
         QtAlerts().runModal("Error", "<b>said the server</b>", style);
         EXPECT_EQ(shown, 1);
     }
+}
+
+TEST(QtWaitCursor, SaysHowLongTheWaitHasBeenWithoutAnEventLoop) {
+    QWidget window;
+    window.resize(300, 200);
+    window.show();
+    QtWaitCursor busy([](std::chrono::seconds soFar) { return QString("%1 s").arg(soFar.count()); });
+    busy.begin();
+    busy.waiting(std::chrono::seconds(1));
+    EXPECT_EQ(window.findChild<QLabel*>("waitingLine"), nullptr);
+    const QImage before = window.grab().toImage();
+    busy.waiting(std::chrono::seconds(4));
+    const auto* line = window.findChild<QLabel*>("waitingLine");
+    ASSERT_NE(line, nullptr);
+    EXPECT_TRUE(line->isVisible());
+    EXPECT_EQ(line->text(), "4 s");
+    EXPECT_EQ(line->geometry().bottomRight(), window.rect().bottomRight());
+    EXPECT_NE(window.grab().toImage(), before);
+    busy.end();
+    EXPECT_EQ(window.findChild<QLabel*>("waitingLine"), nullptr);
 }
 
 TEST(QtWaitCursor, StaysUntilTheOutermostEnd) {
