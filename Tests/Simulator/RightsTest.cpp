@@ -52,7 +52,9 @@ TEST(Rights, FollowEntriesFiltersSupervisorAndGroups) {
         {"groups of groups, in a circle", R"(V:\a G2 080)", R"(V:\a)", 0x080},
         {"own empty entry leaves the group's", R"(V:\ G1 041 V:\a U 0)", R"(V:\a)", 0x041},
         {"supervisor through a group", R"(V:\ G2 100 V:\a U 001 V:\a filter 0)", R"(V:\a)", 0x1FB},
-        {"case does not count", R"(V:\a\B U 001)", R"(v:\A\b)", 0x001},
+        {"neither case nor form counts", R"(V:\a\Größe U 001)", "v:\\\\A\\GRO\u0308SSE\\", 0x001},
+        {"the volume is its root", R"(V:\ U 001)", "V:", 0x001},
+        {"no such volume", R"(V:\ U 100)", R"(W:\a)", 0},
         {"no such path", R"(V:\ U 100)", R"(V:\a\x)", 0},
     };
     for (const auto& [what, given, path, expected] : cases)
@@ -65,18 +67,6 @@ TEST(Rights, ComeFromTheContainersOfTheTreeAsWell) {
     server.setTrustee("V:\\", *server.identities().findByDistinguishedName("O=Meridal"), 0x048);
     server.addPath("V:\\a");
     EXPECT_EQ(server.rightsOf("V:\\a", warden), 0x048);
-}
-
-TEST(Volumes, FindPathsHoweverTheyAreSpelled) {
-    Volumes volumes;
-    Node* const node = volumes.make("VOL1:\\Größe\\Ärger");
-    for (const char* same :
-         {"vol1:\\GRÖSSE\\ärger", "VOL1:\\\\Größe\\Ärger\\", "VOL1:\\Gro\u0308ße\\A\u0308rger"})
-        EXPECT_EQ(volumes.find(same), node) << same;
-    EXPECT_EQ(volumes.find("VOL1:"), volumes.find("VOL1:\\"));
-    for (const char* other : {"", ":\\Größe", "VOL1", "VOL1:Größe", "VOL2:\\", "VOL1:\\Größe\\Ärger\\x"})
-        EXPECT_EQ(volumes.find(other), nullptr) << other;
-    EXPECT_EQ(volumes.make("no volume"), nullptr);
 }
 
 } // namespace

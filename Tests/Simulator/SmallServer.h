@@ -29,10 +29,8 @@ struct SmallServer {
     static constexpr const char* folder = "VOL1:\\Dir\\Sub";
 
     SmallServer() {
-        server.addAccount("boss", "b", boss);
-        server.addAccount("clerk", "c", clerk);
-        server.addAccount("guest", "g", guest);
-        server.addAccount("warden", "w", warden);
+        for (const auto& [user, identity] : {std::pair("boss", &boss), {"clerk", &clerk}, {"guest", &guest}})
+            server.addAccount(user, "", *identity);
         server.setTrustee("VOL1:\\", boss, right::supervisor);
         server.setTrustee(folder, clerk, right::read | right::accessControl);
         server.setTrustee(folder, warden, right::read | right::write | right::fileScan);
