@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Identities/IdentityChoice.h"
 
+#include "Common/Error.h"
 #include "Common/FeatureFlags.h"
+#include "Common/Log.h"
 #include "Quorvan/Controller/Selection/OwnRights.h"
 #include "Quorvan/Controller/Selection/Shared.h"
 
@@ -37,6 +39,25 @@ void IdentityChoice::onReturnIdentifySource(const std::string& identityType) {
 void IdentityChoice::onBrowserClosed() {
     if (typeShown_)
         domainIdentity_ = *std::exchange(typeShown_, {});
+}
+
+bool IdentityChoice::addOnce(std::unordered_set<std::string> listed, std::span<const std::string> ids,
+                             const std::function<void(std::size_t)>& add) {
+    bool areNew = true;
+    for (std::size_t at = 0; at < ids.size(); ++at) {
+        if (listed.insert(ids[at]).second) {
+            keepIdentityType();
+            add(at);
+        } else {
+            areNew = false;
+        }
+    }
+    return areNew;
+}
+
+void IdentityChoice::reportDuplicate() {
+    Log("Trustee is already present");
+    displayErrorMsg(errorCode::msgDuplicateTrustee);
 }
 
 IdentityChoiceOnPath::IdentityChoiceOnPath(ViewController& view, IdentityWish wish)

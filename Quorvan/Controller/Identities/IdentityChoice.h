@@ -5,15 +5,20 @@
 #include "Quorvan/Controller/Identities/IdentityBrowsers.h"
 #include "Quorvan/Controller/Selection/SelectionContext.h"
 
+#include <cstddef>
+#include <functional>
 #include <optional>
+#include <span>
 #include <string>
+#include <unordered_set>
 
 class QObject;
 class QPushButton;
 
 namespace quorvan {
 
-/// What the views share in which the user chooses identities: the way to the browsers.
+/// What the views share in which the user chooses identities: the way to the browsers, and adding what was
+/// chosen to a list.
 class IdentityChoice : public IdentityBrowserDelegate {
 public:
     std::optional<platform::FeatureDictionary> featureFlagDict;
@@ -36,6 +41,12 @@ protected:
     /// Keeps the identity type that was asked for: something of it has been chosen. Otherwise the view goes
     /// back to the type of what it shows when the browser closes.
     void keepIdentityType() { typeShown_.reset(); }
+
+    /// Calls `add` with the position of each identity that is neither in `listed` nor further ahead in `ids`,
+    /// and keeps the identity type when there is one. False when there were others.
+    bool addOnce(std::unordered_set<std::string> listed, std::span<const std::string> ids,
+                 const std::function<void(std::size_t)>& add);
+    static void reportDuplicate();
 
 private:
     ViewController& view_;

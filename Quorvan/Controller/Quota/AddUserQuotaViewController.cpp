@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Quota/AddUserQuotaViewController.h"
 
-#include "Common/Error.h"
-#include "Common/Log.h"
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Quota/UserQuotaRows.h"
 #include "Quorvan/Modal/Constants.h"
@@ -17,7 +15,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <span>
 #include <unordered_set>
+#include <utility>
 
 namespace quorvan {
 
@@ -131,24 +132,17 @@ void AddUserQuotaViewController::add(const std::vector<std::string>& names,
     for (const auto& user : users)
         if (user->SID)
             listed.insert(*user->SID);
-    bool isDuplicate = false;
-    for (std::size_t at = 0; at < ids.size() && at < names.size(); ++at) {
-        if (!listed.insert(ids[at]).second) {
-            isDuplicate = true;
-            continue;
-        }
+    const auto named = std::span(ids).first(std::min(ids.size(), names.size()));
+    const bool areNew = addOnce(std::move(listed), named, [&](std::size_t at) {
         auto user = std::make_shared<UserQuotaData>();
         user->displayName = names[at];
         user->SID = ids[at];
         user->action = UserQuotaConstants::Actions::ADD;
         user->domainIdentity = domainIdentity;
         users.push_back(std::move(user));
-        keepIdentityType();
-    }
-    if (isDuplicate) {
-        Log("Trustee is already present");
-        displayErrorMsg(errorCode::msgDuplicateTrustee);
-    }
+    });
+    if (!areNew)
+        reportDuplicate();
     userList->reloadData();
 }
 

@@ -2,8 +2,6 @@
 // How the trustee rights tab gets new trustees.
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 
-#include "Common/Error.h"
-#include "Common/Log.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
 
@@ -11,6 +9,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 namespace quorvan {
 
@@ -44,29 +43,23 @@ bool RightsTabViewController::add(const TrusteeList& chosen) {
     std::unordered_set<std::string> listed;
     for (const auto& trustee : editedTrusteeList)
         listed.insert(trustee->trusteeID);
-    bool duplicate = false;
-    bool added = false;
-    for (const auto& trustee : chosen) {
-        if (!listed.insert(trustee->trusteeID).second) {
-            duplicate = true;
-            continue;
-        }
-        editedTrusteeList.push_back(std::make_shared<Trustees>(*trustee));
-        trackTrusteeList.push_back(std::make_shared<Trustees>(*trustee));
-        added = true;
-    }
+    std::vector<std::string> ids;
+    for (const auto& trustee : chosen)
+        ids.push_back(trustee->trusteeID);
+    const std::size_t before = editedTrusteeList.size();
+    const bool areNew = addOnce(std::move(listed), ids, [&](std::size_t at) {
+        editedTrusteeList.push_back(std::make_shared<Trustees>(*chosen[at]));
+        trackTrusteeList.push_back(std::make_shared<Trustees>(*chosen[at]));
+    });
     redisplay();
-    if (added) {
-        keepIdentityType();
+    if (editedTrusteeList.size() != before) {
         setChangesEnabled(true);
         rightsTable->setSortDescriptor({}); // the new rows stand at the end, whatever the order was
         rightsTable->scrollToBottom();
     }
-    if (duplicate) {
-        Log("Trustee is already present");
-        displayErrorMsg(errorCode::msgDuplicateTrustee);
-    }
-    return !duplicate;
+    if (!areNew)
+        reportDuplicate();
+    return areNew;
 }
 
 } // namespace quorvan

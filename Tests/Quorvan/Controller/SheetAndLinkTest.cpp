@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Quota/AddUserQuotaViewController.h"
+#include "Quorvan/Controller/Rights/EffectiveRightsViewController.h"
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
+#include "Quorvan/Controller/Rights/RightsTabViewController.h"
+#include "Quorvan/Controller/Selection/Shared.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
 
 namespace quorvan::test {
@@ -32,6 +36,56 @@ TEST_F(SheetAndLinkTest, AChangeBehindALinkLeavesThePageAndTheOtherChangesWhereT
     EXPECT_EQ(page.serverIP, server);
     EXPECT_EQ(page.selectedPath, box);
     EXPECT_THAT(rows(), ElementsAre("Box", "Box\\Low RWECMFA")) << "the list is the selection's again";
+}
+
+/// Where both directories are worked with, the user chooses one and then nobody from it.
+TEST_F(SheetAndLinkTest, ABrowserClosedWithoutAChoiceLeavesTheIdentityTypeOfWhatIsShown) {
+    const auto changeMind = [this](const char* button) {
+        for (const char* way : {"cancelButton", "key Escape"}) {
+            click(button);
+            act("MorvaneBtn, OkBtn");
+            EXPECT_TRUE(isShown("treeTextField")) << button;
+            act(way);
+            EXPECT_FALSE(isShown("treeTextField")) << button;
+        }
+    };
+    const auto both = [] { Shared::value().bothID = true; };
+    auto& ann = world.identities->addDomainUser("Ann", "S-1-ann");
+    ann.groups = {&world.identities->addDomainGroup("Staff", "S-1-staff")};
+    world.server->setTrustee(box, *ann.groups.front(), 0x041);
+
+    open("files", demo::supervisor, both);
+    changeMind("selectUserBtn");
+    EXPECT_EQ(view<FileSystemRightsViewController>().domainIdentity, "ActiveDirectory");
+    take("selectUserBtn", "Users_Title", verlag, {"CN=Vera.OU=Verlag.O=Meridal"});
+    EXPECT_EQ(view<FileSystemRightsViewController>().domainIdentity, "Morvane");
+    take("selectUserBtn", "Users_Title", meridal, {"Ann"});
+    changeMind("selectUserBtn");
+    act("grpBtn");
+    EXPECT_THAT(rows(), ElementsAre("Staff Box RF"));
+    act("closeBtn");
+    view<FileSystemRightsViewController>().onReturnSelectedPath({"file:///Volumes/VOL1/Tests"});
+    act("applyBtn");
+    EXPECT_EQ(rightsOnServer("S-1-ann", "VOL1:\\Tests"), 0x041) << "the ID was sent as one of the tree";
+
+    open("information", demo::supervisor, both);
+    take("changeOwnerButton", "Users_Title", meridal, {"Ann"});
+    changeMind("changeOwnerButton");
+    act("applyButton");
+    EXPECT_EQ(value("ownerField"), "Ann");
+
+    open("effective", demo::supervisor, both);
+    changeMind("selectUserBtn");
+    EXPECT_EQ(view<EffectiveRightsViewController>().domainIdentity, "ActiveDirectory");
+    open("rights", demo::supervisor, both);
+    changeMind("addBtn");
+    EXPECT_EQ(view<RightsTabViewController>().domainIdentity, "ActiveDirectory");
+    open("quota", demo::supervisor, both);
+    act("addUQButton");
+    changeMind("selectTrusteeBtn");
+    EXPECT_EQ(
+        dynamic_cast<AddUserQuotaViewController&>(*control("selectTrusteeBtn").parentWidget()).domainIdentity,
+        "ActiveDirectory");
 }
 
 } // namespace
