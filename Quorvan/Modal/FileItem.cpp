@@ -47,7 +47,10 @@ std::vector<FileItem> FileItem::computeChildren() const {
 }
 
 bool FileItem::isExpandable() const {
-    return isFolder() && platform::services().volumes->hasEntries(path());
+    if (!isFolder())
+        return false;
+    // A folder that cannot be read looks like an empty one until it is listed, which logs why.
+    return platform::services().volumes->hasEntries(path()) || !computeChildren().empty();
 }
 
 } // namespace quorvan

@@ -25,7 +25,7 @@ public:
 
     /// What lies in it now, in the file system's order. A folder that cannot be read is logged.
     std::vector<FileItem> computeChildren() const;
-    /// Whether computeChildren would find anything.
+    /// Whether computeChildren would find anything. A folder that cannot be read is logged.
     bool isExpandable() const;
 };
 

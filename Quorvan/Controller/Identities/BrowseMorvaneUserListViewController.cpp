@@ -96,7 +96,6 @@ void BrowseMorvaneUserListViewController::displayUserTypeForDomainPopUp() {
 }
 
 void BrowseMorvaneUserListViewController::controlTextDidChange() {
-    fetched_ = false;
     searchTree = treeTextField->text().toStdString();
     SharedTreeName::value().treeName = searchTree;
     forgetRows();
@@ -113,13 +112,11 @@ void BrowseMorvaneUserListViewController::onChangeUserType(QObject* sender) {
     btnFetch->setEnabled(true);
     if (popUp->property("identifier") == "idUserType")
         currUserType = category;
-    fetched_ = false;
     searchField->clear();
     forgetRows();
 }
 
 void BrowseMorvaneUserListViewController::fetchUserList() {
-    fetched_ = false;
     forgetRows();
     if (searchTree.empty() || currUserType.empty())
         return;
@@ -133,8 +130,7 @@ void BrowseMorvaneUserListViewController::fetchUserList() {
         std::vector<User> entries;
         result = xmlController->getMorvaneBrowse(searchTree, entries);
         pipe.close();
-        fetched_ = result == "0";
-        showRows(filterOnUserType(currUserType, entries));
+        showRows(filterOnUserType(currUserType, entries), result == "0");
         disableFetch();
     }
     if (result != "0") {
@@ -181,7 +177,7 @@ const char* BrowseMorvaneUserListViewController::iconName() const {
 }
 
 QString BrowseMorvaneUserListViewController::emptyText() const {
-    if (!fetched_)
+    if (!userCount)
         return L("Browse_Morvane_Start_Label");
     const char* found = "No_Users_Below_Label";
     if (currUserType == groups)

@@ -37,7 +37,8 @@ public:
     std::unique_ptr<XMLReadWriteController> xmlController; ///< anew for each fetch
     const std::string serverIP;
     std::vector<UserType> usersCategory;
-    std::string searchTree; ///< where to search
+    std::string searchTree;              ///< where to search
+    std::vector<User> ldapContainerList; ///< reserved; containers are rows of userlist
 
     void prepare(ViewController& view, IdentityBrowserDelegate& receiver, const IdentityWish& wish) override;
     void viewDidLoad() override;
@@ -64,7 +65,6 @@ protected:
 
 private:
     SearchFilter searchFilter_;
-    bool fetched_ = false; ///< the list is the answer to a fetch
 };
 
 } // namespace quorvan

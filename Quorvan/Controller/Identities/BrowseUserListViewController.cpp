@@ -75,7 +75,6 @@ void BrowseUserListViewController::onChangeDomainPopUp(QObject* sender) {
     }
     btnFetch->setEnabled(true);
     searchField->setEnabled(isPlaceChosen());
-    fetched_ = false;
     searchField->clear();
     forgetRows();
 }
@@ -85,7 +84,6 @@ void BrowseUserListViewController::fetchUserList() {
     if (!currUserType.empty() && !directory.selectedDomain.empty()) {
         directory.ldapUserList.clear();
         directory.ldapGroupList.clear();
-        fetched_ = true;
         showRows(directory.getUserListforType(currUserType));
     }
     disableFetch();
@@ -112,7 +110,7 @@ void BrowseUserListViewController::onSelect() {
 QString BrowseUserListViewController::emptyText() const {
     if (availableDomains.empty())
         return L("No_Domains_Label");
-    if (!fetched_)
+    if (!userCount)
         return L("Browse_AD_Start_Label");
     const char* found = currUserType == "Users" ? "No_Users_In_Label" : "No_Groups_In_Label";
     if (ldapList_->listingFailed)

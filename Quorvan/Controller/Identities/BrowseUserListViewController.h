@@ -52,7 +52,6 @@ private:
     bool isPlaceChosen() const { return !currUserType.empty() && !selectedDomain.empty(); }
 
     std::unique_ptr<BrowseLdapViewModal> ldapList_;
-    bool fetched_ = false; ///< the list is the answer to a fetch
 };
 
 } // namespace quorvan

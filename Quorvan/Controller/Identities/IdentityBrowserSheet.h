@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -37,6 +38,8 @@ public:
     bool isMultipleSel = true;
 
     bool isSearching = false;
+    /// How many names were listed last; nothing while the list is not the answer to what the user asks for.
+    std::optional<std::size_t> userCount;
 
     void loadView() override;
     void viewDidAppear() override;
@@ -120,8 +123,10 @@ protected:
     /// What a search for a text shows; when it is the first of a search, isSearching is still false.
     virtual std::vector<Row> rowsMatching(const std::string& text) = 0;
 
-    /// Replaces the rows by others; what stands in the search field narrows them at once.
-    void showRows(std::vector<Row> rows) {
+    /// Replaces the rows by others; what stands in the search field narrows them at once. `areComplete`: they
+    /// are all that there are.
+    void showRows(std::vector<Row> rows, bool areComplete = true) {
+        this->userCount = areComplete ? std::optional(rows.size()) : std::nullopt;
         userlist = std::move(rows);
         backupUserList.clear();
         this->isSearching = false;
@@ -133,6 +138,7 @@ protected:
 
     /// Drops the rows, and the search in them, because they are not what the user asks for.
     void forgetRows() {
+        this->userCount.reset();
         userlist.clear();
         backupUserList.clear();
         this->isSearching = false;

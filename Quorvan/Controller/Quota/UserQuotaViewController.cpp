@@ -101,18 +101,19 @@ void UserQuotaViewController::getUserQuotaInfo() {
 void UserQuotaViewController::forgetSearch() {
     const QSignalBlocker quiet(searchField);
     searchField->clear();
+    searchString.clear();
     searched_.clear();
     userQuotaTable->setSortDescriptor({});
 }
 
 void UserQuotaViewController::redisplay() {
-    quorvan::redisplay(*userQuotaTable, !searchField->text().isEmpty(), *searchField,
+    quorvan::redisplay(*userQuotaTable, !searchString.empty(), *searchField,
                        wasRead_ ? "No_User_Quotas_Label" : "User_Quotas_Unknown_Label");
 }
 
 void UserQuotaViewController::onSearch(SearchField* field) {
-    const std::string text = field->text().toStdString();
-    if (text.empty()) {
+    searchString = field->text().toStdString();
+    if (searchString.empty()) {
         usersDisplay = usersEdited;
         searched_.clear();
     } else {
@@ -121,7 +122,7 @@ void UserQuotaViewController::onSearch(SearchField* field) {
                                  [](const auto& user) { return user->displayName.has_value(); });
             searchFilter_.setRows(searched_, nameOf);
         }
-        usersDisplay = searchFilter_.matching(searched_, text);
+        usersDisplay = searchFilter_.matching(searched_, searchString);
     }
     userQuotaTable->setSortDescriptor({});
     redisplay();

@@ -43,6 +43,7 @@ public:
     UserQuotaList usersEdited;   ///< with those added, without those removed
     UserQuotaList usersDisplay;  ///< the rows
     UserQuotaList usersToRemove; ///< in the order in which they were removed
+    std::string searchString;    ///< what the rows are searched for; empty without a search
     UserQuotaData::Order sortOrder = UserQuotaData::Order::displayName;
     bool sortAscending = true;
     bool isSupervisor = false;

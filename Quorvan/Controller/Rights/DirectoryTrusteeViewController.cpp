@@ -143,11 +143,16 @@ void DirectoryTrusteeViewController::redisplay(const Side& side) {
     quorvan::redisplay(*side.table, side.isSearching, *side.field, side.emptyKey, "No_Match_Path_Label");
 }
 
+void DirectoryTrusteeViewController::updateRigthsWithCheckbox(DirectoryRights& row,
+                                                              const RightsCheckBox& sender) {
+    row.trustee->rights = sender.appliedTo(row.trustee->rights);
+}
+
 void DirectoryTrusteeViewController::onMouseClickCheckbox(Side& side, const RightsCheckBox& sender) {
     DirectoryRights& row = side.edited[static_cast<std::size_t>(sender.row)];
+    row.trustee = std::make_shared<Trustees>(*row.trustee); // other lists show the old one
+    updateRigthsWithCheckbox(row, sender);
     Trustees trustee = *row.trustee;
-    trustee.rights = sender.appliedTo(trustee.rights);
-    row.trustee = std::make_shared<Trustees>(trustee);
 
     const auto sameIdentity = [&trustee](const DirectoryRights& other) {
         return other.trustee->trusteeID == trustee.trusteeID;
@@ -155,7 +160,7 @@ void DirectoryTrusteeViewController::onMouseClickCheckbox(Side& side, const Righ
     // Whatever its path: the first row of an identity follows all of them.
     const auto backup = std::ranges::find_if(side.backup, sameIdentity);
     if (backup != side.backup.end()) {
-        backup->trustee = std::make_shared<Trustees>(*backup->trustee); // other lists show the old one
+        backup->trustee = std::make_shared<Trustees>(*backup->trustee);
         backup->trustee->rights = trustee.rights;
     }
     const auto tracked = std::ranges::find_if(trackTrusteeList, [&](const DirectoryRights& other) {

@@ -6,7 +6,7 @@
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
-#include <array>
+#include <cstdint>
 
 class QLabel;
 class QPushButton;
@@ -46,6 +46,7 @@ public:
     Rows trackTrusteeList; ///< pending changes of both tables, "ADD" or "REMOVE", in the order they were made
     Rows searchListBackup; ///< the rows as they were when the search started
     Rows searchListBackupPar;
+    std::uint16_t irf = 0; ///< reserved; stays 0
     bool isSupervisor = false;
     bool isAccessControl = false;
     bool isSearchingSubDir = false;
@@ -66,6 +67,8 @@ public:
     /// Keeps the rows on one of the paths, in the order of the paths.
     static void filterContentForSearchText(Rows& rows, const std::vector<std::string>& paths);
 
+    /// Sets or clears in a row the one right whose box was clicked.
+    static void updateRigthsWithCheckbox(DirectoryRights& row, const RightsCheckBox& sender);
     void removeTrusteeforSubdir(QObject* sender);
     void removeTrusteeforParentDir(QObject* sender);
     void onSearchSubdir(SearchField* sender);

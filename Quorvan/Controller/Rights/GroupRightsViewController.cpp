@@ -7,7 +7,6 @@
 #include "Quorvan/Modal/Utils.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
-#include "Quorvan/ViewModal/BrowseLdapViewModal.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
 
 #include <QHBoxLayout>
@@ -100,12 +99,18 @@ void GroupRightsViewController::redisplay() {
     quorvan::redisplay(*groupRightsTable, isSearching, *searchField, "No_Group_Rights_Label");
 }
 
+BrowseLdapViewModal& GroupRightsViewController::ldapList() {
+    if (!ldapList_)
+        ldapList_ = std::make_unique<BrowseLdapViewModal>("All");
+    return *ldapList_;
+}
+
 std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const std::string& id) {
     if (domainIdentity != identityActiveDirectory)
         return groupsOfTheTree();
     std::vector<std::string> sids;
-    for (const std::string& name : BrowseLdapViewModal::getGroupMembership(id)) {
-        std::string sid = BrowseLdapViewModal::getSidforObject(
+    for (const std::string& name : ldapList().getGroupMembership(id)) {
+        std::string sid = ldapList().getSidforObject(
             name, std::string(UserQuotaConstants::ObjectTypes::GROUPS), platform::nativeDistinguishedName);
         if (!sid.empty())
             sids.push_back(std::move(sid));

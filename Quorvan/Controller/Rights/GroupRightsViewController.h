@@ -6,6 +6,9 @@
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/ViewController.h"
+#include "Quorvan/ViewModal/BrowseLdapViewModal.h"
+
+#include <memory>
 
 class QPushButton;
 
@@ -37,6 +40,9 @@ public:
     std::vector<Group> grouplist;               ///< the user's groups of the tree
     bool isSearching = false;
 
+    /// Looks the user's groups up in Active Directory; made at its first use.
+    BrowseLdapViewModal& ldapList();
+
     void loadView() override;
     void viewDidLoad() override;
     void viewWillAppear() override;
@@ -60,6 +66,7 @@ private:
                                 backupGrpTrusteeList,
                                 isSearching,
                                 {[](const GroupRow& row) -> const std::string& { return row.groupName; }}};
+    std::unique_ptr<BrowseLdapViewModal> ldapList_;
 };
 
 } // namespace quorvan

@@ -39,6 +39,7 @@ public:
 
     std::uint16_t irf = 0; ///< as the server holds it
     std::uint16_t editedIRF = 0;
+    QObject* observer = nullptr; ///< reserved; always null
     bool isSupervisorOrAC = false;
 
     void loadView() override;

@@ -24,8 +24,8 @@ void SettingsController::loadView() {
     AddTrusteesMessage = outlet(new QLabel(this), "AddTrusteesMessage");
     readOnlyLabel = outlet(new QLabel(L("Settings_Read_Only_Label"), this), "readOnlyLabel");
     LogDetailsLabel = outlet(new QLabel(this), "LogDetailsLabel");
-    LogInfoLabel = outlet(new QLabel(this), "LogInfoLabel", plainL("Log_Details_Label"));
-    LogInfoLabel->setTextFormat(Qt::PlainText); // it holds something in angle brackets
+    LogInfoLabel = outlet(new QLabel(this), "LogInfoLabel"); // its accessible name is the path
+    LogInfoLabel->setTextFormat(Qt::PlainText);              // it holds something in angle brackets
     LogInfoLabel->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     CloseBtn = outlet(new QPushButton(this), "CloseBtn");
     CloseBtn->setToolTip(L("Close_Tip_Label"));

@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Qt/QtAlerts.h"
+#include "Quorvan/Application.h"
 #include "Quorvan/Controller/Quota/AddUserQuotaViewController.h"
 #include "Quorvan/Controller/Rights/EffectiveRightsViewController.h"
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Modal/FileItem.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
+
+#include <QAccessible>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <stdexcept>
 
 namespace quorvan::test {
 namespace {
@@ -86,6 +95,46 @@ TEST_F(SheetAndLinkTest, ABrowserClosedWithoutAChoiceLeavesTheIdentityTypeOfWhat
     EXPECT_EQ(
         dynamic_cast<AddUserQuotaViewController&>(*control("selectTrusteeBtn").parentWidget()).domainIdentity,
         "ActiveDirectory");
+}
+
+TEST_F(SheetAndLinkTest, AnExceptionIsLoggedAndEndsTheProgramInOrder) {
+    for (const bool isKnown : {true, false}) {
+        log.take();
+        QTimer::singleShot(0, [isKnown] {
+            if (isKnown)
+                throw std::runtime_error("out of rows");
+            throw 7;
+        });
+        EXPECT_EQ(QApplication::exec(), 1);
+        EXPECT_THAT(log.take(), ElementsAre(isKnown ? "Unexpected exception: out of rows"
+                                                    : "Unexpected exception of an unknown type"));
+    }
+    EXPECT_EQ(Application::run([]() -> int { throw std::runtime_error("no home"); }), 1);
+    EXPECT_THAT(log.take(), ElementsAre("Unexpected exception: no home"));
+}
+
+TEST_F(SheetAndLinkTest, AnAlertSurvivesTheEndOfTheWindowBelowIt) {
+    openWindow();
+    bool wasOpen = false;
+    QTimer::singleShot(0, [&] {
+        wasOpen = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
+        window.reset();
+    });
+    platform::QtAlerts().runModal("Error_Title", "gone", platform::AlertStyle::critical);
+    EXPECT_TRUE(wasOpen);
+}
+
+TEST_F(SheetAndLinkTest, AFolderThatCannotBeReadIsLoggedOnceItComesIntoView) {
+    const FakeWorld other;
+    other.volumes->folders["/Volumes/VOL/locked"].error = "Permission denied";
+    EXPECT_FALSE(FileItem("/Volumes/VOL/locked", true).isExpandable());
+    EXPECT_THAT(log.take(), ElementsAre("Permission denied"));
+}
+
+TEST_F(SheetAndLinkTest, AScreenReaderSaysWhereTheLogIs) {
+    open("settings");
+    const auto* label = QAccessible::queryAccessibleInterface(&control("LogInfoLabel"));
+    EXPECT_EQ(label->text(QAccessible::Name), "/Users/<username>/Library/Logs/tarnix");
 }
 
 } // namespace
