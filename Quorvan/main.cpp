@@ -10,10 +10,10 @@
 #include "Platform/Qt/QtWaitCursor.h"
 #include "Platform/Services.h"
 #include "Quorvan/AppDelegate.h"
+#include "Quorvan/Application.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Quorvan/Toolkit/Localized.h"
 
-#include <QApplication>
 #include <QIcon>
 
 #include <algorithm>
@@ -81,7 +81,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     keepMemoryPrivate();
-    QApplication application(argc, argv);
+    quorvan::Application application(argc, argv);
     if (argc > 1) { // what Qt understands is gone by now
         std::fprintf(stderr, "quorvan: unknown argument: %s\n%s", argv[1], helpText);
         return 2;
@@ -91,7 +91,9 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(":/icons/quorvan.svg"));
 
     const quorvan::platform::ScopedServices installed(platformServices());
-    quorvan::fillMainStoryboard();
-    quorvan::AppDelegate delegate;
-    return delegate.run();
+    return quorvan::Application::run([] {
+        quorvan::fillMainStoryboard();
+        quorvan::AppDelegate delegate;
+        return delegate.run();
+    });
 }

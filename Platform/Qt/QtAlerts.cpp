@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace quorvan::platform {
 namespace {
@@ -22,11 +23,14 @@ QMessageBox::Icon iconFor(AlertStyle style) {
 } // namespace
 
 void QtAlerts::runModal(const std::string& windowTitle, const std::string& message, AlertStyle style) {
-    QMessageBox box(iconFor(style), QString::fromStdString(windowTitle), QString::fromStdString(message),
-                    QMessageBox::Ok, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText); // a message may quote what a server sent
-    box.setWindowModality(Qt::ApplicationModal);
-    box.exec();
+    // On the heap, because the window below it may end, and the box with it, while it is open.
+    const QPointer<QMessageBox> box =
+        new QMessageBox(iconFor(style), QString::fromStdString(windowTitle), QString::fromStdString(message),
+                        QMessageBox::Ok, QApplication::activeWindow());
+    box->setTextFormat(Qt::PlainText); // a message may quote what a server sent
+    box->setWindowModality(Qt::ApplicationModal);
+    box->exec();
+    delete box.data();
 }
 
 } // namespace quorvan::platform

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // quorvan-demo: the application on a simulated server inside the process, selection included. It is the
 // real thing but for the server, the keyring and the shared defaults.
+#include "Quorvan/Application.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Simulator/demo/Palettes.h"
 #include "Simulator/demo/Scenes.h"
 
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
@@ -48,6 +48,11 @@ bool asksForTour(int count, char** arguments) {
         if (QByteArray(arguments[at]).startsWith("--tour"))
             return true;
     return false;
+}
+
+/// A volume, and what is on it: "VOL1:\folder\file".
+bool isServerPath(const QString& path) {
+    return path.indexOf(QLatin1String(":\\")) > 0;
 }
 
 /// The same program once more, at twice the size.
@@ -107,7 +112,7 @@ int main(int argc, char** argv) {
     const bool tour = asksForTour(argc, argv) || !hasDisplay();
     if (tour)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
+    const quorvan::Application application(argc, argv);
     QApplication::setApplicationName("quorvan-demo");
     QApplication::setWindowIcon(QIcon(":/icons/quorvan.svg"));
     QCommandLineParser parser;
@@ -117,10 +122,17 @@ int main(int argc, char** argv) {
     parser.process(application);
     if (!users.contains(parser.value(asOption)))
         parser.showHelp(2);
+    if (!isServerPath(parser.value(pathOption))) {
+        std::fprintf(stderr, "quorvan-demo: \"%s\" is no path of the form VOL1:\\folder\\file\n",
+                     qPrintable(parser.value(pathOption)));
+        return 2;
+    }
 
-    quorvan::fillMainStoryboard();
-    if (tour)
-        return walkThrough(parser.isSet(tourOption) ? parser.value(tourOption) : QStringLiteral("demo"),
-                           parser.isSet(scaledOption));
-    return open(parser.value(asOption), parser.value(pathOption));
+    return quorvan::Application::run([&] {
+        quorvan::fillMainStoryboard();
+        if (tour)
+            return walkThrough(parser.isSet(tourOption) ? parser.value(tourOption) : QStringLiteral("demo"),
+                               parser.isSet(scaledOption));
+        return open(parser.value(asOption), parser.value(pathOption));
+    });
 }
