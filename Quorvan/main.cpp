@@ -82,7 +82,7 @@ int main(int argc, char** argv) {
     }
     keepMemoryPrivate();
     quorvan::Application application(argc, argv);
-    if (argc > 1) { // what Qt understands is gone by now
+    if (argc > 1) { // Qt has taken out what it understands
         std::fprintf(stderr, "quorvan: unknown argument: %s\n%s", argv[1], helpText);
         return 2;
     }

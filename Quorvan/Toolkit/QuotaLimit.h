@@ -11,7 +11,7 @@ class QWidget;
 
 namespace quorvan {
 
-/// The unit of limits whose unit nobody has chosen, as a position in the pop-up.
+/// The unit of limits without a chosen unit, as a position in the pop-up.
 inline constexpr int quotaUnitGB = 1;
 
 /// An amount of space for people: a number with at most two decimals, a blank, and the name of the largest

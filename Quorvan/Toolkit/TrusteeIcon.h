@@ -8,10 +8,10 @@
 namespace quorvan {
 
 /// The name of the icon that stands for a kind of trustee ("Users", "Groups" or a directory-tree
-/// object class, in any case); kinds that nobody knows look like users.
+/// object class, in any case); unknown kinds look like users.
 const char* trusteeIconName(std::string_view trusteeType);
 
-/// The icon of a user by its identity type; none for a type that nobody knows.
+/// The icon of a user by its identity type; none for an unknown type.
 QIcon userIcon(std::string_view identityType);
 
 /// One of the program's icons by its name, made once.

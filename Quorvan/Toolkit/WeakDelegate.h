@@ -19,7 +19,7 @@ public:
 
     /// The delegate; null when its view is gone. To ask before there was one is fatal.
     Delegate* get() const {
-        require(delegate_ != nullptr, "Nobody is there to take the answer of a sheet");
+        require(delegate_ != nullptr, "A sheet has no delegate to answer to");
         return view_.isNull() ? nullptr : delegate_;
     }
 

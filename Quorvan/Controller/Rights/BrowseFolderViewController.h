@@ -37,7 +37,7 @@ public:
 
     // Set before the sheet is presented
 
-    /// `delegate` is usually `owner` itself; a browser that outlives `owner` answers to nobody.
+    /// `delegate` is usually `owner` itself; a browser that outlives `owner` has no receiver.
     void setBrowseFileDelegate(ViewController& owner, BrowseFolderDelegate& delegate);
     std::optional<std::string> volpath; ///< the volume's name below /Volumes
 

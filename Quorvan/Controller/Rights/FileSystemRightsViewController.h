@@ -37,7 +37,7 @@ public:
     QLabel* addRemoveTitle = nullptr;
     QPushButton* addBtn = nullptr;
     QPushButton* removeBtn = nullptr;
-    QLabel* readOnlyLabel = nullptr; ///< says why nobody can be chosen, where that is so
+    QLabel* readOnlyLabel = nullptr; ///< says why no identity can be chosen, where that is so
     QPushButton* cancelBtn = nullptr;
     QPushButton* revertBtn = nullptr;
     QPushButton* applyBtn = nullptr;

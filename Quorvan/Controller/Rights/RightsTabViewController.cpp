@@ -83,7 +83,7 @@ void RightsTabViewController::viewWillAppear() {
 void RightsTabViewController::viewDidAppear() {
     rightsTable->scrollToTop();
     const QWidget* focus = window()->focusWidget();
-    if (focus == nullptr || !focus->isVisible()) // it went with the page before
+    if (focus == nullptr || !focus->isVisible()) // it was in the page before
         rightsTable->setFocus();
 }
 

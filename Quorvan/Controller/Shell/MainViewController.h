@@ -43,7 +43,7 @@ public:
     MenuEntry* PurgeView = nullptr;
     PathLabel* managedPath = nullptr;
     QLabel* managedServer = nullptr;
-    QPushButton* tryAgainBtn = nullptr; ///< only there when nobody knows who is logged in
+    QPushButton* tryAgainBtn = nullptr; ///< only there while the kind of the logged-in user is unknown
 
     std::unique_ptr<XMLReadWriteController> xmlController;
     const std::string serverIP;

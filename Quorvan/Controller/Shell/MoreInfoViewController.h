@@ -15,7 +15,7 @@ public:
     using ViewController::ViewController;
 
     // Outlets
-    QPushButton* actionButton = nullptr; ///< titled after the page's purpose, and asleep
+    QPushButton* actionButton = nullptr; ///< titled after the page's purpose, and always disabled
     QPushButton* cancelButton = nullptr;
 
     std::string callerID; ///< what the page goes by
