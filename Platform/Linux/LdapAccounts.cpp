@@ -178,8 +178,8 @@ bool LdapAccounts::prefetch(const std::vector<std::string>& sids) {
         if (bytes && bySid_.count(*bytes) == 0)
             unknown.push_back(*bytes);
     }
-    std::ranges::sort(unknown); // a list names the same identity in many rows
-    unknown.erase(std::ranges::unique(unknown).begin(), unknown.end());
+    std::sort(unknown.begin(), unknown.end()); // a list names the same identity in many rows
+    unknown.erase(std::unique(unknown.begin(), unknown.end()), unknown.end());
     const std::vector<std::string> everywhere = bases();
     for (std::size_t at = 0; at < unknown.size(); at += batch) {
         const std::size_t end = std::min(unknown.size(), at + batch);
