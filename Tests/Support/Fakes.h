@@ -67,6 +67,7 @@ struct FakeNetwork : platform::NetworkFileSystem {
     int openResult = 7;
     int openError = 0;
     std::deque<std::optional<std::string>> pieces; ///< nothing stands for a read that fails and passes
+    int readError = EINTR;
 
     std::string resolve(const std::string& host) override {
         calls.push_back("resolve " + host);
@@ -112,7 +113,7 @@ struct FakeNetwork : platform::NetworkFileSystem {
         const std::optional<std::string> piece = std::move(pieces.front());
         pieces.pop_front();
         if (!piece)
-            return fail(EINTR);
+            return fail(readError);
         std::memcpy(buffer, piece->data(), piece->size());
         return static_cast<ssize_t>(piece->size());
     }

@@ -5,6 +5,7 @@
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/Support/LogRecorder.h"
+#include "Tests/Support/Table.h"
 
 #include <gmock/gmock.h>
 
@@ -16,9 +17,12 @@ inline std::string replyWith(const std::string& status) {
     return "<r>" + result + "<fileInfo><getFileInfo>" + result +
            "<rightsInfo><effectiveRights/></rightsInfo></getFileInfo><getAllEffectiveRights>" + result +
            "</getAllEffectiveRights></fileInfo><trustees><addTrustee>" + result +
-           "</addTrustee></trustees><userQuota><browse><userList/>" + result + "</browse><set>" + result +
+           "</addTrustee><removeTrustee>" + result +
+           "</removeTrustee></trustees><userQuota><browse><userList/>" + result + "</browse><set>" + result +
            "</set></userQuota></r>";
 }
+
+using Texts = std::vector<std::string>;
 
 /// A selection on server "srv1" (10.1.2.3), a controller with an open pipe, and nothing in the log yet.
 class Session : public testing::Test {
