@@ -83,7 +83,7 @@ timeval LdapSearchRun::timeLeft() const {
 
 bool LdapSearchRun::take(const std::vector<std::string>& values) {
     for (const std::string& value : values)
-        bytes_ += sizeof value + value.size();
+        bytes_ += sizeof(std::string) + value.size();
     isTooMuch_ = bytes_ > mostBytes;
     return !isTooMuch_;
 }

@@ -50,7 +50,7 @@ SmbClientFileSystem::SmbClientFileSystem(LogLine log, Waiting waiting, const Smb
 
 SmbClientFileSystem::~SmbClientFileSystem() {
     while (!sessions_.empty())
-        unmount(sessions_.begin()->first, true);
+        SmbClientFileSystem::unmount(sessions_.begin()->first, true);
 }
 
 std::string SmbClientFileSystem::resolve(const std::string& host) {

@@ -10,7 +10,7 @@
 
 namespace quorvan::platform {
 
-SmbSession::SmbSession(SmbUrl share, ServerAddress server, std::string user, const Secret& password,
+SmbSession::SmbSession(const SmbUrl& share, ServerAddress server, std::string user, const Secret& password,
                        std::chrono::milliseconds timeLimit)
     : server_(std::move(server))
     , share_(share.at(server_.host))

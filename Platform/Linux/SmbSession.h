@@ -17,7 +17,7 @@ namespace quorvan::platform {
 /// the library's own, for each message: a last resort behind the caller's.
 class SmbSession {
 public:
-    SmbSession(SmbUrl share, ServerAddress server, std::string user, const Secret& password,
+    SmbSession(const SmbUrl& share, ServerAddress server, std::string user, const Secret& password,
                std::chrono::milliseconds timeLimit);
     ~SmbSession();
     SmbSession(const SmbSession&) = delete;

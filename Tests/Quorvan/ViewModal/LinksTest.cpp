@@ -15,7 +15,7 @@ struct ScriptedNetwork : FakeNetwork {
     std::string closed;  ///< the pipe that cannot be opened
     int opened = 0;
 
-    platform::MountResult mount(const std::string& url, const std::string&, const std::string&,
+    platform::MountResult mount(const std::string& url, const std::string&, const platform::Secret&,
                                 const platform::MountOptions&) override {
         return {0, {"/Volumes/" + url.substr(6, url.find('/', 6) - 6)}};
     }
