@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <ctime>
+#include <type_traits>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -46,14 +47,20 @@ inline double median(std::vector<double> values) {
     return *middle;
 }
 
-/// Runs a baseline and our own work in turn. The time of the benchmark is the processor time of our work;
-/// the counter "ratio" is its median over the baseline's.
+/// Runs a baseline and our own work in turn. What the work returns is its user's, so its end is not timed.
+/// The time of the benchmark is the processor time of our work; the counter "ratio" is its median over the
+/// baseline's.
 template <class Baseline, class Work>
 void compare(benchmark::State& state, std::size_t bytes, Baseline&& baseline, Work&& work) {
     const auto seconds = [](auto&& what) {
         const double begin = threadSeconds();
-        what();
-        return threadSeconds() - begin;
+        if constexpr (std::is_void_v<decltype(what())>) {
+            what();
+            return threadSeconds() - begin;
+        } else {
+            const auto result = what();
+            return threadSeconds() - begin;
+        }
     };
     std::vector<double> baselines;
     std::vector<double> works;
