@@ -2,6 +2,7 @@
 #include "Common/ServerDetails.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/Support/LogRecorder.h"
+#include "Tests/Support/Table.h"
 
 #include <gmock/gmock.h>
 
@@ -50,26 +51,28 @@ TEST_F(ServerDetailsTest, ReadsTheHandOverThenTheKeychain) {
 }
 
 TEST_F(ServerDetailsTest, PutsLocalPathsIntoServerForm) {
-    for (const auto& [local, formatted] :
-         std::map<std::string, std::string>{{"/Volumes/VOL1", "VOL1:\\"},
-                                            {"/Volumes/VOL1/a", "VOL1:\\a"},
-                                            {"/Volumes/VOL1/a/b/c", "VOL1:\\a\\b\\c"},
-                                            {"/Volumes/VOL1/my Volumes/x", "x:\\"},
-                                            {"/Volumes/VOL1/Volumesé/x", ":\\x"},
-                                            {"/Volumes/back\\slash/x", "back:\\slash\\x"}})
+    for (const auto& [local, formatted] : table<2>(R"(
+/Volumes/VOL1              | VOL1:\
+/Volumes/VOL1/a            | VOL1:\a
+/Volumes/VOL1/a/b/c        | VOL1:\a\b\c
+/Volumes/VOL1/my Volumes/x | x:\
+/Volumes/VOL1/Volumesé/x   | :\x
+/Volumes/back\slash/x      | back:\slash\x
+)"))
         EXPECT_EQ(ServerDetails::getFormattedPath(local), formatted) << local;
 }
 
-TEST_F(ServerDetailsTest, MapsTheSelectionOntoTheServerBySubstrings) {
-    const std::string mapped = "VOL1:\\users\\bob";
-    EXPECT_EQ(select("/Volumes/bob/docs/a.txt", mapped), "VOL1:\\users\\bob\\docs\\a.txt");
-    EXPECT_EQ(select("/Volumes/VOL1/docs/a.txt", "VOL1:\\"), "VOL1:\\docs\\a.txt");
-    EXPECT_EQ(select("/Volumes/bob", mapped), mapped) << "the root of the share";
-    EXPECT_EQ(select("/Volumes/bob/bo/x", mapped), "VOL1:\\users\\bob\\x")
-        << "a part inside a mapped component is dropped";
-    EXPECT_EQ(select("/Volumes/data/ta", mapped), "VOL1:\\users\\bob\\ta:\\ta")
-        << "the first occurrence lies in the name of the share";
-    EXPECT_DEATH(select("/Volumes/bob/users", mapped), "No part of the selection");
+/// Parts are compared as substrings: "bo" occurs in the mapped path, and "ta" first in the share's name.
+TEST_F(ServerDetailsTest, MapsTheSelectionOntoTheServer) {
+    for (const auto& [selected, mapped, onServer] : table<3>(R"(
+/Volumes/bob/docs/a.txt  | VOL1:\users\bob | VOL1:\users\bob\docs\a.txt
+/Volumes/VOL1/docs/a.txt | VOL1:\          | VOL1:\docs\a.txt
+/Volumes/bob             | VOL1:\users\bob | VOL1:\users\bob
+/Volumes/bob/bo/x        | VOL1:\users\bob | VOL1:\users\bob\x
+/Volumes/data/ta         | VOL1:\users\bob | VOL1:\users\bob\ta:\ta
+)"))
+        EXPECT_EQ(select(selected, mapped), onServer);
+    EXPECT_DEATH(select("/Volumes/bob/users", "VOL1:\\users\\bob"), "No part of the selection");
 }
 
 TEST_F(ServerDetailsTest, CountsUnusableAccountsAsNoItem) {

@@ -3,6 +3,7 @@
 #include "Quorvan/ViewModal/BrowseLdapViewModal.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/Support/LogRecorder.h"
+#include "Tests/Support/Table.h"
 
 #include <gmock/gmock.h>
 
@@ -65,33 +66,32 @@ TEST_F(UsersViewModal, WarnsOfADirectoryThatDoesNotAnswer) {
     EXPECT_EQ(world.alerts->shown.size(), 3U) << "of a whole list the user reads once";
 }
 
-TEST_F(UsersViewModal, TakesTheFirstPartOfTheLastRecordsFirstValue) {
-    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "Unknown");
-    add({{"a", {"one:two", "three"}}});
-    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "one");
-    add({{"a", {"last"}}});
-    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "last");
-    add({{"a", {":x"}}});
-    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "Unknown");
-    add({{"a", {"again"}}});
-    add({});
-    EXPECT_EQ(lookupAttrValueFromID(sid, "a"), "again");
-    EXPECT_THAT(log.lines, ElementsAre("Error in Opening Session"));
-}
-
-TEST_F(UsersViewModal, SetsATrusteesType) {
-    EXPECT_EQ(typeOf(sid), "before");
-    add({{recordType, {"dsRecTypeStandard:Users"}}});
-    EXPECT_EQ(typeOf(sid), "Users");
-    add({{recordType, {"dsRecTypeStandard:Groups:x"}}});
-    EXPECT_EQ(typeOf(sid), "Groups");
-    add({});
-    EXPECT_EQ(typeOf(sid), "Groups");
-    EXPECT_THAT(log.lines, ElementsAre("Error in Open Directory Session"));
-    EXPECT_EQ(world.alerts->shown.size(), 1U);
-    world.directory->records[sid].clear();
-    add({{recordType, {"Users"}}});
-    EXPECT_DEATH(typeOf(sid), "no second part");
+/// Records by the values of one attribute, the records apart by commas; "-" is one that cannot be read.
+TEST_F(UsersViewModal, ReadsTheLastRecord) {
+    for (const auto& [attribute, values, result, failures] : table<4>(R"(
+a    |                                                  | Unknown |
+a    | one:two                                          | one     |
+a    | one,last                                         | last    |
+a    | one,:x                                           | Unknown |
+a    | one,again,-,never                                | again   | Error in Opening Session
+type |                                                  | before  |
+type | dsRecTypeStandard:Users                          | Users   |
+type | dsRecTypeStandard:Users,dsRecTypeStandard:Groups:x | Groups |
+type | dsRecTypeStandard:Groups,-,dsRecTypeStandard:Users | Groups | Error in Open Directory Session
+type | Users                                            | fatal   |
+)")) {
+        const std::string name = attribute == "a" ? "a" : recordType;
+        world.directory->records[sid].clear();
+        std::istringstream stream(values);
+        for (std::string value; std::getline(stream, value, ',');)
+            value == "-" ? add({}) : add({{name, {value, "three"}}});
+        if (result == "fatal")
+            EXPECT_DEATH(typeOf(sid), "no second part");
+        else
+            EXPECT_EQ(name == "a" ? lookupAttrValueFromID(sid, "a") : typeOf(sid), result) << values;
+        EXPECT_EQ(joined(log.take()), failures);
+    }
+    EXPECT_EQ(world.alerts->shown.size(), 1U) << "for a type that cannot be read";
 }
 
 TEST_F(UsersViewModal, FindsGroupsAndSidsOfNamedObjects) {
