@@ -19,7 +19,7 @@ struct Misbehaviour {
     std::optional<std::string> garbage; ///< every reply is this text; the request is not looked at
     std::size_t replyMegabytes = 0;     ///< replies are padded to at least this size (1024 * 1024 bytes each)
     std::optional<std::size_t> cutAfter;  ///< replies end after this many bytes
-    std::optional<std::size_t> dropAfter; ///< the connection is gone after this many bytes of a reply
+    std::optional<std::size_t> dropAfter; ///< the connection is gone after this many bytes of a reply, or all
     std::chrono::milliseconds delay{0};   ///< before the first piece of every reply
     int passingReadErrors = 0;            ///< that many reads of every reply fail with EINTR first
 

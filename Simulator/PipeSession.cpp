@@ -36,7 +36,8 @@ void PipeSession::answerPendingRequest() {
         return;
     if (wrong.cutAfter)
         reply_.resize(std::min(reply_.size(), *wrong.cutAfter));
-    dropAt_ = wrong.dropAfter.value_or(std::string::npos);
+    if (wrong.dropAfter)
+        dropAt_ = std::min(*wrong.dropAfter, reply_.size());
     passingErrors_ = wrong.passingReadErrors;
 }
 

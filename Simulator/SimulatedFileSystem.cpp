@@ -179,6 +179,11 @@ int SimulatedFileSystem::close(int descriptor) {
     return files_.erase(descriptor) != 0 ? 0 : failWith(EBADF);
 }
 
+int SimulatedFileSystem::lossOn(int descriptor) const {
+    const auto file = files_.find(descriptor);
+    return file != files_.end() && file->second.session.dropped() ? ECONNRESET : 0;
+}
+
 std::vector<std::string> SimulatedFileSystem::mountedPaths() const {
     std::vector<std::string> paths;
     for (const auto& [path, mount] : mounts_)

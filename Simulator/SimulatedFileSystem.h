@@ -35,6 +35,7 @@ public:
     ssize_t read(int descriptor, void* buffer, std::size_t size) override;
     ssize_t write(int descriptor, const void* data, std::size_t size) override;
     int close(int descriptor) override;
+    int lossOn(int descriptor) const override;
 
     // For tests.
 

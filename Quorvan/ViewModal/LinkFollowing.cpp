@@ -21,6 +21,18 @@ bool liesBelowLink(const std::string& status) {
     return status == "20429" || status == "20008";
 }
 
+// Where a link leads goes into the requests to another server, with the user's password: it must not be able
+// to add anything to them.
+
+bool isPlain(const std::string& text) {
+    return std::ranges::none_of(
+        text, [](unsigned char c) { return c < 0x20 || c == 0x7F || c == '<' || c == '>' || c == '&'; });
+}
+
+bool isHostName(const std::string& text) {
+    return isPlain(text) && text.find_first_of(" \"\\^`{|}/@?#%") == std::string::npos;
+}
+
 /// The parts of a server path; empty ones do not count.
 std::vector<std::string> partsOf(const std::string& path) {
     std::vector<std::string> parts;
@@ -42,19 +54,20 @@ std::int32_t LinkFollower::perform(const SelectionRequest& request) {
     const std::string result = request.perform(place_.selectedPath);
     pipe.close();
 
-    std::int32_t outcome = 0;
-    if (liesBelowLink(result)) {
+    std::int32_t outcome = controller_.loss();
+    if (outcome == 0 && liesBelowLink(result)) {
         outcome = performBehindLink(request);
     } else if (!succeeded(result)) {
         Log("%@%@", request.failed.here, result);
-        outcome = 1;
+        if (outcome == 0)
+            outcome = 1;
     }
     XMLReadWriteController::closePipe(); // once more: the log of every operation on a selection ends so
     return outcome;
 }
 
 /// Asks the server where the link leads and repeats the request there. The result is that of the SMB
-/// client, whatever else goes wrong.
+/// client, or the errno of a lost connection, whatever else goes wrong.
 std::int32_t LinkFollower::performBehindLink(const SelectionRequest& request) {
     ScopedPipe linkPipe(controller_, place_.server, pipes::smbInformation);
     if (!linkPipe.isOpen())
@@ -70,7 +83,7 @@ std::int32_t LinkFollower::performBehindLink(const SelectionRequest& request) {
     if (resVal != "0")
         Log("Unable to get DFS Path Info : error returned: %@", resVal);
     if (resVal != "0" || !mayContinue)
-        return status;
+        return controller_.loss() != 0 ? controller_.loss() : status;
 
     ScopedPipe pipe(controller_, place_.server, request.pipe);
     if (!pipe.isOpen()) {
@@ -81,7 +94,7 @@ std::int32_t LinkFollower::performBehindLink(const SelectionRequest& request) {
     pipe.close();
     if (!succeeded(result))
         Log("%@%@", request.failed.behindLink, result);
-    return status;
+    return controller_.loss() != 0 ? controller_.loss() : status;
 }
 
 void LinkFollower::walkMappedPath() {
@@ -129,6 +142,8 @@ std::string XMLReadWriteController::getDFSPath(const std::string& path) {
 std::string XMLReadWriteController::getDFSPathInfo(const std::string& path, std::string& targetServer,
                                                    std::string& targetPath) {
     const XMLDocument reply(getDFSPath(path));
+    if (loss_ != 0)
+        return statusOfExchange();
     if (reply.error()) {
         Log("Error parsing KELP Reply - %@", reply.error()->description);
         return "-1";
@@ -140,9 +155,14 @@ std::string XMLReadWriteController::getDFSPathInfo(const std::string& path, std:
         return status;
     const XMLElement junction = getElement({"readLink", "junction"}, reply.rootElement());
     const std::string host = getValue("server", junction);
+    const std::string volume = getValue("volumeName", junction);
     const std::string inVolume = getValue("pathName", junction);
+    if (!isHostName(host) || !isPlain(volume) || !isPlain(inVolume)) {
+        Log("Error parsing KELP Reply - %@", "the link leads to no server or path");
+        return "-1";
+    }
     targetServer = host.substr(0, host.find('.'));
-    targetPath = getValue("volumeName", junction) + (inVolume.empty() ? ":" : ":\\" + inVolume);
+    targetPath = volume + (inVolume.empty() ? ":" : ":\\" + inVolume);
     Log("targetServer : %@, targetPath : %@", targetServer, targetPath);
     return status;
 }

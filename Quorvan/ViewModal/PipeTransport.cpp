@@ -64,6 +64,9 @@ public:
     ExchangeScope& operator=(const ExchangeScope&) = delete;
 };
 
+/// In bytes. The rights of all paths of a volume with a million trustees come to half of it.
+constexpr std::size_t longestReply = std::size_t{512} << 20U;
+
 /// Lets a reply grow by leaps. Memory that is reserved and never touched costs nothing, whereas copying a
 /// long reply from one place to the next costs as much as reading it.
 void makeRoom(std::string& reply) {
@@ -80,6 +83,7 @@ std::int32_t XMLReadWriteController::fileDes = -1;
 std::int32_t XMLReadWriteController::openPipe(const std::string& server, const std::string& share,
                                               const std::string& pipe) {
     require(!inUse.isOpen && !inUse.inExchange, "%@ was to be opened while a pipe is in use", pipe);
+    loss_ = 0;
     const platform::BusyScope busy(platform::services().busy);
     std::string mountPath;
     const std::int32_t status = mountIPCPipe(server, share, pipe, mountPath);
@@ -216,10 +220,14 @@ std::string XMLReadWriteController::exchangeRequest(const std::string& request, 
         const std::string_view piece(buffer.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
         makeRoom(reply);
         appendRepairedUtf8(reply, piece.substr(0, piece.find('\0')));
-    } while (length != 0);
+    } while (length != 0 && reply.size() <= longestReply);
     Log(log.completion);
-    Log(log.response, reply);
-    return reply;
+    loss_ = length == 0 ? files.lossOn(descriptor) : EOVERFLOW;
+    Log(log.response, loss_ == EOVERFLOW ? "a reply without end" : reply);
+    if (loss_ == 0)
+        return reply;
+    Log("The connection to the server was lost: %d", loss_);
+    return {};
 }
 
 } // namespace quorvan

@@ -19,7 +19,9 @@ std::string XMLReadWriteController::getResultValue(const std::string& reply, con
 }
 
 std::string XMLReadWriteController::statusOf(const std::optional<XMLError>& error,
-                                             const ResultElement& result) {
+                                             const ResultElement& result) const {
+    if (loss_ != 0)
+        return std::to_string(loss_);
     if (error) {
         Log("Error parsing KELP Reply - %@", error->description);
         return "0";

@@ -37,6 +37,9 @@ struct ExchangeLog {
 /// Paths are server paths, VOLUME:\dir\file. An identity type is "ActiveDirectory" or "Morvane". A
 /// status text is the server's own: "0" is success, anything else its code, unchanged; a reply that is
 /// not XML counts as success. Nothing is thrown.
+///
+/// When the connection is lost in the middle of an exchange, nothing of what arrived counts: the operation
+/// ends with the errno as its status, whatever else it promises, and `loss()` tells it, too.
 class XMLReadWriteController {
 public:
     static constexpr int MEM_SIZE = 4096; ///< the server hands out a reply in pieces of this many bytes
@@ -72,8 +75,12 @@ public:
     /// Closes the descriptor alone, where the program ends and the operation does not.
     static void dropPipe();
     /// Writes a request to the open pipe and returns the whole reply, well-formed UTF-8. Without an
-    /// open pipe the process ends with status 1; in the middle of another exchange it is fatal.
+    /// open pipe the process ends with status 1; in the middle of another exchange it is fatal. Empty after a
+    /// loss, to which a reply of more than 512 MB counts.
     std::string exchangeRequest(const std::string& request, const ExchangeLog& log);
+    /// Whether the connection was lost in an exchange since openPipe: the errno, or 0. What the last request
+    /// was to change may or may not have been changed.
+    std::int32_t loss() const { return loss_; }
 
     // Replies
 
@@ -127,7 +134,8 @@ public:
                                           const std::string& identityType);
     static std::string createGetUserEffRightRequest(const std::string& userID, const std::string& path,
                                                     const std::string& identityType);
-    /// The effective rights of one identity, which stay as they are when the request failed. Always "0".
+    /// The effective rights of one identity, which stay as they are when the request failed. Otherwise always
+    /// "0".
     std::string getEffectiveRightsforUserOnPath(const std::string& path, const std::string& userID,
                                                 Rights& rights, const std::string& identityType);
     /// The names of the logged-in user's rights on a path ("read", "fileScan", …), whatever the status.
@@ -143,7 +151,7 @@ public:
     /// Appends the trustees of dictResponse with the path that follows them there; those behind the last
     /// path are dropped.
     void loadDirectoryRights(std::vector<DirectoryRights>& dirTrustee, const std::string& identityType) const;
-    /// Appends the paths below `path` on which identities of `userID` hold rights. Always "0".
+    /// Appends the paths below `path` on which identities of `userID` hold rights. Otherwise always "0".
     std::string getFSRights(const std::string& path, const std::vector<std::string>& userID,
                             std::vector<IdentityFileRights>& grpRights, const std::string& ctx);
     static void decodeFSRInfo(const std::string& xmlResp, const std::vector<std::string>& userID,
@@ -167,12 +175,12 @@ public:
     static void decodeFileAttributesResponse(const std::string& xml, AttributesInfo& dictionary);
     static std::vector<std::string> parseFileAttributes(XMLElement xmlData);
     static void decodeDirQuotaResponse(const std::string& xml, DirectoryQuotaInfo& dictionary);
-    /// How a change went is not told; read the value again to see it.
-    void setFileInfoOwner(const std::string& path, const std::string& ownerID,
-                          const std::string& identityType);
+    /// How a change went is not told; read the value again to see it. "0" unless the connection was lost.
+    std::string setFileInfoOwner(const std::string& path, const std::string& ownerID,
+                                 const std::string& identityType);
     /// `attributes`: tags of FileAttributes, one after the other.
-    void setAttributes(const std::string& path, const std::string& attributes);
-    void setDirectoryQuota(const std::string& path, const std::string& amount);
+    std::string setAttributes(const std::string& path, const std::string& attributes);
+    std::string setDirectoryQuota(const std::string& path, const std::string& amount);
     static std::string createSetOwnerRequest(const std::string& path, const std::string& ownerID,
                                              const std::string& identityType);
     static std::string createSetAttributesRequest(const std::string& path, const std::string& attributes);
@@ -214,7 +222,8 @@ public:
     std::string getGroupMemberShip_Morvane(const std::string& id, std::vector<Group>& grouplist,
                                            const std::string& context, const std::string& objectName);
     std::string parseMorvaneGroupsResp(const std::string& xml, std::vector<Group>& grouplist);
-    /// "Morvane" when the reply names that directory, "ActiveDirectory" in every other case.
+    /// "Morvane" when the reply names that directory, "ActiveDirectory" in every other case but a loss, ""
+    /// then.
     std::string getUserType();
 
     // Links
@@ -242,8 +251,8 @@ public:
     // Each opens the pipe, performs its request and closes the pipe. Where the server says that the path
     // lies below a link, server and selected path are rewritten to the link's target and the request is
     // repeated there. The result is 0, also when the link could not be resolved or its target not be
-    // reached (the log says so); 1 when the request failed; the status of openPipe; or the SMB client's
-    // error for the target server.
+    // reached (the log says so); 1 when the request failed; the status of openPipe; the SMB client's error
+    // for the target server; or the errno of a lost connection.
 
     /// Empties `trusteeList` and fills it, the filter and the logged-in user's rights.
     std::int32_t initializeTrusteesHandleDFS(std::string& server, TrusteeList& trusteeList,
@@ -287,10 +296,14 @@ private:
         return entries;
     }
     XMLResponseParser parse(const std::string& reply) { return parse(reply, {}); }
-    static std::string statusOf(const std::optional<XMLError>& error, const ResultElement& result);
-    static std::string statusOf(const XMLResponseParser& parsed) {
+    std::string statusOf(const std::optional<XMLError>& error, const ResultElement& result) const;
+    std::string statusOf(const XMLResponseParser& parsed) const {
         return statusOf(parsed.error, parsed.result);
     }
+    /// The status of an operation that has none of its own.
+    std::string statusOfExchange() const { return std::to_string(loss_); }
+
+    std::int32_t loss_ = 0;
 
     std::string setOneTrustee(const std::string& request, const ElementPath& resultPath,
                               const ExchangeLog& log);

@@ -80,6 +80,8 @@ std::string XMLReadWriteController::getUserType() {
     const std::string reply =
         exchangeRequest(userTypeRequest(),
                         {"Get userType Request : %@", "response.deinitialize", "Get userType Response: %@"});
+    if (loss() != 0)
+        return "";
     const bool named = lowercased(reply).find("morvane") != std::string::npos;
     return std::string(named ? identityMorvane : identityActiveDirectory);
 }

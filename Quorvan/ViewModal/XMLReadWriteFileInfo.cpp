@@ -42,23 +42,26 @@ std::string XMLReadWriteController::getDirectoryQuota(const std::string& path, D
                        FileProperty::directoryQuota, dirQuota);
 }
 
-void XMLReadWriteController::setFileInfoOwner(const std::string& path, const std::string& ownerID,
-                                              const std::string& identityType) {
+std::string XMLReadWriteController::setFileInfoOwner(const std::string& path, const std::string& ownerID,
+                                                     const std::string& identityType) {
     exchangeRequest(createSetOwnerRequest(path, ownerID, identityType),
                     {"Set file info owner Request", "response.deinitialize set file info owner Request",
                      "Set file info owner Request: %@"});
+    return statusOfExchange();
 }
 
-void XMLReadWriteController::setAttributes(const std::string& path, const std::string& attributes) {
+std::string XMLReadWriteController::setAttributes(const std::string& path, const std::string& attributes) {
     exchangeRequest(createSetAttributesRequest(path, attributes),
                     {"Set Attributes Request : %@", "response.deinitialize Set File Attributes Request",
                      "Set Attributes Reply: %@"});
+    return statusOfExchange();
 }
 
-void XMLReadWriteController::setDirectoryQuota(const std::string& path, const std::string& amount) {
+std::string XMLReadWriteController::setDirectoryQuota(const std::string& path, const std::string& amount) {
     exchangeRequest(createSetDirQuotaRequest(path, amount),
                     {"Set Directory Quota Request", "response.deinitialize Set Directory Quota Request",
                      "Set Directory Quota Request: %@"});
+    return statusOfExchange();
 }
 
 } // namespace quorvan

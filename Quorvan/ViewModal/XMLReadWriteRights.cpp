@@ -27,7 +27,8 @@ std::int64_t XMLReadWriteController::setInheritedRights(std::uint16_t irf, const
 }
 
 std::int64_t XMLReadWriteController::parseSetInheritedRights(const std::string& xml) {
-    return parse(xml).xmlReqStatus;
+    const std::int64_t status = parse(xml).xmlReqStatus;
+    return loss_ != 0 ? loss_ : status;
 }
 
 void XMLReadWriteController::loadIRFRights(Rights& irf) const {
@@ -60,7 +61,7 @@ std::string XMLReadWriteController::getEffectiveRightsforUserOnPath(const std::s
                                                "Get effective rights for user on path Response: %@"});
     parse(reply);
     loadEffRights(rights);
-    return "0";
+    return statusOfExchange();
 }
 
 std::string XMLReadWriteController::getIRRequest(const std::string& path,
@@ -99,6 +100,8 @@ std::string XMLReadWriteController::getEffectiveRightsForMappedUser(const std::s
     ElementReader result({"fileInfo", "getFileInfo", "result"});
     ElementReader names({"fileInfo", "getFileInfo", "rightsInfo", "effectiveRights"});
     const auto error = readReply(getTrusteeList(path, ctx), result, names);
+    if (loss_ != 0)
+        return statusOfExchange();
     if (!error) {
         const XMLElement status = result.element();
         if (const auto rights = names.find()) {
@@ -121,7 +124,7 @@ std::string XMLReadWriteController::getFSRights(const std::string& path,
                   {"Get FSR Request : %@", "response.deinitialize getIRRequest", "Get FSR Response: %@"}),
               {}, files);
     files.finish(parsed.error);
-    return "0";
+    return statusOfExchange();
 }
 
 } // namespace quorvan

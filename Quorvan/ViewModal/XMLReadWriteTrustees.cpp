@@ -99,7 +99,7 @@ void XMLReadWriteController::parseSetTrusteeResp(const std::string& xml, std::in
     const XMLResponseParser parsed = parse(xml);
     nAddFailed = parsed.nAddFailed;
     nRemFailed = parsed.nRemFailed;
-    status = parsed.xmlReqStatus;
+    status = loss_ != 0 ? loss_ : parsed.xmlReqStatus;
 }
 
 } // namespace quorvan

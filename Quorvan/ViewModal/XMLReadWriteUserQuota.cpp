@@ -37,7 +37,8 @@ std::string XMLReadWriteController::setUserQuotaInfo(const std::string& path, co
     const std::string volume = volumeOf(path);
     std::string status = "0";
     std::span<const std::shared_ptr<UserQuotaData>> rest = array;
-    // The last request is the one that is not full, be it empty. A failure does not stop the others.
+    // The last request is the one that is not full, be it empty. A failure does not stop the others; a lost
+    // connection does.
     for (bool full = true; full;) {
         const auto batch = rest.first(std::min(batchSize, rest.size()));
         rest = rest.subspan(batch.size());
@@ -46,6 +47,8 @@ std::string XMLReadWriteController::setUserQuotaInfo(const std::string& path, co
             exchangeRequest(createSetUserQuotaRequest(volume, batch, ctx),
                             {"Set User Quota Request: %@", "response.deinitialize Set User Quota Request",
                              "Set User Quota Reply: %@"});
+        if (loss() != 0)
+            return statusOfExchange();
         if (status == "0")
             status = statusOf(parse(reply, {"userQuota", "set", "result"}));
     }

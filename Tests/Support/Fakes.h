@@ -68,6 +68,7 @@ struct FakeNetwork : platform::NetworkFileSystem {
     int openError = 0;
     std::deque<std::optional<std::string>> pieces; ///< nothing stands for a read that fails and passes
     int readError = EINTR;
+    int loss = 0;
 
     std::string resolve(const std::string& host) override {
         calls.push_back("resolve " + host);
@@ -98,6 +99,7 @@ struct FakeNetwork : platform::NetworkFileSystem {
         errno = openError;
         return openResult;
     }
+    int lossOn(int) const override { return loss; }
     int disableCaching(int descriptor) override {
         calls.push_back("disableCaching " + std::to_string(descriptor));
         return 0;

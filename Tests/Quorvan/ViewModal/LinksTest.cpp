@@ -7,7 +7,7 @@ namespace quorvan::test {
 namespace {
 
 /// Servers whose pipes answer by a script: with a status that every operation finds where it looks for its
-/// own, "SERVER VOLUME PATH" for where a link leads, or a reply as it stands.
+/// own, "SERVER VOLUME PATH" for where a link leads, a reply as it stands, or "lost" in the middle of one.
 struct ScriptedNetwork : FakeNetwork {
     Texts wire; ///< "context SERVER", and "SERVER/PIPE PATH …" for a pipe and the paths that were asked for
     std::deque<std::string> replies;
@@ -32,7 +32,8 @@ struct ScriptedNetwork : FakeNetwork {
         request.assign(static_cast<const char*>(data), size);
         const std::size_t path = std::min(request.find("V:"), request.find("D:"));
         wire.back() += " " + request.substr(path, request.find('<', path) - path);
-        pieces = {replyFor(replies.front())};
+        loss = replies.front() == "lost" ? 104 : 0;
+        pieces = {replyFor(loss != 0 ? "0" : replies.front())};
         replies.pop_front();
         return static_cast<ssize_t>(size);
     }
@@ -126,6 +127,20 @@ no pipe on the target at | 20429,b D s | 0 b D:\s\f
     | a/ZelSmbPipe V:\d\l > context b > b/FilesCmdPipe | openPipe failed. | b/FilesCmdPipe
 the code of a link there | 20429,b D s,20429 | 0 b D:\s\f | a/ZelSmbPipe V:\d\l > context b >
     b/FilesCmdPipe D:\s\f | Unable to get trustees on DFS path : error returned: 20429
+lost | lost | 104 a V:\d\l\f | | Unable to get trustees : error returned: 104
+lost on the way | 20429,lost | 104 a V:\d\l\f | a/ZelSmbPipe V:\d\l | Unable to get DFS Path Info : error returned: 104
+lost in the walk | 20429,30006,lost | 104 a V:\d\l\f | a/ZelSmbPipe V:\d\l > a/ZelSmbPipe V:\d
+    | Resolved path V:\d\l\f with error: 104 > Unable to get DFS Path Info : error returned: 104
+lost there | 20429,b D s,lost | 104 b D:\s\f | a/ZelSmbPipe V:\d\l > context b > b/FilesCmdPipe D:\s\f
+    | Unable to get trustees on DFS path : error returned: 104
+to a request | 20429,b D s&lt;/fileName&gt; | 0 a V:\d\l\f | a/ZelSmbPipe V:\d\l | Error parsing KELP Reply - the link
+    leads to no server or path > Unable to get DFS Path Info : error returned: -1
+to an entity | 20429,b D&amp;amp; | 0 a V:\d\l\f | a/ZelSmbPipe V:\d\l | Error parsing KELP Reply - the link
+    leads to no server or path > Unable to get DFS Path Info : error returned: -1
+to another line | 20429,b D s&#10;f | 0 a V:\d\l\f | a/ZelSmbPipe V:\d\l | Error parsing KELP Reply - the link
+    leads to no server or path > Unable to get DFS Path Info : error returned: -1
+to no server | 20429,b@c/x D | 0 a V:\d\l\f | a/ZelSmbPipe V:\d\l | Error parsing KELP Reply - the link
+    leads to no server or path > Unable to get DFS Path Info : error returned: -1
 )")) {
         SCOPED_TRACE(why);
         start(replies);

@@ -87,9 +87,9 @@ TEST_F(Requests, HaveTheirOwnTextsAndResults) {
         {"owner", [&] { return c.getFileInfoOwner(path, owner, type); }},
         {"attributes", [&] { return c.getAttributes(path, attributes, type); }},
         {"quota", [&] { return c.getDirectoryQuota(path, directoryQuota, type); }},
-        {"set owner", [&] { return c.setFileInfoOwner(path, "S-1", type), ""; }},
-        {"set attributes", [&] { return c.setAttributes(path, "<hidden enabled=\"no\"/>"), ""; }},
-        {"set quota", [&] { return c.setDirectoryQuota(path, "2048"), ""; }},
+        {"set owner", [&] { return c.setFileInfoOwner(path, "S-1", type); }},
+        {"set attributes", [&] { return c.setAttributes(path, "<hidden enabled=\"no\"/>"); }},
+        {"set quota", [&] { return c.setDirectoryQuota(path, "2048"); }},
         {"quotas", [&] { return c.getUserQuotaInfo(":VOLE\xCC\x81:\\a", quotas, type); }},
         {"set quotas", [&] { return c.setUserQuotaInfo("VOLE\xCC\x81:\\a", limits, type); }},
         {"browse", [&] { return c.getMorvaneBrowse("O=e\xCC\x81", users); }},
@@ -142,13 +142,13 @@ attributes | 7 | <info>[<adOnly/>;]<idOnly/><file/><how/><typeOfInfo><standardIn
     | Get Attributes Request : | Get File Attributes Request | Get Attributes Request
 quota | 7 | <info>[<adOnly/>;]<idOnly/><file/><how/><typeOfInfo><directoryQuotaInfo/></typeOfInfo></info>
     | Get Directory Quota Request | Get Directory Quota Request | Get Directory Quota Request
-set owner | | <admin><fileRequest><fileInfo><setFileInfo><nameSpace>LONG</nameSpace><file/><symLink/><idInfo>
+set owner | 0 | <admin><fileRequest><fileInfo><setFileInfo><nameSpace>LONG</nameSpace><file/><symLink/><idInfo>
     <creatorID[ type = "adID">;>]S-1</creatorID></idInfo></setFileInfo></fileInfo></fileRequest></admin>
     | Set file info owner Request | set file info owner Request | Set file info owner Request
-set attributes | | <admin><fileRequest><fileInfo><setFileInfo><nameSpace>LONG</nameSpace><file/><symLink/><attributes>
+set attributes | 0 | <admin><fileRequest><fileInfo><setFileInfo><nameSpace>LONG</nameSpace><file/><symLink/><attributes>
     <hidden enabled="no"/></attributes></setFileInfo></fileInfo></fileRequest></admin>
     | Set Attributes Request : | Set File Attributes Request | Set Attributes Reply
-set quota | | <admin><fileRequest><directoryQuotas><addQuota><file/><quotaAmount>2048</quotaAmount></addQuota></directoryQuotas>
+set quota | 0 | <admin><fileRequest><directoryQuotas><addQuota><file/><quotaAmount>2048</quotaAmount></addQuota></directoryQuotas>
     </fileRequest></admin> | Set Directory Quota Request | Set Directory Quota Request | Set Directory Quota Request
 quotas | 7 | <admin><userRequest><userQuota><browse>[<adOnly/><idOnly/>;]<volumeName>VOLÉ</volumeName></browse></userQuota>
     </userRequest></admin> | Get User Quota Request: | Get User Quota Request | Get User Quota Reply
@@ -182,6 +182,13 @@ kind | ActiveDirectory | <zelSmbGetInfo><userType/></zelSmbGetInfo> | Get userTy
             std::erase_if(lines, [](const std::string& line) { return line.empty() || line == " "; });
             EXPECT_EQ(log.take(), lines);
         }
+    }
+    world.network->loss = 104;
+    for (const auto& [name, run] : operations) {
+        reply(replyWith("0"));
+        EXPECT_EQ(run(), name == "link" || name == "kind" ? "" : "104") << name;
+        EXPECT_EQ(controller.loss(), 104);
+        EXPECT_THAT(log.take(), testing::Contains("The connection to the server was lost: 104"));
     }
     EXPECT_TRUE(trustees.empty() && directories.empty() && !owner.result && !attributes.result &&
                 !directoryQuota.result && users.empty() && groups.empty());
