@@ -959,5 +959,31 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>At the lower edge of the window while the server has not answered; %1 is a number of seconds.</extracomment>
     <translation>Waiting for the server: %1 s</translation>
   </message>
+  <message id="Group_Rights_Unknown_Label">
+    <source></source>
+    <translation>The rights of the groups could not be read.</translation>
+  </message>
+  <message id="Rights_Unknown_Label">
+    <source></source>
+    <extracomment>Of each check box of a right, when the rights could not be read.</extracomment>
+    <translation>Not known: the rights could not be read.</translation>
+  </message>
+  <message id="Connection_Lost_Label">
+    <source></source>
+    <extracomment>%1 is the name of the server. One of the two next texts follows.</extracomment>
+    <translation>The connection to %1 was lost.</translation>
+  </message>
+  <message id="Connection_Lost_Reading_Label">
+    <source></source>
+    <translation>Not everything could be read.</translation>
+  </message>
+  <message id="Connection_Lost_Changes_Label" numerus="yes">
+    <source></source>
+    <extracomment>After changes were sent and before the server confirmed them. They are still pending in the page.</extracomment>
+    <translation>
+      <numerusform>%n change may or may not have been made. Apply sends it again; Revert reads again what is there.</numerusform>
+      <numerusform>%n changes may or may not have been made. Apply sends them again; Revert reads again what is there.</numerusform>
+    </translation>
+  </message>
 </context>
 </TS>

@@ -3,10 +3,16 @@
 
 #include "Platform/Services.h"
 
+#include <QtGlobal>
+
 namespace quorvan {
 
 QString L(const std::string& key) {
     return QString::fromStdString(platform::services().bundle->localizedString(key));
+}
+
+QString L(const std::string& key, int count) {
+    return qtTrId(key.c_str(), count);
 }
 
 QString plainL(const std::string& key) {

@@ -11,7 +11,10 @@ namespace quorvan {
 /// buttons and check boxes carry their mnemonic ("&Apply").
 QString L(const std::string& key);
 
-/// The same without its mnemonic, for places that show no underlined letter.
+/// The form of a text for a number of things, which stands in it.
+QString L(const std::string& key, int count);
+
+/// A text without its mnemonic, for places that show no underlined letter.
 QString plainL(const std::string& key);
 
 } // namespace quorvan

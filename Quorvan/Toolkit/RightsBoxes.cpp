@@ -44,6 +44,24 @@ std::uint16_t RightsBoxes::bitOf(const QCheckBox* box) {
 void RightsBoxes::setRights(std::uint16_t mask) {
     for (std::size_t right = 0; right < boxes_.size(); ++right)
         boxes_[right]->setChecked((mask & rightsColumns[right].bit) != 0);
+    sayUnknown(false);
+}
+
+void RightsBoxes::setUnknown() {
+    for (QCheckBox* box : boxes_)
+        box->setCheckState(Qt::PartiallyChecked);
+    sayUnknown(true);
+}
+
+void RightsBoxes::sayUnknown(bool isUnknown) {
+    const QString text = isUnknown ? L("Rights_Unknown_Label") : QString();
+    for (QCheckBox* box : boxes_) {
+        box->setTristate(isUnknown);
+        if (isUnknown || !box->accessibleDescription().isEmpty()) {
+            box->setToolTip(text);
+            box->setAccessibleDescription(text);
+        }
+    }
 }
 
 void RightsBoxes::changeEvent(QEvent* event) {

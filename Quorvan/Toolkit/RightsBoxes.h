@@ -23,11 +23,15 @@ public:
 
     /// Ticks each box whose bit is set.
     void setRights(std::uint16_t mask);
+    /// Shows of no right whether it is held.
+    void setUnknown();
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void sayUnknown(bool isUnknown);
+
     std::array<QCheckBox*, rightsColumns.size()> boxes_{};
 };
 

@@ -6,7 +6,6 @@
 #include "Common/ServerDetails.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/Utils.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
 #include "Quorvan/Toolkit/ValueField.h"
@@ -22,10 +21,9 @@ namespace quorvan {
 namespace {
 
 /// Other than the rest of the page, the quota leaves a line in the log without credentials, too.
-void reportFailedQuota(std::int32_t status) {
+void logMissingCredentials(std::int32_t status) {
     if (status == errSecItemNotFound)
         Log("Failed with err - %d", status);
-    reportFailedStatus(status);
 }
 
 std::int64_t amountOf(const std::optional<std::string>& text) {
@@ -43,10 +41,13 @@ int percentOf(std::int64_t part, std::int64_t whole) {
 } // namespace
 
 void InformationViewController::getDirectoryQuota() {
-    if (const auto status = read(dirQuota, &XMLReadWriteController::getDirectoryQuotaHandleDFS); status != 0)
-        reportFailedQuota(status);
-    else
+    if (const auto status = read(dirQuota, &XMLReadWriteController::getDirectoryQuotaHandleDFS);
+        status != 0) {
+        logMissingCredentials(status);
+        reportFailed(status);
+    } else {
         updateDirectoryQuota();
+    }
 }
 
 void InformationViewController::updateDirectoryQuota() {
@@ -143,6 +144,8 @@ void InformationViewController::applyQuotaLimit() {
     if (!limit.empty()) {
         editedDirQuota.quotaAmount = limit;
         setDirectoryQuota();
+        if (isLost())
+            return;
         showKnownQuota();
         getDirectoryQuota();
     } else {
@@ -164,8 +167,10 @@ void InformationViewController::setDirectoryQuota() {
     fileAttributes = {};
     const std::string amount = editedDirQuota.quotaAmount.value_or("");
     if (const auto status = send([&] { xmlController->setDirectoryQuota(selectedPath, amount); });
-        status != 0)
-        reportFailedQuota(status);
+        status != 0) {
+        logMissingCredentials(status);
+        reportFailed(status, 1);
+    }
 }
 
 } // namespace quorvan

@@ -8,7 +8,6 @@
 #include "Quorvan/Controller/Information/InformationAttributes.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
@@ -66,14 +65,15 @@ void InformationViewController::initInformationTab() {
 
 std::int32_t InformationViewController::send(const std::function<void()>& request) {
     const ScopedPipe pipe(*xmlController, serverIP, pipes::files);
-    if (pipe.isOpen())
-        request();
-    return pipe.status();
+    if (!pipe.isOpen())
+        return pipe.status();
+    request();
+    return xmlController->loss();
 }
 
 void InformationViewController::getOwnerInformation() {
     if (const auto status = read(ownerInfo, &XMLReadWriteController::getFileInfoOwnerHandleDFS); status != 0)
-        reportFailedStatus(status);
+        reportFailed(status);
     else
         updateOwnerInformation();
 }
@@ -100,7 +100,7 @@ void InformationViewController::showOwner(const std::string& name, const std::st
 void InformationViewController::getFileAttributes() {
     if (const auto status = read(fileAttributes, &XMLReadWriteController::getAttributesHandleDFS);
         status != 0)
-        reportFailedStatus(status);
+        reportFailed(status);
     else
         updateFileAttributes();
 }
@@ -205,33 +205,45 @@ void InformationViewController::takeOwner(const std::string& name, const std::st
 }
 
 void InformationViewController::setFileAttributes(const std::string& attributes) {
-    if (const auto status = send([&] { xmlController->setAttributes(selectedPath, attributes); });
-        status != 0)
-        reportFailedStatus(status);
+    const auto status = send([&] { xmlController->setAttributes(selectedPath, attributes); });
+    if (status != 0)
+        reportFailed(status, 1);
 }
 
 void InformationViewController::setOwner() {
     const std::string id = editedOwner.ownerID.value_or("");
-    if (const auto status = send([&] { xmlController->setFileInfoOwner(selectedPath, id, domainIdentity); });
-        status != 0)
-        reportFailedStatus(status);
-    editedOwner = {"", ""};
+    const auto status = send([&] { xmlController->setFileInfoOwner(selectedPath, id, domainIdentity); });
+    if (status != 0)
+        reportFailed(status, 1);
+    if (!isLost())
+        editedOwner = {"", ""};
 }
 
 void InformationViewController::onApply() {
     const std::string tags = attributeTags();
+    // What the connection is lost in stays pending, and so does all that comes after it.
     if (applyAttrs) {
         setFileAttributes(tags);
+        if (isLost())
+            return;
         getFileAttributes();
         applyAttrs = false;
+        if (isLost())
+            return;
     }
     if (applyOwner) {
         setOwner();
+        if (isLost())
+            return;
         getOwnerInformation();
         applyOwner = false;
+        if (isLost())
+            return;
     }
     if (applyDirQuota)
         applyQuotaLimit();
+    if (applyDirQuota)
+        return;
     setApplyEnabled(false);
     if (isSupervisor)
         editLimitBtn->setEnabled(true);

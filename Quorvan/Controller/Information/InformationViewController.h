@@ -123,8 +123,10 @@ private:
                                                                       std::string&, const std::string&)) {
         return ((*xmlController).*request)(serverIP, selectedPath, info, mappedPath, domainIdentity);
     }
-    /// Sends one change. How it went is for the next reading to show, unless no pipe could be opened.
+    /// Sends one change. How it went is for the next reading to show, unless no pipe could be opened or the
+    /// connection was lost, whose status this returns.
     std::int32_t send(const std::function<void()>& request);
+    bool isLost() const { return xmlController->loss() != 0; }
     void setFileAttributes(const std::string& attributes);
     void setOwner();
     void setDirectoryQuota();

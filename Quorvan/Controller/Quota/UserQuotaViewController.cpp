@@ -83,15 +83,20 @@ void UserQuotaViewController::getUserQuotaInfo() {
     auto pipe = openQuotaPipe();
     wasRead_ = pipe != nullptr;
     if (wasRead_) {
-        if (Shared::value().bothID) {
-            xmlController->getUserQuotaInfo(selectedPath, users, std::string(identityActiveDirectory));
-            xmlController->getUserQuotaInfo(selectedPath, users, std::string(identityMorvane));
-        } else {
-            xmlController->getUserQuotaInfo(selectedPath, users, domainIdentity);
+        std::vector<std::string> identityTypes = {domainIdentity};
+        if (Shared::value().bothID)
+            identityTypes = {std::string(identityActiveDirectory), std::string(identityMorvane)};
+        for (const std::string& identityType : identityTypes) {
+            if (xmlController->loss() == 0)
+                xmlController->getUserQuotaInfo(selectedPath, users, identityType);
+        }
+        pipe.reset();
+        if (reportLoss()) { // half a list would look whole
+            wasRead_ = false;
+            users.clear();
         }
         usersEdited = users;
         usersDisplay = users;
-        pipe.reset();
     }
     forgetSearch();
     redisplay();
@@ -238,6 +243,8 @@ void UserQuotaViewController::setUserQuotaInfo() {
     }
     const std::string result = xmlController->setUserQuotaInfo(selectedPath, operations, domainIdentity);
     pipe.reset();
+    if (reportLoss(operations.size()))
+        return;
     setChangesEnabled(false, revert, applyButton, userQuotaTable);
     if (result == "0")
         getUserQuotaInfo();

@@ -6,7 +6,6 @@
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/ParentPaths.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
@@ -15,6 +14,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace quorvan {
 
@@ -102,11 +102,14 @@ void DirectoryTrusteeViewController::initTable(const std::string& path, Rows& li
     if (Shared::value().bothID)
         identityTypes = {std::string(identityActiveDirectory), std::string(identityMorvane)};
     std::int32_t status = 0; // of the last one, which alone tells whether the load has failed
-    for (const std::string& identityType : identityTypes)
+    for (const std::string& identityType : identityTypes) {
         status = renewController().getIRRequestHandleDFS(server, list, mappedPath, sent, identityType);
+        if (xmlController->loss() != 0)
+            break; // half a list would look whole
+    }
     if (status == 0)
         return;
-    reportFailedStatus(status);
+    reportFailed(status);
     onReturnMainMenu();
 }
 
@@ -214,8 +217,13 @@ void DirectoryTrusteeViewController::sortDescriptorsDidChange(Side& side) {
 
 void DirectoryTrusteeViewController::onRevertClick(QObject* /*sender*/) {
     trackTrusteeList.clear();
-    showLoaded(parent_);
-    showLoaded(sub_);
+    if (std::exchange(mustRead_, false)) {
+        initSubDirTable();
+        initParentDirTable();
+    } else {
+        showLoaded(parent_);
+        showLoaded(sub_);
+    }
     setChangesEnabled(false);
 }
 
@@ -227,6 +235,9 @@ void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
         return;
     xmlController->setTrusteeforDir(trackTrusteeList, domainIdentity);
     pipe.reset();
+    mustRead_ = reportLoss(trackTrusteeList.size());
+    if (mustRead_)
+        return;
     trackTrusteeList.clear();
     initSubDirTable();
     initParentDirTable();

@@ -78,6 +78,7 @@ public:
     void onReturnMainMenu();
 
 private:
+    bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     /// One of the two tables with what belongs to it.
     struct Side {
         RightsTable*& table;

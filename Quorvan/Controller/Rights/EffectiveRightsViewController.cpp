@@ -6,7 +6,6 @@
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/RightsBoxes.h"
@@ -59,7 +58,7 @@ void EffectiveRightsViewController::initEffRightsTable() {
                                           serverIP, trusteeList, selectedPath, mappedPath, domainIdentity);
     if (status == 0)
         return;
-    reportFailedStatus(status);
+    reportFailed(status);
     onReturnMainMenu();
 }
 
@@ -71,6 +70,8 @@ std::int32_t EffectiveRightsViewController::loadBothIdentities() {
         status = renewController().getEffectiveRightsforPathHandleDFS(serverIP, loaded, selectedPath,
                                                                       mappedPath, std::string(identityType));
         std::ranges::copy(copyOf(loaded), std::back_inserter(trusteeList));
+        if (xmlController->loss() != 0)
+            break; // half a list would look whole
     }
     return status;
 }
@@ -101,9 +102,11 @@ bool EffectiveRightsViewController::onReturnSelectedUser(const std::vector<std::
 void EffectiveRightsViewController::initEffRforUser(const std::string& userID) {
     auto pipe = openPipe(pipes::files);
     if (!pipe)
-        return;
+        return effectiveBoxes->setUnknown();
     xmlController->getEffectiveRightsforUserOnPath(selectedPath, userID, effRforUser, domainIdentity);
     pipe.reset();
+    if (reportLoss())
+        return effectiveBoxes->setUnknown();
     setEffR();
 }
 

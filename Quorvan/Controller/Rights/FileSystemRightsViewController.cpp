@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 namespace quorvan {
 
@@ -77,9 +78,12 @@ void FileSystemRightsViewController::initFSRRightsTable(const std::string& userI
     backupfrightsList.clear();
     removedfrightsList.clear();
     trackfrightsList.clear();
-    if (const auto pipe = openPipe(pipes::rights))
+    auto pipe = openPipe(pipes::rights);
+    const bool isOpen = pipe != nullptr;
+    if (isOpen)
         xmlController->getFSRights(selectedPath, {userID}, frightsList, domainIdentity);
-    else
+    pipe.reset();
+    if (!isOpen || reportLoss())
         onReturnMainMenu();
     showLoadedRows();
 }
@@ -206,26 +210,35 @@ void FileSystemRightsViewController::onMouseClickCheckbox(const RightsCheckBox& 
 
 void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
     if (!trackfrightsList.empty()) {
-        for (const TrackedRights& change : trackfrightsList) {
-            const Trustees trustee(namefield->text().toStdString(), selectedTrusteeID, change.rights->frights,
-                                   change.status, "", "");
-            // A link on the way to this path leads this change elsewhere, but not the page, nor the changes
-            // after it.
-            std::string server = serverIP;
-            std::string mapped = mappedPath;
-            std::string path = change.rights->fpath;
-            renewController().setTrusteeHandleDFS(server, mapped, path, trustee, domainIdentity);
+        while (!trackfrightsList.empty()) {
+            send(trackfrightsList.front());
+            mustRead_ = reportLoss(1);
+            if (mustRead_)
+                return; // that change and those after it stay pending
+            trackfrightsList.erase(trackfrightsList.begin());
         }
-        trackfrightsList.clear();
         initFSRRightsTable(selectedTrusteeID);
     }
     redisplay();
     setChangesEnabled(false);
 }
 
+void FileSystemRightsViewController::send(const TrackedRights& change) {
+    const Trustees trustee(namefield->text().toStdString(), selectedTrusteeID, change.rights->frights,
+                           change.status, "", "");
+    // A link on the way to this path leads this change elsewhere, but not the page, nor the changes after it.
+    std::string server = serverIP;
+    std::string mapped = mappedPath;
+    std::string path = change.rights->fpath;
+    renewController().setTrusteeHandleDFS(server, mapped, path, trustee, domainIdentity);
+}
+
 void FileSystemRightsViewController::onRevertClick(QObject* /*sender*/) {
     trackfrightsList.clear();
-    showLoadedRows();
+    if (std::exchange(mustRead_, false))
+        initFSRRightsTable(selectedTrusteeID);
+    else
+        showLoadedRows();
     redisplay();
     setChangesEnabled(false);
 }

@@ -86,12 +86,14 @@ public:
     void onReturnMainMenu();
 
 private:
+    bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     void buildIdentity();
     void buildTable();
     void buildButtons();
     void layOutControls();
     void showLoadedRows();
     bool reloadChosenIdentity();
+    void send(const TrackedRights& change);
     void track(std::shared_ptr<FileRights> rights, const char* status);
     void setChangesEnabled(bool enabled);
     void redisplay();

@@ -96,7 +96,8 @@ void GroupRightsViewController::viewDidAppear() {
 }
 
 void GroupRightsViewController::redisplay() {
-    quorvan::redisplay(*groupRightsTable, isSearching, *searchField, "No_Group_Rights_Label");
+    quorvan::redisplay(*groupRightsTable, isSearching, *searchField,
+                       wasRead_ ? "No_Group_Rights_Label" : "Group_Rights_Unknown_Label");
 }
 
 BrowseLdapViewModal& GroupRightsViewController::ldapList() {
@@ -119,7 +120,7 @@ std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const s
 }
 
 std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
-    const auto pipe = openPipe(pipes::directoryTree);
+    auto pipe = openPipe(pipes::directoryTree);
     if (!pipe)
         return {};
     std::string context;
@@ -131,6 +132,8 @@ std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
         if (!convertDntoContextAndNameRootLeft(group.groupName, context, name))
             Log("error in DN conversion");
         const std::string guid = xmlController->getGuid_Morvane(context, name);
+        if (xmlController->loss() != 0)
+            break;
         if (guid.empty() || decimalNumber(guid)) // a number is the status with which the server has none
             continue;
         guids.push_back(guid);
@@ -139,6 +142,9 @@ std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
     }
     if (status != "0")
         Log("Failed with kelp err - %@", status);
+    pipe.reset();
+    if (reportLoss()) // some of the groups would look like all of them
+        guids.clear();
     return guids;
 }
 
@@ -149,7 +155,9 @@ void GroupRightsViewController::initEffRightsTable(const std::vector<std::string
     frightsList.clear();
     xmlController->getFSRights(selectedPath, ids, frightsList, domainIdentity);
     pipe.reset();
-    addToDataSource(frightsList);
+    wasRead_ = !reportLoss();
+    if (wasRead_)
+        addToDataSource(frightsList);
 }
 
 void GroupRightsViewController::addToDataSource(const std::vector<IdentityFileRights>& arr) {

@@ -59,6 +59,7 @@ public:
     void onClose(QObject* sender);
 
 private:
+    bool wasRead_ = false; ///< the rows are what the server has
     std::vector<std::string> groupsOfTheTree();
     void redisplay();
 

@@ -4,7 +4,6 @@
 #include "Common/Fatal.h"
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/RightsBoxes.h"
@@ -123,7 +122,7 @@ void InheritedRightsViewController::onApply(QObject* /*sender*/) {
     if (status == 0)
         setChangesEnabled(false);
     else
-        reportFailedStatus(status);
+        reportFailed(status, 1);
     irf = editedIRF;
     setIRF();
 }

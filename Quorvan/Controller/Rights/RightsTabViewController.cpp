@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace quorvan {
 
@@ -183,10 +184,14 @@ void RightsTabViewController::reloadTrusteeList() {
 }
 
 void RightsTabViewController::onRevertClick(QObject* /*sender*/) {
-    editedTrusteeList = copyOf(trusteeList);
-    rightsTable->setSortDescriptor({});
     trackTrusteeList.clear();
-    redisplay();
+    if (std::exchange(mustRead_, false)) {
+        loadAgain();
+    } else {
+        editedTrusteeList = copyOf(trusteeList);
+        rightsTable->setSortDescriptor({});
+        redisplay();
+    }
     setChangesEnabled(false);
 }
 
@@ -198,14 +203,21 @@ void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
         return;
     xmlController->setTrustee(trackTrusteeList, selectedPath, domainIdentity);
     pipe.reset();
+    mustRead_ = reportLoss(trackTrusteeList.size());
+    if (mustRead_)
+        return;
     trackTrusteeList.clear();
+    loadAgain();
+    setChangesEnabled(false);
+}
+
+void RightsTabViewController::loadAgain() {
     if (showCheck->isChecked()) {
         onShowBothMorvaneAD(showCheck);
     } else {
         initRightsTable();
         redisplay();
     }
-    setChangesEnabled(false);
 }
 
 void RightsTabViewController::onReturnMainMenu() {

@@ -87,6 +87,8 @@ public:
     void onReturnMainMenu();
 
 private:
+    void loadAgain();
+    bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     void buildControls();
     void layOutControls();
     void connectControls();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Selection/OwnRights.h"
 
+#include "Quorvan/Controller/Selection/FailedOperation.h"
 #include "Quorvan/Modal/Constants.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 
 #include <algorithm>
 #include <vector>
@@ -16,7 +16,7 @@ std::optional<OwnRights> loadOwnRights(XMLReadWriteController& xmlController, st
     const std::int32_t status = xmlController.getEffectiveRightsForMappedUserForPathHandleDFS(
         selectedPath, names, serverIP, mappedPath, identityType);
     if (status != 0) {
-        reportFailedStatus(status);
+        reportFailedOperation(xmlController, serverIP, status);
         return std::nullopt;
     }
     return OwnRights{std::ranges::find(names, EffectiveRightsConstants::SUPERVISOR) != names.end(),

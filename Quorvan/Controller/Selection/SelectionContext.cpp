@@ -3,6 +3,7 @@
 
 #include "Common/Fatal.h"
 #include "Common/ServerDetails.h"
+#include "Quorvan/Controller/Selection/FailedOperation.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
 
 namespace quorvan {
@@ -29,6 +30,16 @@ std::unique_ptr<ScopedPipe> SelectionContext::openPipeOf(XMLReadWriteController&
         return opened;
     reportFailedStatus(opened->status());
     return nullptr;
+}
+
+void SelectionContext::reportFailed(std::int32_t status, std::size_t changesInDoubt) const {
+    reportFailedOperation(*xmlController, serverIP, status, changesInDoubt);
+}
+
+bool SelectionContext::reportLoss(std::size_t changesInDoubt) const {
+    if (xmlController->loss() != 0)
+        reportFailed(xmlController->loss(), changesInDoubt);
+    return xmlController->loss() != 0;
 }
 
 QString SelectionContext::selectedPathName() {

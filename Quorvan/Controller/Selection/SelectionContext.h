@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -24,6 +26,11 @@ struct SelectionContext {
     /// The same for an operation of a controller that is there already.
     std::unique_ptr<ScopedPipe> openPipeOf(XMLReadWriteController& controller,
                                            const ManagementPipe& pipe) const;
+
+    /// Tells the user that the controller's operation failed; `changesInDoubt` is what it was to change.
+    void reportFailed(std::int32_t status, std::size_t changesInDoubt = 0) const;
+    /// The same when the connection was lost in it, of which most replies tell nothing else; whether it was.
+    bool reportLoss(std::size_t changesInDoubt = 0) const;
 
     /// The path that was selected, to be shown; requests go to where a link on it leads.
     static QString selectedPathName();

@@ -2,7 +2,6 @@
 #include "Quorvan/Controller/Selection/TrusteeContext.h"
 
 #include "Quorvan/Modal/Constants.h"
-#include "Quorvan/Toolkit/FailedStatus.h"
 
 namespace quorvan {
 
@@ -14,7 +13,7 @@ bool TrusteeContext::loadTrustees(TrusteeList& trustees, const std::string& iden
     isSupervisor = isSupervisor || (effRights.uright & KelpRights::supervisor) != 0;
     isAccessControl = isAccessControl || (effRights.uright & KelpRights::accessControl) != 0;
     if (status != 0)
-        reportFailedStatus(status);
+        reportFailed(status);
     return status == 0;
 }
 

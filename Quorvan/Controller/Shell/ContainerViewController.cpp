@@ -2,6 +2,7 @@
 #include "Quorvan/Controller/Shell/ContainerViewController.h"
 
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 
 #include <QGraphicsOpacityEffect>
@@ -30,14 +31,19 @@ bool animates(const QWidget& widget) {
 void ContainerViewController::loadView() {
     auto* page = new QVBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
+    page->addWidget(new NoticeLine(this));
 }
 
 void ContainerViewController::viewDidLoad() {
     ViewController* options = Storyboard::named("Main").instantiate("optionsViewController");
     insertChild(0, options);
     options->loadViewIfNeeded();
-    layout()->addWidget(options);
+    showAboveNotice(options);
     resize(options->sizeHint());
+}
+
+void ContainerViewController::showAboveNotice(ViewController* page) {
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, page, 1);
 }
 
 void ContainerViewController::viewWillAppear() {
@@ -64,7 +70,7 @@ void ContainerViewController::perform(const Switch& next) {
     next.destination->beginAppearing();
     window()->setWindowTitle(next.title); // the options page has set its own, which is for the start alone
     layout()->removeWidget(next.source);
-    layout()->addWidget(next.destination);
+    showAboveNotice(next.destination);
     removeChild(next.source);
     if (waiting_)
         return; // it is to be replaced at once

@@ -32,6 +32,7 @@ private:
         QString title;
     };
 
+    void showAboveNotice(ViewController* page);
     void perform(const Switch& next);
     void fadeFrom(const QPixmap& before);
     void fitWindow();

@@ -4,11 +4,14 @@
 #include "Common/Error.h"
 #include "Common/FeatureFlags.h"
 #include "Common/ServerDetails.h"
+#include "Platform/Services.h"
 #include "Quorvan/AppDelegate.h"
+#include "Quorvan/Controller/Selection/FailedOperation.h"
 #include "Quorvan/Controller/Shell/MenuEntry.h"
 #include "Quorvan/Controller/Shell/PageSegues.h"
 #include "Quorvan/Controller/Shell/SalvagePurgeSegueController.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 
@@ -99,6 +102,8 @@ void MainViewController::buildHeader() {
     tryAgainBtn = outlet(new QPushButton(L("Try_Again_title"), this), "tryAgainBtn");
     tryAgainBtn->setToolTip(L("Try_Again_Tip_Label"));
     connect(tryAgainBtn, &QPushButton::clicked, this, [this] {
+        NoticeLine::forget();
+        platform::services().network->forgetRefusals();
         checkLoggedInUser();
         updateEntries();
     });
@@ -133,7 +138,10 @@ void MainViewController::buildEntries() {
         this->*kind.view = entry;
         this->*kind.label = outlet(entry->title, kind.labelName);
         (isMain ? static_cast<QBoxLayout*>(main) : deletedFiles)->addWidget(entry, isMain ? 0 : 1);
-        connect(entry, &QPushButton::clicked, this, [this, &kind] { kind.follow(*this, kind.page); });
+        connect(entry, &QPushButton::clicked, this, [this, &kind] {
+            NoticeLine::forget();
+            kind.follow(*this, kind.page);
+        });
     }
     layout()->addWidget(MainView);
     layout()->addWidget(SalvagePurgeView);
@@ -169,13 +177,20 @@ void MainViewController::checkLoggedInUser() {
         return;
     }
     const std::string userType = xmlController->getUserType();
+    if (xmlController->loss() != 0) {
+        pipe.close();
+        reportFailedOperation(*xmlController, serverIP, xmlController->loss());
+        return;
+    }
     if (!featureFlag(readFeatureFlags(), "MorvaneSupport") && userType == identityMorvane) {
         pipe.drop(); // an alert runs an event loop
         displayErrorMsg(errorCode::loggedUserMorvane);
         AppDelegate::terminate();
         return;
     }
-    if (const auto suite = platform::services().sharedDefaults->openSuite(groupSuiteName)) {
+    const auto suite = platform::services().sharedDefaults->openSuite(groupSuiteName);
+    if (suite &&
+        suite->string("loggedUserType") != userType) { // writing would undo a selection that arrives now
         suite->setString("loggedUserType", userType);
         suite->synchronize();
     }

@@ -126,6 +126,71 @@ TEST_F(PagesTest, ReportEveryFailureToLoadAndLeadBack) {
             }
 }
 
+/// Wherever a reply is cut off: nothing of it counts, what was to be changed stays pending, and the user
+/// reads what is in doubt.
+TEST_F(PagesTest, TakeALostConnectionForAFailure) {
+    const struct {
+        const char *page, *list, *change, *apply, *revert, *titleAfterLoading;
+    } cases[] = {
+        {"rights", "rightsTable", "tick 0W", "applyBtn", "revertBtn", "Rights Management"},
+        {"inherited", "", "readIRF", "applyBtn", "revertBtn", nullptr},
+        {"effective", "effRightsTable", "", "", "", "Rights Management"},
+        {"folders", "subdirTable", "tick:subdirTable 0W", "applybtn", "revertbtn", "Rights Management"},
+        {"files", "fsrTable", "tick 0W", "applyBtn", "revertBtn", nullptr},
+        {"quota", "userQuotaTable", "pick 0, removeUQButton", "applyButton", "revert", "User_Quota_Title"},
+        {"information", "", "hideChk", "applyButton", "", "Information_Title"},
+        {"limit", "", "editLimitBtn, type dirQuotaLimit 3", "applyButton", "", nullptr},
+        {"settings", "", "", "", "", "Rights Management"},
+    };
+    const auto lose = [this](std::size_t after) {
+        changes(), alerts(), log.take();
+        world.server->misbehaviour.dropAfter = after;
+    };
+    const auto notice = [this] { return isShown("noticeText") ? value("noticeText") : std::string(); };
+    for (const auto& each : cases)
+        for (const std::size_t after : {std::size_t{0}, std::size_t{90}, std::size_t{1} << 30U}) {
+            SCOPED_TRACE(std::string(each.page) + " " + std::to_string(after));
+            if (each.titleAfterLoading != nullptr) {
+                open(each.page, demo::supervisor, [&] { lose(after); });
+                EXPECT_EQ(title(), each.titleAfterLoading);
+                EXPECT_THAT(alerts(), AllOf(Not(IsEmpty()), Each("Err_Operation_Failed")));
+                EXPECT_THAT(log.take(), Contains("Failed with err - 104"));
+                EXPECT_EQ(notice(), "Connection_Lost_Label Connection_Lost_Reading_Label");
+                if (*each.list != '\0' && isShown(each.list)) {
+                    EXPECT_THAT(rows(each.list), IsEmpty());
+                }
+                mend();
+            }
+            if (*each.change == '\0')
+                continue;
+            open(each.page);
+            if (each.page == std::string_view("files"))
+                take("selectUserBtn", "Users_Title", meridal, {"admin"});
+            EXPECT_EQ(notice(), "") << "of the page before";
+            const Texts saved = *each.list == '\0' ? Texts() : rows(each.list);
+            act(each.change);
+            lose(after);
+            click(each.apply);
+            EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
+            EXPECT_THAT(log.take(), Contains("Failed with err - 104"));
+            EXPECT_EQ(notice(), "Connection_Lost_Label Connection_Lost_Changes_Label");
+            EXPECT_EQ(state(each.apply), "ready");
+            const Texts once = changes();
+            EXPECT_THAT(once, SizeIs(each.page == std::string_view("inherited") ? 0 : 1)); // no named change
+            mend();
+            if (*each.revert != '\0' &&
+                after == 0) { // the server has made the change that it never confirmed
+                click(each.revert);
+                EXPECT_EQ(state(each.apply), "grey");
+            } else {
+                click(each.apply);
+                EXPECT_EQ(changes(), once) << "what was pending goes out again";
+                EXPECT_EQ(state(each.apply), "grey");
+            }
+            EXPECT_THAT(alerts(), IsEmpty());
+        }
+}
+
 TEST_F(PagesTest, EndTheProgramWithoutAFeature) {
     const struct {
         const char* page;

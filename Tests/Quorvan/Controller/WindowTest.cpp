@@ -261,6 +261,7 @@ std::string WindowTest::state(const std::string& names) const {
         QString text = each.property(each.inherits("QComboBox") ? "currentText" : "text").toString();
         if (isButton)
             text = !each.property("checkable").toBool() ? (each.isEnabled() ? "ready" : "")
+                   : each.property("tristate").toBool() ? "unknown"
                    : checked.toBool()                   ? "on"
                                                         : "off";
         states.append(each.isEnabled() ? text : (text + " grey").trimmed());

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/NoticeLine.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPointer>
+#include <QStyle>
+
+namespace quorvan {
+namespace {
+
+QPointer<NoticeLine>& theLine() {
+    static QPointer<NoticeLine> line;
+    return line;
+}
+
+} // namespace
+
+NoticeLine::NoticeLine(QWidget* parent)
+    : QFrame(parent)
+    , icon_(new QLabel(this))
+    , text_(new QLabel(this)) {
+    setObjectName("noticeLine");
+    setFrameShape(QFrame::StyledPanel);
+    text_->setObjectName("noticeText");
+    text_->setTextFormat(Qt::PlainText); // it may quote what a server sent
+    text_->setWordWrap(true);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(8, 4, 8, 4);
+    line->addWidget(icon_, 0, Qt::AlignTop);
+    line->addWidget(text_, 1);
+    hide();
+    theLine() = this;
+}
+
+void NoticeLine::tell(Kind kind, const QString& text) {
+    NoticeLine* const line = theLine();
+    if (line == nullptr)
+        return;
+    const auto icon = kind == Kind::done ? QStyle::SP_MessageBoxInformation : QStyle::SP_MessageBoxWarning;
+    const int edge = line->fontMetrics().height();
+    line->icon_->setPixmap(line->style()->standardIcon(icon).pixmap(edge, edge));
+    line->text_->setText(text);
+    line->text_->setAccessibleName(text);
+    line->show();
+    QAccessibleEvent announcement(line->text_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+}
+
+void NoticeLine::forget() {
+    if (NoticeLine* const line = theLine()) {
+        line->text_->clear();
+        line->hide();
+    }
+}
+
+} // namespace quorvan
