@@ -7,6 +7,22 @@ target_compile_options(quorvan_options INTERFACE -Wall -Wextra -Wpedantic -Wconv
 if(QUORVAN_WERROR)
   target_compile_options(quorvan_options INTERFACE -Werror)
 endif()
+
+# Hardening. The sanitizers bring checks of their own, which fortified functions would hide from them.
+include(CheckPIESupported)
+include(CheckCXXCompilerFlag)
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT QUORVAN_SANITIZE)
+  target_compile_options(quorvan_options INTERFACE -fstack-protector-strong
+    $<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE> $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
+  check_cxx_compiler_flag(-fcf-protection=full HAS_CF_PROTECTION)
+  if(HAS_CF_PROTECTION)
+    target_compile_options(quorvan_options INTERFACE -fcf-protection=full)
+  endif()
+  target_link_options(quorvan_options INTERFACE -Wl,-z,relro,-z,now)
+endif()
+
 if(QUORVAN_SANITIZE)
   target_compile_options(quorvan_options INTERFACE
     -fsanitize=${QUORVAN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
