@@ -3,6 +3,8 @@
 
 #include "Common/Fatal.h"
 #include "Common/Log.h"
+#include "Common/ServerDetails.h"
+#include "Platform/Services.h"
 #include "Quorvan/Controller/Shell/HelpPanels.h"
 #include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Quorvan/LogFile.h"
@@ -13,14 +15,45 @@
 #include <QAction>
 #include <QApplication>
 #include <QDateTime>
+#include <QDeadlineTimer>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
 #include <QUrl>
+#include <QWindow>
 
+#include <chrono>
 #include <cstdlib>
+#include <memory>
 
 namespace quorvan {
+namespace {
+
+/// A small window for the time in which the first page asks the server: nothing else is on the screen then,
+/// and nothing can be painted.
+std::unique_ptr<QWidget> showConnecting() {
+    constexpr std::chrono::milliseconds longEnough{200};
+    const auto suite = platform::services().sharedDefaults->openSuite(groupSuiteName);
+    const auto server = suite ? suite->string("serverIP") : std::nullopt;
+    auto label =
+        std::make_unique<QLabel>(L("Connecting_Label").arg(QString::fromStdString(server.value_or(""))));
+    label->setObjectName("connecting");
+    label->setTextFormat(Qt::PlainText);
+    label->setWindowFlags(Qt::SplashScreen);
+    label->setFrameShape(QFrame::StyledPanel);
+    label->setMargin(2 * label->fontMetrics().height());
+    label->show();
+    const QDeadlineTimer end(longEnough);
+    while (!label->windowHandle()->isExposed() && !end.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+    label->repaint();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return label;
+}
+
+} // namespace
+
 AppDelegate* AppDelegate::running_ = nullptr;
 
 AppDelegate::AppDelegate(const std::string& libraryDirectory) {
@@ -96,6 +129,7 @@ int AppDelegate::run() {
 
 void AppDelegate::launch() {
     applicationWillFinishLaunching();
+    const auto connecting = showConnecting();
     window_ = std::make_unique<MainWindow>();
     window_->load();
     if (terminating_)
