@@ -968,6 +968,100 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>Of each check box of a right, when the rights could not be read.</extracomment>
     <translation>Not known: the rights could not be read.</translation>
   </message>
+  <message id="Pending_Tip_Label">
+    <source></source>
+    <extracomment>Of the line beside Apply.</extracomment>
+    <translation>Show what waits for Apply</translation>
+  </message>
+  <message id="Pending_Change_Label">
+    <source></source>
+    <extracomment>%1 is a name, %2 what is wanted for it: rights in words, or a limit.</extracomment>
+    <translation>%1: %2</translation>
+  </message>
+  <message id="Pending_Removed_Label">
+    <source></source>
+    <extracomment>%1 is a name or a path.</extracomment>
+    <translation>%1 will be removed</translation>
+  </message>
+  <message id="Pending_Not_Shown_Label">
+    <source></source>
+    <extracomment>%1 is a change in words.</extracomment>
+    <translation>%1, not shown in the list</translation>
+  </message>
+  <message id="Pending_No_Rights_Label">
+    <source></source>
+    <extracomment>In place of the names of rights.</extracomment>
+    <translation>no rights</translation>
+  </message>
+  <message id="Pending_Added_Row_Label">
+    <source></source>
+    <extracomment>For a screen reader; %1 is the name in a row.</extracomment>
+    <translation>%1, new, waits for Apply</translation>
+  </message>
+  <message id="Pending_Changed_Row_Label">
+    <source></source>
+    <extracomment>For a screen reader; %1 is the name in a row.</extracomment>
+    <translation>%1, changed, waits for Apply</translation>
+  </message>
+  <message id="Applied_Label">
+    <source></source>
+    <extracomment>After Apply; %1 is the time of day.</extracomment>
+    <translation>Applied %1</translation>
+  </message>
+  <message id="Pending_Count_Label" numerus="yes">
+    <source></source>
+    <extracomment>Beside Apply.</extracomment>
+    <translation>
+      <numerusform>%n change waits for Apply</numerusform>
+      <numerusform>%n changes wait for Apply</numerusform>
+    </translation>
+  </message>
+  <message id="Pending_More_Label" numerus="yes">
+    <source></source>
+    <extracomment>At the end of a list that was cut.</extracomment>
+    <translation>
+      <numerusform>and %n more</numerusform>
+      <numerusform>and %n more</numerusform>
+    </translation>
+  </message>
+  <message id="Not_Applied_Label" numerus="yes">
+    <source></source>
+    <extracomment>%n is the number of changes that were sent, %1 how many of them were not made, %2 their names.</extracomment>
+    <translation>
+      <numerusform>The server did not take %1 of %n change: %2</numerusform>
+      <numerusform>The server did not take %1 of %n changes: %2</numerusform>
+    </translation>
+  </message>
+  <message id="Inherited_Filter_Label">
+    <source></source>
+    <extracomment>What a pending change is about; the rights that pass follow.</extracomment>
+    <translation>Rights that are let through</translation>
+  </message>
+  <message id="Attributes_Change_Label">
+    <source></source>
+    <extracomment>What a pending change is about; the attributes that are on follow.</extracomment>
+    <translation>Attributes</translation>
+  </message>
+  <message id="Owner_Change_Label">
+    <source></source>
+    <extracomment>What a pending change is about; a name follows.</extracomment>
+    <translation>Owner</translation>
+  </message>
+  <message id="Quota_Change_Label">
+    <source></source>
+    <extracomment>What a pending change is about; an amount follows.</extracomment>
+    <translation>Limit of the directory</translation>
+  </message>
+  <message id="Pending_None_Label">
+    <source></source>
+    <extracomment>In place of attributes or of an amount.</extracomment>
+    <translation>none</translation>
+  </message>
+  <message id="Connecting_Label">
+    <source></source>
+    <extracomment>In a small window at the start, until the server has answered; %1 is its name.</extracomment>
+    <translation>Connecting to %1…</translation>
+  </message>
   <message id="Connection_Lost_Label">
     <source></source>
     <extracomment>%1 is the name of the server. One of the two next texts follows.</extracomment>

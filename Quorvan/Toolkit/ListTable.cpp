@@ -3,43 +3,19 @@
 
 #include "Quorvan/Toolkit/ListModel.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
+#include "Quorvan/Toolkit/TextDelegate.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QStyledItemDelegate>
+#include <QScrollBar>
+#include <QSignalBlocker>
 #include <QToolTip>
 
 #include <algorithm>
-#include <unordered_set>
 #include <utility>
 
 namespace quorvan {
-
-namespace {
-
-/// Draws the icon of a selected row in the colour of its text; in its own it could drown.
-class TextDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (option->icon.isNull() || !option->state.testFlag(QStyle::State_Selected))
-            return;
-        const qreal ratio = option->widget != nullptr ? option->widget->devicePixelRatioF() : 1.0;
-        QPixmap shape = option->icon.pixmap(option->decorationSize, ratio);
-        QPainter painter(&shape);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(shape.rect(), option->palette.color(QPalette::HighlightedText));
-        painter.end();
-        option->icon = QIcon();
-        option->icon.addPixmap(shape, QIcon::Selected);
-    }
-};
-
-} // namespace
 
 ListTable::ListTable(ListModel* model, QWidget* parent)
     : QTableView(parent)
@@ -58,6 +34,8 @@ ListTable::ListTable(ListModel* model, QWidget* parent)
     setVerticalScrollMode(ScrollPerPixel);
     setUpHeader();
     ListTable::fitToFont();
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { rememberPlace(); });
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] { rememberPlace(); });
 }
 
 void ListTable::setUpHeader() {
@@ -80,13 +58,79 @@ void ListTable::changeEvent(QEvent* event) {
         fitToFont();
 }
 
-void ListTable::reloadData() {
+/// Only a user's own step counts: a reset, too, moves the keyboard, but not to where anybody wanted it.
+void ListTable::rememberPlace() {
     const QModelIndex current = currentIndex();
+    current_ = current.isValid() ? list_->identityOf(current.row()) : "";
+    selected_.clear();
+    for (const int row : selectedRowIndexes())
+        selected_.push_back(list_->identityOf(row));
+}
+
+void ListTable::reloadData() {
+    const QModelIndex before = currentIndex();
+    const bool wasInView = before.isValid() && viewport()->rect().intersects(visualRect(before));
+    const int scrolled = verticalScrollBar()->value();
+    const std::string current = current_;
+    std::unordered_map<std::string, int> selected; // how often each: identities may repeat
+    for (const std::string& identity : selected_)
+        ++selected[identity];
+
+    const QSignalBlocker quiet(selectionModel());
     list_->reload();
-    const int last = list_->rowCount() - 1;
-    if (current.isValid() && last >= 0)
-        selectionModel()->setCurrentIndex(list_->index(std::min(current.row(), last), current.column()),
+    int currentRow = -1;
+    QItemSelection selection;
+    for (int row = 0; row < list_->rowCount() && !(current.empty() && selected.empty()); ++row) {
+        const std::string identity = list_->identity(row);
+        if (identity.empty())
+            continue;
+        if (currentRow < 0 && identity == current)
+            currentRow = row;
+        const auto found = selected.find(identity);
+        if (found != selected.end() && found->second-- > 0)
+            selection.select(list_->index(row, 0), list_->index(row, list_->columnCount() - 1));
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (currentRow >= 0)
+        selectionModel()->setCurrentIndex(list_->index(currentRow, before.isValid() ? before.column() : 0),
                                           QItemSelectionModel::NoUpdate);
+    rememberPlace();
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(scrolled);
+    if (currentRow >= 0 && wasInView)
+        scrollTo(currentIndex());
+    viewport()->update();
+}
+
+void ListTable::showRow(int row) {
+    const auto mode = selectionMode() == NoSelection
+                          ? QItemSelectionModel::NoUpdate
+                          : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+    selectionModel()->setCurrentIndex(list_->index(row, 0), mode);
+    scrollTo(currentIndex());
+}
+
+bool ListTable::lists(const std::string& identity) const {
+    for (int row = 0; row < list_->rowCount(); ++row)
+        if (list_->identity(row) == identity)
+            return true;
+    return false;
+}
+
+/// Entering the table puts the keyboard on nothing, so that the first step down leads to the first row.
+void ListTable::focusInEvent(QFocusEvent* event) {
+    const bool wasOnNothing = !currentIndex().isValid();
+    QTableView::focusInEvent(event);
+    if (wasOnNothing)
+        selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+}
+
+/// Home and End move in the list, not in its row.
+QModelIndex ListTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const int column = std::max(currentIndex().column(), 0);
+    if (list_->rowCount() > 0 && (action == MoveHome || action == MoveEnd))
+        return list_->index(action == MoveHome ? 0 : list_->rowCount() - 1, column);
+    return QTableView::moveCursor(action, modifiers);
 }
 
 void ListTable::setEmptyText(const QString& text) {
@@ -135,19 +179,7 @@ void ListTable::headerClicked(int column) {
     const bool again = descriptor_ && descriptor_->key == prototype->key;
     setSortDescriptor(SortDescriptor{prototype->key, again ? !descriptor_->ascending : prototype->ascending});
     if (onSort_)
-        sortKeepingSelection();
-}
-
-void ListTable::sortKeepingSelection() {
-    std::unordered_set<const void*> selected;
-    for (const int row : selectedRowIndexes())
-        selected.insert(list_->object(row));
-    onSort_();
-    QItemSelection selection;
-    for (int row = 0; !selected.empty() && row < list_->rowCount(); ++row)
-        if (selected.contains(list_->object(row)))
-            selection.select(list_->index(row, 0), list_->index(row, list_->columnCount() - 1));
-    selectionModel()->select(selection, QItemSelectionModel::Select);
+        onSort_();
 }
 
 void ListTable::paintEvent(QPaintEvent* event) {

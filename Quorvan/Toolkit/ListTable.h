@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Toolkit/ListModel.h"
+
 #include <QTableView>
 
 #include <functional>
 #include <optional>
 #include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace quorvan {
-
-class ListModel;
 
 struct SortDescriptor {
     std::string key;
@@ -24,8 +26,17 @@ public:
     /// Takes the model.
     explicit ListTable(ListModel* model, QWidget* parent = nullptr);
 
-    /// Shows the rows as they are now. The keyboard stays where it was, nothing is selected.
+    /// Shows the rows as they are now. The keyboard and the selection stay with what the rows are about;
+    /// where that is gone, they are on nothing. The list does not scroll.
     void reloadData();
+    /// Selects a row, and brings keyboard and eye to it.
+    void showRow(int row);
+    /// Marks the rows whose changes wait to be applied.
+    void setPending(std::unordered_map<std::string, ListModel::Pending> pending) {
+        list_->setPending(std::move(pending));
+    }
+    /// Whether one of the rows is about that.
+    bool lists(const std::string& identity) const;
     /// Shown in the middle of a table without rows.
     void setEmptyText(const QString& text);
     const QString& emptyText() const { return emptyText_; }
@@ -50,11 +61,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
     void setUpHeader();
     void headerClicked(int column);
-    void sortKeepingSelection();
+    void rememberPlace();
     bool showsInFull(const QModelIndex& index) const;
 
     ListModel* list_;
@@ -62,6 +75,10 @@ private:
     std::vector<std::optional<SortDescriptor>> prototypes_;
     std::function<void()> onSort_;
     QString emptyText_;
+
+    // What the keyboard is on and what is selected; the rows may have changed before the table hears of it.
+    std::string current_;
+    std::vector<std::string> selected_;
 };
 
 } // namespace quorvan

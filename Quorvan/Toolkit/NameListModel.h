@@ -17,7 +17,7 @@ public:
     std::function<const std::string&(std::size_t row)> name;
     std::function<const char*()> iconName;
 
-    const void* object(int row) const override { return &name(static_cast<std::size_t>(row)); }
+    std::string identity(int row) const override { return name(static_cast<std::size_t>(row)); }
     int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : 1; }
     QVariant data(const QModelIndex& index, int role) const override {
         const auto row = static_cast<std::size_t>(index.row());

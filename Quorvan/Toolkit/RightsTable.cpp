@@ -2,6 +2,7 @@
 #include "Quorvan/Toolkit/RightsTable.h"
 
 #include "Quorvan/Toolkit/RightsCheckBoxDelegate.h"
+#include "Quorvan/Toolkit/TextDelegate.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -10,21 +11,6 @@
 #include <utility>
 
 namespace quorvan {
-
-namespace {
-
-class LeftElidedDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->textElideMode = Qt::ElideLeft;
-    }
-};
-
-} // namespace
 
 RightsTable::RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
                          QWidget* parent)
@@ -36,7 +22,7 @@ RightsTable::RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_
         horizontalHeader()->setSectionResizeMode(column, column == last ? QHeaderView::Stretch
                                                                         : QHeaderView::Interactive);
         if (model_->textColumn(column).elide == Qt::ElideLeft)
-            setItemDelegateForColumn(column, new LeftElidedDelegate(this));
+            setItemDelegateForColumn(column, new TextDelegate(this, Qt::ElideLeft));
     }
     for (int column = last + 1; column < model_->columnCount(); ++column) {
         horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
@@ -89,12 +75,24 @@ QItemSelectionModel::SelectionFlags RightsTable::selectionCommand(const QModelIn
     const bool isMouse = event != nullptr &&
                          (event->type() == QEvent::MouseButtonPress ||
                           event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseMove);
-    if (isMouse && index.flags().testFlag(Qt::ItemIsUserCheckable)) {
-        const QPoint at = static_cast<const QMouseEvent*>(event)->position().toPoint();
-        if (RightsCheckBoxDelegate::boxArea(visualRect(index), this).contains(at))
+    if (isMouse) {
+        if (isOnBox(index, *static_cast<const QMouseEvent*>(event)))
             return QItemSelectionModel::NoUpdate;
     }
     return QTableView::selectionCommand(index, event);
+}
+
+bool RightsTable::isOnBox(const QModelIndex& index, const QMouseEvent& event) const {
+    return index.flags().testFlag(Qt::ItemIsUserCheckable) &&
+           RightsCheckBoxDelegate::boxArea(visualRect(index), this).contains(event.position().toPoint());
+}
+
+/// The keyboard goes on where the mouse was: a box takes the press for itself, and the view would not move.
+void RightsTable::mousePressEvent(QMouseEvent* event) {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && isOnBox(index, *event))
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    QTableView::mousePressEvent(event);
 }
 
 /// A drag that starts on a box is no selection.

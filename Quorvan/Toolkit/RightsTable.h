@@ -35,6 +35,7 @@ public:
 protected:
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event = nullptr) const override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void fitToFont() override;
@@ -42,6 +43,7 @@ protected:
 
 private:
     void shareTextWidth();
+    bool isOnBox(const QModelIndex& index, const QMouseEvent& event) const;
 
     RightsTableModel* model_;
     RightsCheckBoxDelegate* boxes_;

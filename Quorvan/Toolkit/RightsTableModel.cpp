@@ -78,6 +78,8 @@ QVariant RightsTableModel::data(const QModelIndex& index, int role) const {
 QVariant RightsTableModel::textData(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return shownText(rows_->text(index.row(), index.column()));
+    if (role == Qt::AccessibleTextRole)
+        return accessibleText(index.row(), shownText(rows_->text(index.row(), index.column())));
     if (role == Qt::DecorationRole)
         return rows_->icon(index.row(), index.column());
     return {};

@@ -26,8 +26,7 @@ public:
     virtual QIcon icon(int /*row*/, int /*textColumn*/) const { return {}; }
     virtual std::uint16_t rights(int row) const = 0;
 
-    /// What stays the same when rows only change places; lets the selection follow a sort.
-    virtual const void* object(int row) const = 0;
+    virtual std::string identity(int row) const = 0; ///< as of ListModel
 };
 
 /// A text column; text columns stand before the rights.
@@ -67,7 +66,7 @@ public:
     int columnOf(const std::string& identifier) const; ///< -1 when there is none
     void setHeader(int textColumn, const QString& header);
 
-    const void* object(int row) const override { return rows_->object(row); }
+    std::string identity(int row) const override { return rows_->identity(row); }
     int columnCount(const QModelIndex& parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role) const override;

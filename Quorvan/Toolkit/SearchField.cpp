@@ -3,6 +3,7 @@
 
 #include "Quorvan/Toolkit/Localized.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QShortcut>
 
@@ -32,9 +33,16 @@ void SearchField::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !text().isEmpty())
         clear();
     else if (event->key() == Qt::Key_Down)
-        list_->setFocus(Qt::TabFocusReason);
+        goToFirstHit();
     else
         QLineEdit::keyPressEvent(event);
+}
+
+void SearchField::goToFirstHit() {
+    list_->setFocus(Qt::TabFocusReason);
+    auto* view = qobject_cast<QAbstractItemView*>(list_);
+    if (view != nullptr && view->model()->rowCount() > 0)
+        view->setCurrentIndex(view->model()->index(0, 0));
 }
 
 } // namespace quorvan

@@ -6,7 +6,7 @@
 namespace quorvan {
 
 /// The field that narrows a list while the user types. Escape empties it, the down key moves on to
-/// the list, and the desktop's Find shortcut leads to it from anywhere in the window.
+/// its first row, and the desktop's Find shortcut leads to it from anywhere in the window.
 class SearchField : public QLineEdit {
 public:
     explicit SearchField(QWidget* list, QWidget* parent = nullptr);
@@ -17,6 +17,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void goToFirstHit();
+
     QWidget* list_;
 };
 

@@ -11,7 +11,7 @@ inline const std::string& trusteeNameOf(const std::shared_ptr<Trustees>& trustee
 }
 
 /// The rows of a view's list, which may change between reloads. `Show` says with static functions what a
-/// row looks like: text(row, textColumn), icon(row, textColumn), rights(row), object(row).
+/// row looks like: text(row, textColumn), icon(row, textColumn), rights(row), identity(row).
 template <class Row, class Show>
 class RowsOf : public RightsRowSource {
 public:
@@ -22,7 +22,7 @@ public:
     QString text(int row, int textColumn) const override { return Show::text(at(row), textColumn); }
     QIcon icon(int row, int textColumn) const override { return Show::icon(at(row), textColumn); }
     std::uint16_t rights(int row) const override { return Show::rights(at(row)); }
-    const void* object(int row) const override { return Show::object(at(row)); }
+    std::string identity(int row) const override { return Show::identity(at(row)); }
 
 private:
     const Row& at(int row) const { return rows_[static_cast<std::size_t>(row)]; }
@@ -35,7 +35,7 @@ struct ShowTrustee {
     static QString text(const std::shared_ptr<Trustees>& trustee, int textColumn);
     static QIcon icon(const std::shared_ptr<Trustees>& trustee, int textColumn);
     static std::uint16_t rights(const std::shared_ptr<Trustees>& trustee) { return trustee->rights; }
-    static const void* object(const std::shared_ptr<Trustees>& trustee) { return trustee.get(); }
+    static std::string identity(const std::shared_ptr<Trustees>& trustee) { return trustee->trusteeID; }
 };
 using TrusteeRows = RowsOf<std::shared_ptr<Trustees>, ShowTrustee>;
 
@@ -44,7 +44,9 @@ struct ShowDirectoryRights {
     static QString text(const DirectoryRights& entry, int textColumn);
     static QIcon icon(const DirectoryRights& entry, int textColumn);
     static std::uint16_t rights(const DirectoryRights& entry) { return entry.trustee->rights; }
-    static const void* object(const DirectoryRights& entry) { return entry.trustee.get(); }
+    static std::string identity(const DirectoryRights& entry) {
+        return entry.path + '\n' + entry.trustee->trusteeID;
+    }
 };
 using DirectoryRightsRows = RowsOf<DirectoryRights, ShowDirectoryRights>;
 

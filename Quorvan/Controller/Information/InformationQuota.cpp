@@ -120,10 +120,12 @@ void InformationViewController::onClickRemove() {
 void InformationViewController::onChangeQuotaLimit(const ValueField* field) {
     editedDirQuota.quotaAmount = field->text().toStdString();
     applyDirQuota = true;
+    showPending();
 }
 
 void InformationViewController::onChangeUnit() {
     selectedUnit = selectUnit->currentIndex();
+    showPending();
 }
 
 std::string InformationViewController::getQuotaLimit() {

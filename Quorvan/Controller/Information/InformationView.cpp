@@ -117,12 +117,14 @@ QWidget* InformationViewController::buildQuota() {
 void InformationViewController::buildButtons(QVBoxLayout& page) {
     closeButton = outlet(new QPushButton(this), "closeButton");
     closeButton->setToolTip(L("Close_Tip_Label"));
+    pendingLine = outlet(new PendingLine(this), "pendingLine");
     applyButton = outlet(new QPushButton(this), "applyButton");
     applyButton->setToolTip(L("Apply_Tip_Label"));
     applyButton->setEnabled(false);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(closeButton);
     buttons->addStretch();
+    buttons->addWidget(pendingLine);
     buttons->addWidget(applyButton);
     page.addLayout(buttons);
 }

@@ -219,6 +219,33 @@ void InformationViewController::setOwner() {
         editedOwner = {"", ""};
 }
 
+std::vector<PendingChange> InformationViewController::pendingChanges() const {
+    const auto change = [](const char* key, QString what) {
+        return PendingChange{key, PendingChange::Kind::changed, plainL(key), std::move(what), 0};
+    };
+    std::vector<PendingChange> changes;
+    if (applyAttrs) {
+        QStringList names;
+        for (const AttributeBox& each : attributeBoxes)
+            if (std::ranges::find(editedFileAttributes, each.attribute) != editedFileAttributes.end())
+                names.append(plainL(each.titleKey));
+        changes.push_back(
+            change("Attributes_Change_Label", names.isEmpty() ? L("Pending_None_Label") : names.join(", ")));
+    }
+    if (applyOwner)
+        changes.push_back(
+            change("Owner_Change_Label", QString::fromStdString(editedOwner.ownerName.value_or(""))));
+    if (applyDirQuota)
+        changes.push_back(change("Quota_Change_Label",
+                                 removeQuota ? L("Pending_None_Label")
+                                             : dirQuotaLimit->text() + ' ' + selectUnit->currentText()));
+    return changes;
+}
+
+void InformationViewController::showPending() {
+    pendingLine->show(pendingChanges(), {});
+}
+
 void InformationViewController::onApply() {
     const std::string tags = attributeTags();
     // What the connection is lost in stays pending, and so does all that comes after it.
@@ -255,6 +282,7 @@ void InformationViewController::setApplyEnabled(bool enabled) {
     if (!enabled && applyButton->hasFocus())
         directoryQuotaTabView->setFocus();
     applyButton->setEnabled(enabled);
+    showPending();
 }
 
 void InformationViewController::onReturnMainMenu() {

@@ -3,6 +3,7 @@
 
 #include "Quorvan/Controller/Identities/IdentityChoice.h"
 #include "Quorvan/Modal/Users.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
 #include <functional>
@@ -61,6 +62,7 @@ public:
     QProgressBar* quotaBar = nullptr; ///< only there with a limit
     QPushButton* closeButton = nullptr;
     QPushButton* applyButton = nullptr;
+    PendingLine* pendingLine = nullptr; ///< what waits for Apply
 
     const std::string selectedAbsolutePath; ///< where the selection is mounted
 
@@ -110,6 +112,8 @@ public:
                               const std::string& category) override;
 
 private:
+    std::vector<PendingChange> pendingChanges() const;
+    void showPending();
     void buildHeader(QVBoxLayout& page);
     QWidget* buildAttributes();
     QWidget* buildQuota();

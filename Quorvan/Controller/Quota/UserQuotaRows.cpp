@@ -40,6 +40,8 @@ QVariant UserQuotaRows::data(const QModelIndex& index, int role) const {
     const UserQuotaData& user = *users_[static_cast<std::size_t>(index.row())];
     if (role == Qt::DisplayRole)
         return columns_[static_cast<std::size_t>(index.column())].text(user);
+    if (role == Qt::AccessibleTextRole && index.column() == 0)
+        return accessibleText(index.row(), columns_.front().text(user));
     if (role == Qt::DecorationRole && index.column() == 0)
         return userIcon(user.domainIdentity.value_or(""));
     if (role == Qt::TextAlignmentRole)

@@ -34,7 +34,9 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-    const void* object(int row) const override { return users_[static_cast<std::size_t>(row)].get(); }
+    std::string identity(int row) const override {
+        return users_[static_cast<std::size_t>(row)]->SID.value_or("");
+    }
 
 protected:
     int listedRows() const override { return static_cast<int>(users_.size()); }

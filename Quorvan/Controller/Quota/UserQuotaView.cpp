@@ -43,6 +43,7 @@ void UserQuotaViewController::buildControls() {
     readOnlyLabel = outlet(new QLabel(L("User_Quota_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
     closeButton = outlet(new QPushButton(this), "closeButton");
+    pendingLine = outlet(new PendingLine(this), "pendingLine");
     revert = outlet(new QPushButton(this), "revert");
     applyButton = outlet(new QPushButton(this), "applyButton");
     for (QPushButton* button : {revert, applyButton})
@@ -69,6 +70,7 @@ void UserQuotaViewController::layOutControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(closeButton);
     buttons->addStretch();
+    buttons->addWidget(pendingLine);
     buttons->addWidget(revert);
     buttons->addWidget(applyButton);
 
@@ -81,7 +83,7 @@ void UserQuotaViewController::layOutControls() {
     page->addSpacing(fontMetrics().height() / 2);
     page->addLayout(buttons);
     setTabOrders({selectedPathLabel, searchField, userQuotaTable, addUQButton, editUQButton, removeUQButton,
-                  closeButton, revert, applyButton});
+                  closeButton, pendingLine, revert, applyButton});
 }
 
 void UserQuotaViewController::connectControls() {

@@ -2,6 +2,7 @@
 #include "Quorvan/Controller/Quota/UserQuotaViewController.h"
 
 #include "Common/FeatureFlags.h"
+#include "Quorvan/Controller/Quota/UserQuotaRows.h"
 #include "Quorvan/Controller/Selection/OwnRights.h"
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
@@ -114,6 +115,41 @@ void UserQuotaViewController::forgetSearch() {
 void UserQuotaViewController::redisplay() {
     quorvan::redisplay(*userQuotaTable, !searchString.empty(), *searchField,
                        wasRead_ ? "No_User_Quotas_Label" : "User_Quotas_Unknown_Label");
+    showPending();
+}
+
+std::vector<PendingChange> UserQuotaViewController::pendingChanges() const {
+    using Kind = PendingChange::Kind;
+    std::vector<PendingChange> changes;
+    for (const auto& user : getOperationsToPerform()) {
+        const Kind kind = user->action == Actions::REMOVE ? Kind::removed
+                          : user->action == Actions::ADD  ? Kind::added
+                                                          : Kind::changed;
+        changes.push_back({user->SID.value_or(""), kind,
+                           QString::fromStdString(user->displayName.value_or("")),
+                           UserQuotaColumn::limitOf(*user), user->quotaLimit.value_or(0)});
+    }
+    return changes;
+}
+
+void UserQuotaViewController::showPending() {
+    pendingLine->show(pendingChanges(), {userQuotaTable});
+}
+
+/// A user whose limit was removed stays in the list of those who use space.
+void UserQuotaViewController::tellOutcomeOf(const std::vector<PendingChange>& sent) const {
+    std::unordered_map<std::string, std::int64_t> removed;
+    for (const PendingChange& change : sent)
+        if (change.kind == PendingChange::Kind::removed)
+            removed.emplace(change.identity, change.value);
+    std::unordered_map<std::string, std::int64_t> now;
+    for (const auto& user : users) {
+        const std::string id = user->SID.value_or("");
+        const auto former = removed.find(id);
+        if (former == removed.end() || former->second == user->quotaLimit)
+            now[id] = user->quotaLimit.value_or(0);
+    }
+    tellOutcome(sent, now);
 }
 
 void UserQuotaViewController::onSearch(SearchField* field) {
@@ -193,6 +229,7 @@ void UserQuotaViewController::updateOperationsToPerformWithModify() {
         if (action == Actions::NONE)
             action = Actions::MODIFY;
     }
+    showPending();
 }
 
 bool UserQuotaViewController::onReturnAddedUsers(const UserQuotaList& returned) {
@@ -236,6 +273,7 @@ UserQuotaList UserQuotaViewController::getOperationsToPerform() const {
 
 void UserQuotaViewController::setUserQuotaInfo() {
     const UserQuotaList operations = getOperationsToPerform();
+    const std::vector<PendingChange> sent = pendingChanges();
     auto pipe = openQuotaPipe();
     if (!pipe) {
         getUserQuotaInfo();
@@ -246,10 +284,13 @@ void UserQuotaViewController::setUserQuotaInfo() {
     if (reportLoss(operations.size()))
         return;
     setChangesEnabled(false, revert, applyButton, userQuotaTable);
-    if (result == "0")
+    if (result == "0") {
         getUserQuotaInfo();
-    else
+        if (wasRead_)
+            tellOutcomeOf(sent);
+    } else {
         reportFailedResult(result);
+    }
 }
 
 void UserQuotaViewController::onClickApply() {

@@ -4,6 +4,7 @@
 #include "Platform/Bundle.h"
 #include "Quorvan/Controller/Quota/AddUserQuotaViewController.h"
 #include "Quorvan/Controller/Selection/SelectionContext.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Quorvan/Toolkit/SearchFilter.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
@@ -38,6 +39,7 @@ public:
     QPushButton* closeButton = nullptr;
     QPushButton* revert = nullptr;
     QPushButton* applyButton = nullptr;
+    PendingLine* pendingLine = nullptr; ///< what waits for Apply
 
     UserQuotaList users;         ///< as last read
     UserQuotaList usersEdited;   ///< with those added, without those removed
@@ -81,6 +83,9 @@ public:
     void onReturnMainMenu();
 
 private:
+    std::vector<PendingChange> pendingChanges() const;
+    void showPending();
+    void tellOutcomeOf(const std::vector<PendingChange>& sent) const;
     void buildControls();
     void layOutControls();
     void connectControls();

@@ -18,6 +18,7 @@ void DirectoryTrusteeViewController::loadView() {
     buildSides();
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
+    pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertbtn = outlet(new QPushButton(this), "revertbtn");
     applybtn = outlet(new QPushButton(this), "applybtn");
     revertbtn->setToolTip(L("Revert_Tip_Label"));
@@ -91,6 +92,7 @@ void DirectoryTrusteeViewController::layOutControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(readOnlyLabel, 1);
     buttons->addStretch();
+    buttons->addWidget(pendingLine);
     buttons->addWidget(revertbtn);
     buttons->addWidget(applybtn);
 
@@ -99,7 +101,7 @@ void DirectoryTrusteeViewController::layOutControls() {
     page->addWidget(tables, 1);
     page->addLayout(buttons);
     setTabOrders({currentPath, searchInSubField, subdirTable, removeBtnSub, searchInParentField,
-                  parentdirTable, removeBtnParent, revertbtn, applybtn});
+                  parentdirTable, removeBtnParent, pendingLine, revertbtn, applybtn});
 }
 
 } // namespace quorvan

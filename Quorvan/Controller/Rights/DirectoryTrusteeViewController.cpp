@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_map>
 #include <utility>
 
 namespace quorvan {
@@ -90,6 +91,22 @@ void DirectoryTrusteeViewController::setTabState() {
 
 void DirectoryTrusteeViewController::setChangesEnabled(bool enabled) {
     quorvan::setChangesEnabled(enabled, revertbtn, applybtn, subdirTable);
+    showPending();
+}
+
+std::vector<PendingChange> DirectoryTrusteeViewController::pendingChanges() const {
+    std::vector<PendingChange> changes;
+    for (const DirectoryRights& row : trackTrusteeList) {
+        const auto kind =
+            row.trustee->status == "REMOVE" ? PendingChange::Kind::removed : PendingChange::Kind::changed;
+        changes.push_back(rightsChange(ShowDirectoryRights::identity(row), kind,
+                                       row.trustee->trusteeName + " " + row.path, row.trustee->rights));
+    }
+    return changes;
+}
+
+void DirectoryTrusteeViewController::showPending() {
+    pendingLine->show(pendingChanges(), {subdirTable, parentdirTable});
 }
 
 void DirectoryTrusteeViewController::initTable(const std::string& path, Rows& list, bool subDirFlag) {
@@ -110,6 +127,7 @@ void DirectoryTrusteeViewController::initTable(const std::string& path, Rows& li
     if (status == 0)
         return;
     reportFailed(status);
+    wasRead_ = false;
     onReturnMainMenu();
 }
 
@@ -238,10 +256,19 @@ void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
     mustRead_ = reportLoss(trackTrusteeList.size());
     if (mustRead_)
         return;
+    const std::vector<PendingChange> sent = pendingChanges();
     trackTrusteeList.clear();
+    wasRead_ = true;
     initSubDirTable();
     initParentDirTable();
     setChangesEnabled(false);
+    if (!wasRead_)
+        return;
+    std::unordered_map<std::string, std::int64_t> now;
+    for (const Rows* rows : {&subtrusteeList, &parenttrusteeList})
+        for (const DirectoryRights& row : *rows)
+            now[ShowDirectoryRights::identity(row)] = row.trustee->rights;
+    tellOutcome(sent, now);
 }
 
 void DirectoryTrusteeViewController::onReturnMainMenu() {

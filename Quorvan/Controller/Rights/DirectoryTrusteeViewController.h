@@ -3,6 +3,7 @@
 
 #include "Quorvan/Controller/Selection/SelectionContext.h"
 #include "Quorvan/Toolkit/ListRows.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
@@ -37,6 +38,7 @@ public:
     QLabel* readOnlyLabel = nullptr; ///< says why nothing can be changed, where that is so
     QPushButton* revertbtn = nullptr;
     QPushButton* applybtn = nullptr;
+    PendingLine* pendingLine = nullptr; ///< what waits for Apply
 
     using Rows = std::vector<DirectoryRights>;
     Rows subtrusteeList; ///< as last loaded; edits never touch these objects
@@ -78,6 +80,9 @@ public:
     void onReturnMainMenu();
 
 private:
+    std::vector<PendingChange> pendingChanges() const;
+    void showPending();
+    bool wasRead_ = true;   ///< the rows are what the server has
     bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     /// One of the two tables with what belongs to it.
     struct Side {

@@ -21,7 +21,7 @@ struct ShowPath {
     static QString text(const Row& row, int /*textColumn*/) { return QString::fromStdString(row->fpath); }
     static QIcon icon(const Row& /*row*/, int /*textColumn*/) { return {}; }
     static std::uint16_t rights(const Row& row) { return row->frights; }
-    static const void* object(const Row& row) { return row.get(); }
+    static std::string identity(const Row& row) { return row->fpath; }
 };
 
 } // namespace
@@ -71,6 +71,7 @@ void FileSystemRightsViewController::buildButtons() {
     addBtn = outlet(new QPushButton(L("Add_title"), this), "addBtn");
     removeBtn = outlet(new QPushButton(L("Remove_title"), this), "removeBtn");
     cancelBtn = outlet(new QPushButton(this), "cancelBtn");
+    pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
     addBtn->setToolTip(L("Add_Path_Tip_Label"));
@@ -103,6 +104,7 @@ void FileSystemRightsViewController::layOutControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cancelBtn);
     buttons->addStretch();
+    buttons->addWidget(pendingLine);
     buttons->addWidget(revertBtn);
     buttons->addWidget(applyBtn);
 
@@ -115,7 +117,7 @@ void FileSystemRightsViewController::layOutControls() {
     page->addLayout(paths);
     page->addLayout(buttons);
     setTabOrders({currentPath, namefield, selectUserBtn, grpBtn, fsrTable, addBtn, removeBtn, cancelBtn,
-                  revertBtn, applyBtn});
+                  pendingLine, revertBtn, applyBtn});
 }
 
 } // namespace quorvan

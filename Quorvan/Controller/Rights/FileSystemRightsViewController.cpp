@@ -21,6 +21,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -73,7 +74,7 @@ void FileSystemRightsViewController::setBtnState() {
     removeBtn->setEnabled(true);
 }
 
-void FileSystemRightsViewController::initFSRRightsTable(const std::string& userID) {
+bool FileSystemRightsViewController::initFSRRightsTable(const std::string& userID) {
     frightsList.clear();
     backupfrightsList.clear();
     removedfrightsList.clear();
@@ -83,9 +84,11 @@ void FileSystemRightsViewController::initFSRRightsTable(const std::string& userI
     if (isOpen)
         xmlController->getFSRights(selectedPath, {userID}, frightsList, domainIdentity);
     pipe.reset();
-    if (!isOpen || reportLoss())
+    const bool wasRead = isOpen && !reportLoss();
+    if (!wasRead)
         onReturnMainMenu();
     showLoadedRows();
+    return wasRead;
 }
 
 void FileSystemRightsViewController::showLoadedRows() {
@@ -98,10 +101,33 @@ void FileSystemRightsViewController::showLoadedRows() {
 void FileSystemRightsViewController::redisplay() {
     fsrTable->reloadData();
     fsrTable->setEmptyText(L(selectedTrusteeID.empty() ? "FSR_Nobody_Label" : "FSR_No_Paths_Label"));
+    showPending();
+}
+
+std::vector<PendingChange> FileSystemRightsViewController::pendingChanges() const {
+    using Kind = PendingChange::Kind;
+    std::unordered_set<std::string> known;
+    if (!trackfrightsList.empty())
+        for (const IdentityFileRights& row : frightsList)
+            known.insert(row.rights.fpath);
+    std::vector<PendingChange> changes;
+    for (const TrackedRights& change : trackfrightsList) {
+        const std::string& path = change.rights->fpath;
+        const Kind kind = change.status == "REMOVE" ? Kind::removed
+                          : known.contains(path)    ? Kind::changed
+                                                    : Kind::added;
+        changes.push_back(rightsChange(path, kind, path, change.rights->frights));
+    }
+    return changes;
+}
+
+void FileSystemRightsViewController::showPending() {
+    pendingLine->show(pendingChanges(), {fsrTable});
 }
 
 void FileSystemRightsViewController::setChangesEnabled(bool enabled) {
     quorvan::setChangesEnabled(enabled, revertBtn, applyBtn, fsrTable);
+    showPending();
 }
 
 bool FileSystemRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {
@@ -210,6 +236,7 @@ void FileSystemRightsViewController::onMouseClickCheckbox(const RightsCheckBox& 
 
 void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
     if (!trackfrightsList.empty()) {
+        const std::vector<PendingChange> sent = pendingChanges();
         while (!trackfrightsList.empty()) {
             send(trackfrightsList.front());
             mustRead_ = reportLoss(1);
@@ -217,10 +244,23 @@ void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
                 return; // that change and those after it stay pending
             trackfrightsList.erase(trackfrightsList.begin());
         }
-        initFSRRightsTable(selectedTrusteeID);
+        if (initFSRRightsTable(selectedTrusteeID))
+            tellOutcomeOf(sent);
     }
     redisplay();
     setChangesEnabled(false);
+}
+
+/// What lies outside of the selection is not in the list that was read, and nothing is known of it.
+void FileSystemRightsViewController::tellOutcomeOf(std::vector<PendingChange> sent) const {
+    std::erase_if(sent, [this](const PendingChange& change) {
+        return !lowercased(change.identity).starts_with(lowercased(selectedPath));
+    });
+    std::unordered_map<std::string, std::int64_t> now;
+    for (const IdentityFileRights& row : frightsList)
+        now[row.rights.fpath] = row.rights.frights;
+    if (!sent.empty())
+        tellOutcome(sent, now);
 }
 
 void FileSystemRightsViewController::send(const TrackedRights& change) {

@@ -3,6 +3,7 @@
 
 #include "Quorvan/Controller/Identities/IdentityChoice.h"
 #include "Quorvan/Controller/Rights/BrowseFolderViewController.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Quorvan/Toolkit/RightsPage.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
@@ -41,6 +42,7 @@ public:
     QPushButton* cancelBtn = nullptr;
     QPushButton* revertBtn = nullptr;
     QPushButton* applyBtn = nullptr;
+    PendingLine* pendingLine = nullptr; ///< what waits for Apply
 
     /// A pending change, for the identity that is chosen when it is sent.
     struct TrackedRights {
@@ -68,7 +70,7 @@ public:
     void initFSRMainView();
     void checkMappedInUserRights();
     void setBtnState();
-    void initFSRRightsTable(const std::string& userID);
+    bool initFSRRightsTable(const std::string& userID);
     /// The server path of a local file address: VOL1:\dir of file:///Volumes/VOL1/dir
     static std::string formatPath(const std::string& selpath);
     void prepare(const Segue& segue);
@@ -86,6 +88,9 @@ public:
     void onReturnMainMenu();
 
 private:
+    std::vector<PendingChange> pendingChanges() const;
+    void showPending();
+    void tellOutcomeOf(std::vector<PendingChange> sent) const;
     bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     void buildIdentity();
     void buildTable();

@@ -26,7 +26,7 @@ struct ShowGroup {
     }
     static QIcon icon(const Row& /*row*/, int /*textColumn*/) { return {}; }
     static std::uint16_t rights(const Row& row) { return row.rights; }
-    static const void* object(const Row& row) { return &row; }
+    static std::string identity(const Row& row) { return row.path + '\n' + row.groupName; }
 };
 
 /// All groups of one view are of one directory, and so look alike.

@@ -43,6 +43,7 @@ void InheritedRightsViewController::loadView() {
     buildBoxes();
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
+    pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
     revertBtn->setToolTip(L("Revert_Tip_Label"));
@@ -67,6 +68,7 @@ void InheritedRightsViewController::buildBoxes() {
 void InheritedRightsViewController::layOutControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
+    buttons->addWidget(pendingLine);
     buttons->addWidget(revertBtn);
     buttons->addWidget(applyBtn);
 
@@ -78,7 +80,7 @@ void InheritedRightsViewController::layOutControls() {
     page->addStretch();
     page->addWidget(readOnlyLabel);
     page->addLayout(buttons);
-    setTabOrders({currentPath, filterBoxes, revertBtn, applyBtn});
+    setTabOrders({currentPath, filterBoxes, pendingLine, revertBtn, applyBtn});
 }
 
 void InheritedRightsViewController::viewDidLoad() {
@@ -109,6 +111,18 @@ void InheritedRightsViewController::setIRF() {
 
 void InheritedRightsViewController::setChangesEnabled(bool enabled) {
     quorvan::setChangesEnabled(enabled, revertBtn, applyBtn, readIRF);
+    showPending();
+}
+
+std::vector<PendingChange> InheritedRightsViewController::pendingChanges() const {
+    if (editedIRF == irf)
+        return {};
+    return {rightsChange("", PendingChange::Kind::changed, plainL("Inherited_Filter_Label").toStdString(),
+                         editedIRF)};
+}
+
+void InheritedRightsViewController::showPending() {
+    pendingLine->show(pendingChanges(), {});
 }
 
 void InheritedRightsViewController::onAnyIRFClick(QCheckBox* sender) {
@@ -125,6 +139,9 @@ void InheritedRightsViewController::onApply(QObject* /*sender*/) {
         reportFailed(status, 1);
     irf = editedIRF;
     setIRF();
+    showPending();
+    if (status == 0)
+        tellOutcome({}, {});
 }
 
 void InheritedRightsViewController::onRevert(QObject* /*sender*/) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Quorvan/Controller/Selection/SelectionContext.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
 #include <cstdint>
@@ -35,6 +36,7 @@ public:
     QCheckBox* supervisorIRF = nullptr; ///< always disabled: no filter stops that right
     QLabel* readOnlyLabel = nullptr;
     QPushButton* applyBtn = nullptr;
+    PendingLine* pendingLine = nullptr; ///< what waits for Apply
     QPushButton* revertBtn = nullptr;
 
     std::uint16_t irf = 0; ///< as the server holds it
@@ -53,6 +55,8 @@ public:
     void onRevert(QObject* sender);
 
 private:
+    std::vector<PendingChange> pendingChanges() const;
+    void showPending();
     void buildBoxes();
     void layOutControls();
     void setChangesEnabled(bool enabled);

@@ -55,7 +55,7 @@ bool RightsTabViewController::add(const TrusteeList& chosen) {
     if (editedTrusteeList.size() != before) {
         setChangesEnabled(true);
         rightsTable->setSortDescriptor({}); // the new rows stand at the end, whatever the order was
-        rightsTable->scrollToBottom();
+        rightsTable->showRow(static_cast<int>(editedTrusteeList.size()) - 1);
     }
     if (!areNew)
         reportDuplicate();

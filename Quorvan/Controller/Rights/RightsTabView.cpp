@@ -31,6 +31,7 @@ void RightsTabViewController::buildControls() {
     addRemoveLabel = outlet(new QLabel(this), "addRemoveLabel");
     addBtn = outlet(new QPushButton(L("Add_title"), this), "addBtn");
     removeBtn = outlet(new QPushButton(L("Remove_title"), this), "removeBtn");
+    pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
@@ -54,6 +55,7 @@ void RightsTabViewController::layOutControls() {
     buttons->addWidget(addBtn);
     buttons->addWidget(removeBtn);
     buttons->addStretch();
+    buttons->addWidget(pendingLine);
     buttons->addWidget(revertBtn);
     buttons->addWidget(applyBtn);
 
@@ -64,7 +66,8 @@ void RightsTabViewController::layOutControls() {
     page->addWidget(readOnlyLabel);
     page->addLayout(buttons);
 
-    setTabOrders({currentPath, showCheck, searchField, rightsTable, addBtn, removeBtn, revertBtn, applyBtn});
+    setTabOrders({currentPath, showCheck, searchField, rightsTable, addBtn, removeBtn, pendingLine, revertBtn,
+                  applyBtn});
 }
 
 void RightsTabViewController::connectControls() {

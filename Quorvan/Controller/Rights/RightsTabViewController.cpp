@@ -17,6 +17,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace quorvan {
@@ -90,7 +92,7 @@ void RightsTabViewController::viewDidAppear() {
 
 void RightsTabViewController::initRightsTable() {
     if (!loadTrustees(trusteeList, domainIdentity))
-        onReturnMainMenu();
+        giveUp();
     editedTrusteeList = copyOf(trusteeList);
     rightsTable->setSortDescriptor({});
 }
@@ -98,10 +100,15 @@ void RightsTabViewController::initRightsTable() {
 void RightsTabViewController::initRightsTable(const std::string& domain) {
     TrusteeList loaded;
     if (!loadTrustees(loaded, domain))
-        onReturnMainMenu();
+        giveUp();
     std::ranges::copy(copyOf(loaded), std::back_inserter(trusteeList));
     std::ranges::copy(copyOf(loaded), std::back_inserter(editedTrusteeList));
     rightsTable->setSortDescriptor({});
+}
+
+void RightsTabViewController::giveUp() {
+    wasRead_ = false;
+    onReturnMainMenu();
 }
 
 void RightsTabViewController::setTabState() {
@@ -115,10 +122,32 @@ void RightsTabViewController::setTabState() {
 
 void RightsTabViewController::setChangesEnabled(bool enabled) {
     quorvan::setChangesEnabled(enabled, revertBtn, applyBtn, rightsTable);
+    showPending();
 }
 
 void RightsTabViewController::redisplay() {
     quorvan::redisplay(*rightsTable, isSearching, *searchField);
+    showPending();
+}
+
+std::vector<PendingChange> RightsTabViewController::pendingChanges() const {
+    using Kind = PendingChange::Kind;
+    std::unordered_set<std::string> known;
+    if (!trackTrusteeList.empty())
+        for (const auto& trustee : trusteeList)
+            known.insert(trustee->trusteeID);
+    std::vector<PendingChange> changes;
+    for (const auto& trustee : trackTrusteeList) {
+        const Kind kind = trustee->status == "REMOVE"          ? Kind::removed
+                          : known.contains(trustee->trusteeID) ? Kind::changed
+                                                               : Kind::added;
+        changes.push_back(rightsChange(trustee->trusteeID, kind, trustee->trusteeName, trustee->rights));
+    }
+    return changes;
+}
+
+void RightsTabViewController::showPending() {
+    pendingLine->show(pendingChanges(), {rightsTable});
 }
 
 void RightsTabViewController::onShowBothMorvaneAD(QCheckBox* sender) {
@@ -206,12 +235,20 @@ void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
     mustRead_ = reportLoss(trackTrusteeList.size());
     if (mustRead_)
         return;
+    const std::vector<PendingChange> sent = pendingChanges();
     trackTrusteeList.clear();
     loadAgain();
     setChangesEnabled(false);
+    if (!wasRead_)
+        return;
+    std::unordered_map<std::string, std::int64_t> now;
+    for (const auto& trustee : trusteeList)
+        now[trustee->trusteeID] = trustee->rights;
+    tellOutcome(sent, now);
 }
 
 void RightsTabViewController::loadAgain() {
+    wasRead_ = true;
     if (showCheck->isChecked()) {
         onShowBothMorvaneAD(showCheck);
     } else {

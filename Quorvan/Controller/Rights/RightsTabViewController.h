@@ -6,6 +6,7 @@
 #include "Quorvan/Controller/Selection/TrusteeContext.h"
 #include "Quorvan/Modal/Users.h"
 #include "Quorvan/Toolkit/ListRows.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
 #include "Quorvan/Toolkit/ViewController.h"
@@ -44,6 +45,7 @@ public:
     QLabel* addRemoveLabel = nullptr;
     QLabel* readOnlyLabel = nullptr; ///< says why nothing can be changed, where that is so
     QPushButton* applyBtn = nullptr;
+    PendingLine* pendingLine = nullptr; ///< what waits for Apply
     QPushButton* revertBtn = nullptr;
     PathLabel* currentPath = nullptr;
     QPushButton* removeBtn = nullptr;
@@ -87,7 +89,11 @@ public:
     void onReturnMainMenu();
 
 private:
+    std::vector<PendingChange> pendingChanges() const;
+    void showPending();
     void loadAgain();
+    void giveUp();
+    bool wasRead_ = true;   ///< the rows are what the server has
     bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     void buildControls();
     void layOutControls();

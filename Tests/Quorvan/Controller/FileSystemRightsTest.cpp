@@ -46,7 +46,7 @@ TEST_F(FileSystemRightsTest, SendsOneRequestForEachChangeInTheOrderOfTheEdits) {
     play(R"(
                             | rows Box\Low RWF, Box\50% #1 ü REF, Box RF | applyBtn ready | revertBtn ready
         pick 1, applyBtn    | sent add admin Box\Low / add admin Box\50% #1 ü / remove admin Box / add admin Box
-                            | rows Box RF, Box\50% #1 ü REF, Box\Low RWF | applyBtn grey | revertBtn grey | alerts
+                            | rows Box RF, >Box\50% #1 ü REF, Box\Low RWF | applyBtn grey | revertBtn grey | alerts
     )");
     addPaths({"Current Project"}); // a link
     EXPECT_EQ(act("applyBtn").changes().front(), "add admin VOL1:\\Current Project");
@@ -54,7 +54,7 @@ TEST_F(FileSystemRightsTest, SendsOneRequestForEachChangeInTheOrderOfTheEdits) {
     play(R"(
                             | count 3
         tick 0R, revertBtn  | row 0 Box RF | applyBtn grey
-        removeBtn, applyBtn | sent | applyBtn grey                  // nothing is selected, and nothing pending
+        pick, removeBtn, applyBtn | sent | applyBtn grey            // nothing is selected, and nothing pending
         tick 0R
     )");
     take("selectUserBtn", "Users_Title", meridal, {"Zoe"}); // drops what is pending
@@ -159,7 +159,7 @@ TEST_F(FileSystemRightsTest, GroupRightsOfEitherDirectoryAppearWithEveryAppearan
     play("grpBtn, tick 0W | rows >Staff Box\\Low RMF"); // is for reading
     EXPECT_THAT(view<GroupRightsViewController>().grpIDs, ElementsAre("S-1-staff"));
     view<GroupRightsViewController>().viewWillAppear();
-    play("| rows Staff Box\\Low RMF, Staff Box\\Low RMF");
+    play("| rows >Staff Box\\Low RMF, Staff Box\\Low RMF");
     play("type searchField zzz | empty nothing like zzz");
     play("type searchField st?ff | count 2");
 

@@ -3,6 +3,7 @@
 // that all of it can be used without mouse and screen.
 #include "Platform/Qt/QtBundle.h"
 #include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Toolkit/PendingChanges.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
 
 #include <QAccessible>
@@ -191,6 +192,168 @@ TEST_F(PagesTest, TakeALostConnectionForAFailure) {
         }
 }
 
+/// The texts that the user reads.
+struct RealTexts : FakeBundle {
+    std::string localizedString(const std::string& key) override { return table.localizedString(key); }
+    platform::QtBundle table{QString()};
+};
+
+/// The keyboard, the selection and the place in the list belong to who is in the row, not to its number.
+TEST_F(PagesTest, KeepTheKeyboardWithTheIdentity) {
+    const struct {
+        const char *page, *table, *search, *pick, *apply, *revert, *identity;
+    } cases[] = {
+        {"rights", "rightsTable", "searchField", "1", "applyBtn", "revertBtn", "admin"},
+        {"folders", "subdirTable", "searchInSubField", "1", "applybtn", "revertbtn", "admin"},
+        {"files", "fsrTable", nullptr, "1", "applyBtn", "revertBtn", "Box\\Low"},
+        {"quota", "userQuotaTable", "searchField", "1", "applyButton", "revert", nullptr},
+    };
+    for (const auto& each : cases) {
+        open(each.page);
+        if (each.page == std::string_view("files"))
+            take("selectUserBtn", "Users_Title", meridal, {"admin"});
+        auto& list = control<ListTable>(each.table);
+        const auto name = [&](int row) {
+            return list.model()->index(row, 0).data().toString().toStdString();
+        };
+        const auto current = [&] {
+            return list.currentIndex().isValid() ? name(list.currentIndex().row()) : std::string("nothing");
+        };
+        act(std::string("pick:") + each.table + " " + each.pick);
+        const std::string who = name(1);
+        const auto expectKept = [&](const std::string& script) {
+            SCOPED_TRACE(std::string(each.page) + ": " + script);
+            act(script);
+            EXPECT_EQ(current(), who);
+            const auto selected = list.selectedRowIndexes();
+            EXPECT_THAT(selected, SizeIs(1));
+            EXPECT_EQ(name(selected.at(0)), who);
+        };
+        const std::string header = std::string("header:") + each.table;
+        expectKept(header);
+        expectKept(header);
+        if (each.search != nullptr) {
+            expectKept(std::string("type ") + each.search + " " + who);
+            expectKept(std::string("type ") + each.search);
+        }
+        const bool hasBoxes = dynamic_cast<RightsTable*>(&list) != nullptr;
+        if (hasBoxes) {
+            const std::string row = std::to_string(list.currentIndex().row());
+            const std::string tick = std::string("tick:") + each.table + " " + row + "E";
+            expectKept(tick);
+            expectKept(each.revert);
+            expectKept(std::string("tick:") + each.table + " " + std::to_string(list.currentIndex().row()) +
+                       "E");
+            expectKept(each.apply);
+            // The box that was clicked is where the keyboard goes on, and nobody else's.
+            act(std::string("tick:") + each.table + " 0C");
+            EXPECT_EQ(list.currentIndex().row(), 0);
+            const std::string before = rows(each.table)[0];
+            QTest::keyClick(focus(), Qt::Key_Space);
+            EXPECT_NE(rows(each.table)[0], before);
+            act(each.revert);
+        }
+        // Who is gone is not followed by the next one; the first step down leads to the first row.
+        act(std::string("pick:") + each.table + " 0");
+        const std::string gone = name(0);
+        act(hasBoxes ? each.page == std::string_view("folders") ? "removeBtnSub" : "removeBtn"
+                     : "removeUQButton");
+        EXPECT_EQ(current(), "nothing") << gone;
+        EXPECT_THAT(list.selectedRowIndexes(), IsEmpty());
+        list.setFocus();
+        QTest::keyClick(focus(), Qt::Key_Down);
+        EXPECT_EQ(list.currentIndex().row(), 0);
+        EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(0));
+        QTest::keyClick(focus(), Qt::Key_End);
+        EXPECT_EQ(list.currentIndex().row(), list.model()->rowCount() - 1);
+        if (each.search != nullptr) {
+            control(each.search).setFocus();
+            QTest::keyClick(focus(), Qt::Key_Down);
+            EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(0));
+        }
+        alerts();
+    }
+}
+
+/// What waits for Apply is counted and listed in words, hidden or not, and what the server has made of it is
+/// said.
+TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
+    platform::Services services = platform::services();
+    const auto texts = std::make_shared<RealTexts>();
+    services.bundle = texts;
+    const platform::ScopedServices real(services);
+    const auto waiting = [this] {
+        Texts changes;
+        if (isShown("pendingLine"))
+            for (const QString& text : control<PendingLine>("pendingLine").texts())
+                changes.push_back(text.toStdString());
+        return changes;
+    };
+    open("rights");
+    EXPECT_THAT(waiting(), IsEmpty());
+    act("tick 1W, pick 2, removeBtn");
+    take("addBtn", "Users", meridal, {"lea.fournier"});
+    EXPECT_THAT(waiting(), ElementsAre("admin: Read, Write, File Scan", "Zoe will be removed",
+                                       "lea.fournier: Read, File Scan"));
+    EXPECT_EQ(value("pendingLine"), "3 changes wait for Apply");
+    auto& list = control<ListTable>("rightsTable");
+    const auto spoken = [&](int row) {
+        return list.model()->index(row, 0).data(Qt::AccessibleTextRole).toString().toStdString();
+    };
+    EXPECT_EQ(spoken(0), "");
+    EXPECT_EQ(spoken(1), "admin, changed, waits for Apply");
+    EXPECT_EQ(spoken(list.model()->rowCount() - 1), "lea.fournier, new, waits for Apply");
+    act("type searchField fournier");
+    EXPECT_EQ(waiting().front(), "admin: Read, Write, File Scan, not shown in the list");
+    act("type searchField, tab 2, tab 0"); // the buttons are grey now, and the changes still there
+    EXPECT_THAT(waiting(), SizeIs(3));
+    act("tick 0C, tick 0C");
+    const std::size_t sent = waiting().size();
+    world.server->misbehaviour.code = 7;
+    world.server->misbehaviour.onlyWith = "<addTrustee";
+    act("applyBtn");
+    EXPECT_THAT(waiting(), IsEmpty());
+    EXPECT_THAT(value("noticeText"),
+                testing::StartsWith("The server did not take 3 of " + std::to_string(sent)));
+    EXPECT_THAT(value("noticeText"), testing::HasSubstr("lea.fournier"));
+    mend();
+    act("tick 1W, applyBtn");
+    EXPECT_THAT(value("noticeText"), testing::StartsWith("Applied "));
+
+    open("inherited").act("readIRF");
+    EXPECT_THAT(waiting(), SizeIs(1));
+    act("applyBtn");
+    EXPECT_THAT(waiting(), IsEmpty());
+    EXPECT_THAT(value("noticeText"), testing::StartsWith("Applied "));
+
+    open("folders").act("tick:subdirTable 1W");
+    EXPECT_THAT(waiting(), ElementsAre(testing::StartsWith("admin VOL1:\\Tests\\Box: ")));
+    world.server->misbehaviour.code = 7;
+    world.server->misbehaviour.onlyWith = "<addTrustee";
+    act("applybtn");
+    EXPECT_THAT(value("noticeText"),
+                testing::StartsWith("The server did not take 1 of 1 change: admin VOL1:\\Tests\\Box"));
+    mend();
+
+    open("files");
+    take("selectUserBtn", "Users", meridal, {"admin"});
+    act("tick 0W, pick 1, removeBtn");
+    EXPECT_THAT(waiting(),
+                ElementsAre("VOL1:\\Tests\\Box: Read, File Scan", testing::EndsWith(" will be removed")));
+    world.server->misbehaviour.code = 7;
+    world.server->misbehaviour.onlyWith = "<removeTrustee";
+    act("applyBtn");
+    EXPECT_THAT(value("noticeText"),
+                testing::StartsWith("The server did not take 1 of 2 changes: VOL1:\\Tests\\Box\\Low"));
+    mend();
+
+    open("information").act("hideChk");
+    EXPECT_THAT(waiting(), ElementsAre(testing::StartsWith("Attributes: ")));
+    select("VOL1/Projects/Aurora");
+    open("limit").act("editLimitBtn, type dirQuotaLimit 3");
+    EXPECT_THAT(waiting(), ElementsAre("Limit of the directory: 3 GB"));
+}
+
 TEST_F(PagesTest, EndTheProgramWithoutAFeature) {
     const struct {
         const char* page;
@@ -214,12 +377,6 @@ TEST_F(PagesTest, EndTheProgramWithoutAFeature) {
     bundle->features.reset();
     EXPECT_DEATH(openWindow(), "feature.plist is missing");
 }
-
-/// The texts that the user reads.
-struct RealTexts : FakeBundle {
-    std::string localizedString(const std::string& key) override { return table.localizedString(key); }
-    platform::QtBundle table{QString()};
-};
 
 TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
     platform::Services services = platform::services();
@@ -246,7 +403,7 @@ TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
     };
     // The script switches more controls on, or leads to a sheet.
     const auto places = tableOf(R"(
-inherited   | readIRF | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF revertBtn applyBtn closeBtn tabs
+inherited   | readIRF | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF pendingLine revertBtn applyBtn closeBtn tabs
 effective   | key Ctrl+F | searchField effRightsTable selectUserBtn closeBtn tabs
 folders     | removeBtnSub | removeBtnSub searchInParentField parentdirTable removeBtnParent revertbtn applybtn closeBtn tabs searchInSubField subdirTable
 files       | removeBtn | removeBtn cancelBtn revertBtn applyBtn selectUserBtn grpBtn fsrTable addBtn
@@ -254,8 +411,8 @@ files       | addBtn | fileBrowser cancelBtn
 files       | grpBtn | groupRightsTable closeBtn searchField
 quota       | removeUQButton | removeUQButton closeButton revert applyButton searchField userQuotaTable addUQButton editUQButton
 quota       | addUQButton | selectTrusteeBtn quotaLimitTextField selectUnit cancelBtn okBtn userList
-information | hideChk | hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton applyButton changeOwnerButton tabs readChk
-limit       | editLimitBtn | dirQuotaLimit selectUnit removeLimitBtn closeButton applyButton changeOwnerButton tabs
+information | hideChk | hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton pendingLine applyButton changeOwnerButton tabs readChk
+limit       | editLimitBtn | dirQuotaLimit selectUnit removeLimitBtn closeButton pendingLine applyButton changeOwnerButton tabs
 settings    | key Tab | CloseBtn ListBoth
 settings    | CloseBtn | TrusteeRightsView FileSystemRightsView UserQuotaView DirectoryQuotaView SettingView SalvageView PurgeView
 settings    | CloseBtn, PurgeView | deletedFileButton moreInfoButton closeButton

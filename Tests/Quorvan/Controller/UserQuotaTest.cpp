@@ -63,7 +63,7 @@ TEST_F(UserQuotaTest, AddsEditsAndRemovesInOneGo) {
     edit("1 2", "5");
     control("userQuotaTable").setFocus();
     play(R"(
-        | applyButton ready | revert ready | row 0 CN=User 1.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB | row 2 CN=User 0.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB
+        | applyButton ready | revert ready | row 0 >CN=User 1.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB | row 2 CN=User 0.OU=Verlag.O=Meridal 1 GB 0 KB 1 GB
         pick 3 2, key Del | count 3
         addUQButton
     )");
@@ -95,7 +95,7 @@ TEST_F(UserQuotaTest, MarksTheRowsOfTheWholeListWhileASearchIsOn) {
     openWith(4);
     act("type searchField User 3"); // the dialog gets User 3, but it is User 0 that is marked
     edit("0", "5");
-    play("| count 4 | row 0 CN=User 3.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB | searchField ");
+    play("| count 4 | row 0 >CN=User 3.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB | searchField ");
     play("applyButton | sent guid-0 1073741824");
 }
 
@@ -108,12 +108,12 @@ TEST_F(UserQuotaTest, LivesWithUsersWhoShareAnId) {
     openWith(0);
     edit("2", "5");
     play(R"(
-                                 | count 3 | row 0 CN=Other.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
+                                 | count 3 | row 0 >CN=Other.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
         pick 1 2, removeUQButton, type searchField *, type searchField | rows CN=Other.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
         revert
     )");
     edit("0 1", "6"); // both stand for the first, and the second is still listed
-    play("| count 4 | row 1 CN=First.OU=Verlag.O=Meridal 6 GB 0 KB 6 GB | row 2 CN=Twin.OU=Verlag.O=Meridal "
+    play("| count 4 | row 1 >CN=First.OU=Verlag.O=Meridal 6 GB 0 KB 6 GB | row 2 CN=Twin.OU=Verlag.O=Meridal "
          "6 GB 0 KB 6 GB");
     edit("3", "7"); // the row has no number in the whole list, so none is marked
     play(R"(
@@ -135,7 +135,7 @@ TEST_F(UserQuotaTest, KeepsTheDialogOpenForWhatIsNoLimit) {
     for (const std::string text : {"8192", "9223372036854775807"})
         EXPECT_DEATH((setLogSink({}), act("type quotaLimitTextField " + text + ", okBtn")),
                      "too large for its unit");
-    play("type quotaLimitTextField 8191, okBtn | row 0 CN=User 0.OU=Verlag.O=Meridal 8191 PB 0 KB 8191 PB");
+    play("type quotaLimitTextField 8191, okBtn | row 0 >CN=User 0.OU=Verlag.O=Meridal 8191 PB 0 KB 8191 PB");
     edit("0", "-1"); // a number, which the server refuses
     play(R"(
         applyButton              | sent guid-0 -1073741824 | alerts Err_Operation_Failed
@@ -186,7 +186,7 @@ TEST_F(UserQuotaTest, SendsThreeHundredAtATime) {
     EXPECT_EQ(sizesAfter("applyButton"), Sizes({300, 300, 1}));
     play(R"(
         | logged Failed with err - 20904 | alerts Err_Operation_Failed | applyButton grey | revert grey
-        | row 450 CN=User 450.OU=Verlag.O=Meridal 4 GB 0 KB 4 GB    // what was edited stays on show
+        | row 450 >CN=User 450.OU=Verlag.O=Meridal 4 GB 0 KB 4 GB    // what was edited stays on show
     )");
     EXPECT_EQ(onServer("guid-600"), 4 * gigabyte) << "the rest was sent all the same";
 }
