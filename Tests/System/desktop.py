@@ -3,6 +3,7 @@
 
 What a user sees is read over AT-SPI, as a screen reader does; what a user does goes through XTest.
 """
+import fnmatch
 import os
 import shutil
 import subprocess
@@ -146,14 +147,14 @@ class View:
         return None
 
     def find(self, role, name=None):
-        """The control of that role and name that is on the screen now, or None."""
+        """The control of that role and name ("*" for any text in it) that is on the screen now, or None."""
         from gi.repository import Atspi, GLib
 
         def search(node):
             if node is None:
                 return None
             found = node.get_role_name()
-            if found == role and name in (None, node.get_name()) and on_screen(node):
+            if found == role and fnmatch.fnmatchcase(node.get_name(), name or "*") and on_screen(node):
                 return node
             if found == "table":  # its cells are asked for one by one
                 return None

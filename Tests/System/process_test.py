@@ -199,11 +199,14 @@ class ProcessTest(unittest.TestCase):
         row = [name for name, _ in before].index("Finance")
         self.assertEqual(before[row][1], 0x0041)
         self.view.click(self.view.cell(row, 3))  # W
-        until(lambda: self.trustees_on_screen()[row] == ("Finance", 0x0043), "the tick")
+        ticked = ("Finance, changed, waits for Apply", 0x0043)
+        until(lambda: self.trustees_on_screen()[row] == ticked, "the tick")
+        self.view.wait_for("push button", "1 change waits for Apply")
         self.assertEqual(self.trustees_on_server(), before, "nothing is sent before Apply")
         until(lambda: self.view.is_enabled("push button", "Apply"), "Apply to be enabled")
         self.press("Apply")
         until(lambda: not self.view.is_enabled("push button", "Apply"), "Apply to be done")
+        until(lambda: self.view.find("label", "Applied *"), "the outcome")
         after = before[:row] + [("Finance", 0x0043)] + before[row + 1 :]
         self.assertEqual(sorted(self.trustees_on_server()), sorted(after))
         self.assertEqual(self.trustees_on_screen(), self.trustees_on_server())
