@@ -1057,6 +1057,36 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>In place of attributes or of an amount.</extracomment>
     <translation>none</translation>
   </message>
+  <message id="Copy_title">
+    <source></source>
+    <extracomment>In the context menu of a table.</extracomment>
+    <translation>&amp;Copy</translation>
+  </message>
+  <message id="Export_title">
+    <source></source>
+    <extracomment>In the context menu of a table, and the title of its dialog.</extracomment>
+    <translation>&amp;Export as CSV…</translation>
+  </message>
+  <message id="Export_Filter_Label">
+    <source></source>
+    <extracomment>In the dialog that asks for a file.</extracomment>
+    <translation>Comma-separated values (*.csv)</translation>
+  </message>
+  <message id="Exported_Label">
+    <source></source>
+    <extracomment>%1 is a file.</extracomment>
+    <translation>Exported to %1</translation>
+  </message>
+  <message id="Not_Exported_Label">
+    <source></source>
+    <extracomment>%1 is a file, %2 why it could not be written.</extracomment>
+    <translation>%1 was not written: %2</translation>
+  </message>
+  <message id="No_Reload_Label">
+    <source></source>
+    <extracomment>After the key that reads a page anew.</extracomment>
+    <translation>Not read again: there are changes that wait for Apply. Apply or revert them first.</translation>
+  </message>
   <message id="Connecting_Label">
     <source></source>
     <extracomment>In a small window at the start, until the server has answered; %1 is its name.</extracomment>

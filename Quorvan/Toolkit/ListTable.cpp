@@ -2,12 +2,21 @@
 #include "Quorvan/Toolkit/ListTable.h"
 
 #include "Quorvan/Toolkit/ListModel.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
+#include "Quorvan/Toolkit/TableText.h"
 #include "Quorvan/Toolkit/TextDelegate.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileDialog>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QMenu>
 #include <QPainter>
+#include <QPushButton>
+#include <QSaveFile>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolTip>
@@ -123,6 +132,51 @@ void ListTable::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     if (wasOnNothing)
         selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+}
+
+void ListTable::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        copyRows();
+    else if (event->key() == Qt::Key_Delete && removeButton_ != nullptr)
+        removeButton_->click(); // which does nothing while it is grey
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void ListTable::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    menu.addAction(L("Copy_title"), QKeySequence(QKeySequence::Copy), this, [this] { copyRows(); });
+    menu.addAction(L("Export_title"), this, [this] { chooseExport(); });
+    if (removeButton_ != nullptr) {
+        menu.addSeparator();
+        QAction* remove = menu.addAction(removeButton_->text(), QKeySequence(Qt::Key_Delete), removeButton_,
+                                         &QPushButton::click);
+        remove->setEnabled(removeButton_->isEnabled());
+    }
+    menu.addActions(actions());
+    menu.exec(event->globalPos());
+}
+
+void ListTable::copyRows() const {
+    QGuiApplication::clipboard()->setText(asTabSeparatedText(tableCells(*list_, selectedRowIndexes())));
+}
+
+void ListTable::chooseExport() {
+    QFileDialog dialog(window(), plainL("Export_title"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("csv"));
+    dialog.setNameFilter(L("Export_Filter_Label"));
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        exportRows(dialog.selectedFiles().constFirst());
+}
+
+void ListTable::exportRows(const QString& file) const {
+    QSaveFile out(file); // takes the place of what is there only when it is whole
+    const QByteArray text = asCsv(tableCells(*list_, selectedRowIndexes()));
+    if (out.open(QIODevice::WriteOnly) && out.write(text) == text.size() && out.commit())
+        NoticeLine::tell(NoticeLine::Kind::done, L("Exported_Label").arg(file));
+    else
+        NoticeLine::tell(NoticeLine::Kind::problem, L("Not_Exported_Label").arg(file, out.errorString()));
 }
 
 /// Home and End move in the list, not in its row.

@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+class QPushButton;
+
 namespace quorvan {
 
 struct SortDescriptor {
@@ -20,7 +22,8 @@ struct SortDescriptor {
 };
 
 /// A table of rows that the user selects and sorts: rows of one height, a text when there are none, and a
-/// tool tip for each text that its column cuts off. Tab leaves it.
+/// tool tip for each text that its column cuts off. Tab leaves it. The selected rows, or all when there are
+/// none, can be copied and exported.
 class ListTable : public QTableView {
 public:
     /// Takes the model.
@@ -37,6 +40,10 @@ public:
     }
     /// Whether one of the rows is about that.
     bool lists(const std::string& identity) const;
+    /// Lets the Delete key and the context menu click the button that removes rows.
+    void setRemoveButton(QPushButton* button) { removeButton_ = button; }
+    /// Writes the rows into a file; tells the user when that fails, and then leaves what was there.
+    void exportRows(const QString& file) const;
     /// Shown in the middle of a table without rows.
     void setEmptyText(const QString& text);
     const QString& emptyText() const { return emptyText_; }
@@ -62,15 +69,20 @@ protected:
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 private:
     void setUpHeader();
     void headerClicked(int column);
     void rememberPlace();
+    void copyRows() const;
+    void chooseExport();
     bool showsInFull(const QModelIndex& index) const;
 
     ListModel* list_;
+    QPushButton* removeButton_ = nullptr;
     std::optional<SortDescriptor> descriptor_;
     std::vector<std::optional<SortDescriptor>> prototypes_;
     std::function<void()> onSort_;

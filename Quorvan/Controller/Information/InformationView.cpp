@@ -4,6 +4,7 @@
 
 #include "Quorvan/Controller/Information/InformationAttributes.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
 
@@ -138,6 +139,7 @@ void InformationViewController::connectControls() {
     connect(dirQuotaLimit, &QLineEdit::returnPressed, applyButton, [this] { applyButton->click(); });
     connect(selectUnit, &QComboBox::activated, this, [this] { onChangeUnit(); });
     connect(applyButton, &QPushButton::clicked, this, [this] { onApply(); });
+    leaveOnBackKey(*closeButton);
     connect(closeButton, &QPushButton::clicked, this, [this] { onReturnMainMenu(); });
 }
 

@@ -5,6 +5,7 @@
 #include "Quorvan/Controller/Quota/UserQuotaRows.h"
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/SearchField.h"
 
@@ -92,8 +93,11 @@ void UserQuotaViewController::connectControls() {
     connect(addUQButton, &QPushButton::clicked, this, [this] { onClickAdd(); });
     connect(editUQButton, &QPushButton::clicked, this, [this] { onClickEdit(); });
     connect(removeUQButton, &QPushButton::clicked, this, [this] { onClickRemove(); });
+    userQuotaTable->setRemoveButton(removeUQButton);
+    reloadOnRefreshKey(*this, *pendingLine, [this] { getUserQuotaInfo(); });
     connect(revert, &QPushButton::clicked, this, [this] { onClickRevert(); });
     connect(applyButton, &QPushButton::clicked, this, [this] { onClickApply(); });
+    leaveOnBackKey(*closeButton);
     connect(closeButton, &QPushButton::clicked, this, [this] { onReturnMainMenu(); });
     connect(userQuotaTable, &QAbstractItemView::doubleClicked, editUQButton,
             [this] { editUQButton->click(); });

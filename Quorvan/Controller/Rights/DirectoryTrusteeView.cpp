@@ -2,6 +2,7 @@
 // The controls of the directory trustees tab and their layout.
 #include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
 
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
 
@@ -57,6 +58,9 @@ void DirectoryTrusteeViewController::buildSides() {
     outlet(removeLabel2, "removeLabel2");
     outlet(removeBtnSub, "removeBtnSub")->setText(L("Remove_title"));
     outlet(removeBtnParent, "removeBtnParent")->setText(L("Remove_Parent_title"));
+    subdirTable->setRemoveButton(removeBtnSub);
+    reloadOnRefreshKey(*this, *pendingLine, [this] { loadAgain(); });
+    parentdirTable->setRemoveButton(removeBtnParent);
     connect(removeBtnSub, &QPushButton::clicked, this, [this] { removeTrusteeforSubdir(removeBtnSub); });
     connect(removeBtnParent, &QPushButton::clicked, this,
             [this] { removeTrusteeforParentDir(removeBtnParent); });

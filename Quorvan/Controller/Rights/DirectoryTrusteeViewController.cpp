@@ -236,8 +236,7 @@ void DirectoryTrusteeViewController::sortDescriptorsDidChange(Side& side) {
 void DirectoryTrusteeViewController::onRevertClick(QObject* /*sender*/) {
     trackTrusteeList.clear();
     if (std::exchange(mustRead_, false)) {
-        initSubDirTable();
-        initParentDirTable();
+        loadAgain();
     } else {
         showLoaded(parent_);
         showLoaded(sub_);
@@ -258,9 +257,7 @@ void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
         return;
     const std::vector<PendingChange> sent = pendingChanges();
     trackTrusteeList.clear();
-    wasRead_ = true;
-    initSubDirTable();
-    initParentDirTable();
+    loadAgain();
     setChangesEnabled(false);
     if (!wasRead_)
         return;
@@ -269,6 +266,12 @@ void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
         for (const DirectoryRights& row : *rows)
             now[ShowDirectoryRights::identity(row)] = row.trustee->rights;
     tellOutcome(sent, now);
+}
+
+void DirectoryTrusteeViewController::loadAgain() {
+    wasRead_ = true;
+    initSubDirTable();
+    initParentDirTable();
 }
 
 void DirectoryTrusteeViewController::onReturnMainMenu() {

@@ -82,6 +82,7 @@ public:
 private:
     std::vector<PendingChange> pendingChanges() const;
     void showPending();
+    void loadAgain();
     bool wasRead_ = true;   ///< the rows are what the server has
     bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     /// One of the two tables with what belongs to it.

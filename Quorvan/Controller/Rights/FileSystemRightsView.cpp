@@ -3,6 +3,7 @@
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/Segue.h"
 #include "Quorvan/Toolkit/Storyboard.h"
@@ -83,7 +84,13 @@ void FileSystemRightsViewController::buildButtons() {
         button->setEnabled(false); // until an identity is chosen, or there is something to send
     connect(addBtn, &QPushButton::clicked, this, [this] { onAddPath(addBtn); });
     connect(removeBtn, &QPushButton::clicked, this, [this] { removeSelectedRow(removeBtn); });
+    leaveOnBackKey(*cancelBtn);
     connect(cancelBtn, &QPushButton::clicked, this, [this] { onReturnMainMenu(); });
+    fsrTable->setRemoveButton(removeBtn);
+    reloadOnRefreshKey(*this, *pendingLine, [this] {
+        if (!selectedTrusteeID.empty())
+            reloadChosenIdentity();
+    });
     connect(revertBtn, &QPushButton::clicked, this, [this] { onRevertClick(revertBtn); });
     connect(applyBtn, &QPushButton::clicked, this, [this] { onApply(applyBtn); });
 }

@@ -3,6 +3,7 @@
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
 #include <QCheckBox>
@@ -71,6 +72,8 @@ void RightsTabViewController::layOutControls() {
 }
 
 void RightsTabViewController::connectControls() {
+    rightsTable->setRemoveButton(removeBtn);
+    reloadOnRefreshKey(*this, *pendingLine, [this] { loadAgain(); });
     rightsTable->setEnablingRule(
         [this](std::uint16_t bit) { return bit == KelpRights::supervisor ? isSupervisor : canEdit(); });
     rightsTable->setClickHandler([this](const RightsCheckBox& sender) { onMouseClickCheckbox(sender); });

@@ -4,6 +4,7 @@
 #include "Quorvan/Controller/Rights/ViewTabController.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -14,6 +15,7 @@ void TrusteeRightsTabView::loadView() {
     auto* tabs = new ViewTabController(this);
     insertChild(0, tabs);
     closeBtn = outlet(new QPushButton(L("Close_title"), this), "closeBtn");
+    leaveOnBackKey(*closeBtn);
     closeBtn->setToolTip(L("Close_Tip_Label"));
     connect(closeBtn, &QPushButton::clicked, this, &TrusteeRightsTabView::onReturnMainMenu);
 

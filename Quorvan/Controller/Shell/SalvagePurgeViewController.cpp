@@ -6,6 +6,7 @@
 #include "Quorvan/Controller/Shell/MoreInfoViewController.h"
 #include "Quorvan/Controller/Shell/SalvagePurgeSegueController.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
 #include <QHBoxLayout>
@@ -31,6 +32,7 @@ void SalvagePurgeViewController::loadView() {
     closeButton->setToolTip(L("Close_Tip_Label"));
     for (QPushButton* button : {deletedFileButton, moreInfoButton})
         connect(button, &QPushButton::clicked, this, [this] { onClickMoreInfo(); });
+    leaveOnBackKey(*closeButton);
     connect(closeButton, &QPushButton::clicked, this, [this] {
         if (presentingController() != nullptr)
             onClose();

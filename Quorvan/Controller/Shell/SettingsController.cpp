@@ -5,6 +5,7 @@
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
 #include <QCheckBox>
@@ -32,6 +33,7 @@ void SettingsController::loadView() {
     for (QLabel* text : {AddTrusteesMessage, readOnlyLabel, LogDetailsLabel})
         text->setWordWrap(true);
     connect(ListBoth, &QCheckBox::clicked, this, [this] { onClickListBothIdentites(ListBoth); });
+    leaveOnBackKey(*CloseBtn);
     connect(CloseBtn, &QPushButton::clicked, this, [this] { onReturnMainMenu(); });
     layOutControls();
 }

@@ -7,6 +7,9 @@
 #include "Tests/Quorvan/Controller/WindowTest.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QFile>
+#include <QTemporaryDir>
 
 namespace quorvan::test {
 namespace {
@@ -197,6 +200,50 @@ struct RealTexts : FakeBundle {
     std::string localizedString(const std::string& key) override { return table.localizedString(key); }
     platform::QtBundle table{QString()};
 };
+
+/// Every table can be copied and exported, and what comes from a server stays a text in a spreadsheet.
+TEST_F(PagesTest, HandOnWhatTheTablesShow) {
+    world.server->setTrustee(box, world.identities->addDomainUser("=1+1,\"x\"", "formula"), 1);
+    open("rights").act("pick 1");
+    auto& list = control<ListTable>("rightsTable");
+    list.setFocus();
+    QTest::keyClick(focus(), Qt::Key_C, Qt::ControlModifier);
+    const char* header =
+        "Col_UserGrp_Name\tSupervisor_Label\tRead_Label\tWrite_Label\tErase_Label\tCreate_Label\t"
+        "Modify_Label\tFile_Scan_Label\tAccess_Control_Label\n";
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
+              std::string(header) + "admin\t\tx\t\t\t\t\tx\t\n");
+    act("pick");
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("rights.csv");
+    list.exportRows(file);
+    QFile written(file);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    const QByteArray text = written.readAll();
+    EXPECT_TRUE(text.startsWith("\xEF\xBB\xBF"
+                                "Col_UserGrp_Name,Supervisor_Label,"))
+        << text.toStdString();
+    EXPECT_TRUE(text.contains("\r\n\"'=1+1,\"\"x\"\"\",,x,,,,,,\r\n")) << text.toStdString();
+    EXPECT_EQ(value("noticeText"), "Exported_Label");
+    list.exportRows(folder.filePath("no/such.csv"));
+    EXPECT_EQ(value("noticeText"), "Not_Exported_Label");
+
+    act("pick 1");
+    list.setFocus();
+    QTest::keyClick(focus(), Qt::Key_Delete);
+    EXPECT_EQ(state("applyBtn"), "ready");
+    QTest::keyClick(focus(), Qt::Key_F5);
+    EXPECT_EQ(value("noticeText"), "No_Reload_Label");
+    EXPECT_EQ(state("applyBtn"), "ready") << "what waits is still there";
+    act("revertBtn");
+    world.server->setTrustee(box, world.identities->addDomainUser("late", "late"), 1);
+    list.setFocus();
+    const std::size_t before = rows().size();
+    QTest::keyClick(focus(), Qt::Key_F5);
+    EXPECT_EQ(rows().size(), before + 1);
+    QTest::keyClick(focus(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(title(), "Rights Management");
+}
 
 /// The keyboard, the selection and the place in the list belong to who is in the row, not to its number.
 TEST_F(PagesTest, KeepTheKeyboardWithTheIdentity) {
