@@ -1087,6 +1087,47 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>After the key that reads a page anew.</extracomment>
     <translation>Not read again: there are changes that wait for Apply. Apply or revert them first.</translation>
   </message>
+  <message id="Take_Off_title">
+    <source></source>
+    <extracomment>Button below the users whose limit is entered.</extracomment>
+    <translation>Take &amp;Off</translation>
+  </message>
+  <message id="Take_Off_Tip_Label">
+    <source></source>
+    <translation>Take the selected users off this list</translation>
+  </message>
+  <message id="Current_Limit_Label">
+    <source></source>
+    <extracomment>Beside the field for a limit; %1 is an amount of space.</extracomment>
+    <translation>now %1</translation>
+  </message>
+  <message id="Current_Limits_Label">
+    <source></source>
+    <extracomment>Beside the field for a limit, of users with different ones; %1 and %2 are amounts of space.</extracomment>
+    <translation>now %1 to %2</translation>
+  </message>
+  <message id="Over_Limit_Row_Label">
+    <source></source>
+    <extracomment>For a screen reader; %1 is an amount of space.</extracomment>
+    <translation>%1, over the limit</translation>
+  </message>
+  <message id="Over_Limit_Tip_Label">
+    <source></source>
+    <extracomment>Of the space that a user takes.</extracomment>
+    <translation>More than the limit allows</translation>
+  </message>
+  <message id="Over_Limit_Next_Tip_Label">
+    <source></source>
+    <extracomment>Of the button that says how many users are over their limit.</extracomment>
+    <translation>Go to the next one</translation>
+  </message>
+  <message id="Over_Limit_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n user is over the limit</numerusform>
+      <numerusform>%n users are over their limit</numerusform>
+    </translation>
+  </message>
   <message id="Connecting_Label">
     <source></source>
     <extracomment>In a small window at the start, until the server has answered; %1 is its name.</extracomment>

@@ -56,6 +56,13 @@ void fillQuotaUnits(QComboBox& popUp) {
     popUp.setPlaceholderText(popUp.itemText(quotaUnitGB));
 }
 
+std::optional<EnteredLimit> enteredQuotaLimit(std::int64_t bytes) {
+    for (auto unit = static_cast<int>(unitNames.size() - firstEnteredUnit) - 1; unit >= 0; --unit)
+        if (bytes > 0 && bytes % bytesOf(unit) == 0)
+            return EnteredLimit{bytes / bytesOf(unit), unit};
+    return std::nullopt;
+}
+
 std::optional<std::int64_t> quotaLimitInBytes(const QString& text, int unit) {
     const auto number = decimalNumber(text.toStdString());
     if (!number)

@@ -23,6 +23,14 @@ QString byteCount(std::int64_t bytes);
 /// counts then.
 void fillQuotaUnits(QComboBox& popUp);
 
+/// A limit as it is entered: a whole number of the largest unit in which it is one, and that unit's position.
+struct EnteredLimit {
+    std::int64_t amount;
+    int unit;
+};
+/// Nothing for a limit that cannot be entered.
+std::optional<EnteredLimit> enteredQuotaLimit(std::int64_t bytes);
+
 /// The bytes of a limit that was typed as a whole number of the unit at a position of the pop-up (GB for
 /// any position that is not there); nothing for any other text. More than 64 bits of bytes is fatal.
 std::optional<std::int64_t> quotaLimitInBytes(const QString& text, int unit);

@@ -4,6 +4,7 @@
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Quota/UserQuotaRows.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
@@ -13,9 +14,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <ranges>
 #include <span>
 #include <unordered_set>
 #include <utility>
@@ -38,6 +41,10 @@ void AddUserQuotaViewController::loadView() {
     quotaLimitTextField = outlet(new QLineEdit(this), "quotaLimitTextField", plainL("Quota_Limit_Label"));
     quotaLimitLabel->setBuddy(quotaLimitTextField);
     selectUnit = outlet(new QComboBox(this), "selectUnit", L("Unit_Label"));
+    currentLimits = outlet(new QLabel(this), "currentLimits");
+    takeOffBtn = outlet(new QPushButton(L("Take_Off_title"), this), "takeOffBtn");
+    takeOffBtn->setToolTip(L("Take_Off_Tip_Label"));
+    userList->setRemoveButton(takeOffBtn);
     cancelBtn = outlet(new QPushButton(this), "cancelBtn");
     okBtn = outlet(new QPushButton(this), "okBtn");
     okBtn->setDefault(true);
@@ -50,6 +57,7 @@ void AddUserQuotaViewController::layOutControls() {
     limit->addWidget(quotaLimitLabel);
     limit->addWidget(quotaLimitTextField);
     limit->addWidget(selectUnit);
+    limit->addWidget(currentLimits);
     limit->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cancelBtn);
@@ -58,18 +66,23 @@ void AddUserQuotaViewController::layOutControls() {
     auto* page = new QVBoxLayout(this);
     page->addWidget(userNameLabel);
     page->addWidget(userList, 1);
-    page->addWidget(selectTrusteeBtn, 0, Qt::AlignLeft);
+    auto* chosen = new QHBoxLayout;
+    chosen->addWidget(selectTrusteeBtn);
+    chosen->addWidget(takeOffBtn);
+    chosen->addStretch();
+    page->addLayout(chosen);
     page->addSpacing(fontMetrics().height() / 2);
     page->addLayout(limit);
     page->addSpacing(fontMetrics().height() / 2);
     page->addLayout(buttons);
-    setTabOrders({userList, selectTrusteeBtn, quotaLimitTextField, selectUnit, cancelBtn, okBtn});
+    setTabOrders({userList, selectTrusteeBtn, takeOffBtn, quotaLimitTextField, selectUnit, cancelBtn, okBtn});
 }
 
 void AddUserQuotaViewController::connectControls() {
     connect(selectTrusteeBtn, &QPushButton::clicked, this,
             [this] { onSelectTrusteeClick(selectTrusteeBtn); });
     connect(quotaLimitTextField, &QLineEdit::textEdited, this, [this] { onChangeQuotaLimit(); });
+    connect(takeOffBtn, &QPushButton::clicked, this, [this] { takeOffSelected(); });
     connect(selectUnit, &QComboBox::activated, this, [this] { onChangeUnit(); });
     connect(okBtn, &QPushButton::clicked, this, [this] { onClickOk(); });
     connect(cancelBtn, &QPushButton::clicked, this, [this] { onCancel(); });
@@ -79,7 +92,39 @@ void AddUserQuotaViewController::viewDidLoad() {
     readMultiForest();
     initAddUserQuotaView();
     selectUnit->setCurrentIndex(quotaUnitGB);
+    showCurrentLimits();
+    showUsers();
+}
+
+void AddUserQuotaViewController::showUsers() {
     userList->reloadData();
+    takeOffBtn->setEnabled(!users.empty());
+}
+
+/// What is edited begins with what is. Where that is no single number the field stays empty, so that a mere
+/// Return changes nobody's limit.
+void AddUserQuotaViewController::showCurrentLimits() {
+    if (users.empty())
+        return;
+    const auto limitOf = [](const auto& user) { return user->quotaLimit.value_or(0); };
+    const auto [least, most] = std::ranges::minmax(users | std::views::transform(limitOf));
+    const auto entered = least == most ? enteredQuotaLimit(least) : std::nullopt;
+    if (entered) {
+        quotaLimitTextField->setText(QString::number(entered->amount));
+        selectUnit->setCurrentIndex(entered->unit);
+        selectedUnit = entered->unit;
+    } else {
+        quotaLimitTextField->clear();
+        currentLimits->setText(least == most
+                                   ? L("Current_Limit_Label").arg(byteCount(least))
+                                   : L("Current_Limits_Label").arg(byteCount(least), byteCount(most)));
+    }
+    onChangeQuotaLimit();
+}
+
+void AddUserQuotaViewController::takeOffSelected() {
+    takeRows(users, userList->selectedRowIndexes());
+    showUsers();
 }
 
 void AddUserQuotaViewController::initAddUserQuotaView() {
@@ -143,7 +188,12 @@ void AddUserQuotaViewController::add(const std::vector<std::string>& names,
     });
     if (!areNew)
         reportDuplicate();
-    userList->reloadData();
+    showUsers();
+    // When the browser has closed, which gives the keyboard back to what it was on.
+    QTimer::singleShot(0, quotaLimitTextField, [this] {
+        quotaLimitTextField->setFocus();
+        quotaLimitTextField->selectAll();
+    });
 }
 
 void AddUserQuotaViewController::onChangeQuotaLimit() {

@@ -35,9 +35,11 @@ public:
     QLabel* userNameLabel = nullptr;
     ListTable* userList = nullptr;
     QPushButton* selectTrusteeBtn = nullptr; ///< opens the browser
+    QPushButton* takeOffBtn = nullptr;
     QLabel* quotaLimitLabel = nullptr;
     QLineEdit* quotaLimitTextField = nullptr;
     QComboBox* selectUnit = nullptr;
+    QLabel* currentLimits = nullptr; ///< what the limits are, where one field cannot show it
     QPushButton* okBtn = nullptr;
     QPushButton* cancelBtn = nullptr;
 
@@ -64,6 +66,9 @@ public:
 
 private:
     void layOutControls();
+    void showCurrentLimits();
+    void showUsers();
+    void takeOffSelected();
     void connectControls();
     void add(const std::vector<std::string>& names, const std::vector<std::string>& ids);
 };

@@ -7,6 +7,9 @@
 #include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 
+#include <QApplication>
+#include <QStyle>
+
 namespace quorvan {
 
 QString UserQuotaColumn::nameOf(const UserQuotaData& user) {
@@ -29,6 +32,10 @@ QString UserQuotaColumn::availableOf(const UserQuotaData& user) {
     return byteCount(available);
 }
 
+bool isOverLimit(const UserQuotaData& user) {
+    return user.quotaUsed.value_or(0) > user.quotaLimit.value_or(0) && user.quotaLimit.value_or(0) >= 0;
+}
+
 int UserQuotaRows::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
@@ -44,6 +51,15 @@ QVariant UserQuotaRows::data(const QModelIndex& index, int role) const {
         return accessibleText(index.row(), columns_.front().text(user));
     if (role == Qt::DecorationRole && index.column() == 0)
         return userIcon(user.domainIdentity.value_or(""));
+    const UserQuotaColumn& column = columns_[static_cast<std::size_t>(index.column())];
+    if (column.text == UserQuotaColumn::usedOf && isOverLimit(user)) {
+        if (role == Qt::DecorationRole)
+            return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+        if (role == Qt::AccessibleTextRole)
+            return L("Over_Limit_Row_Label").arg(column.text(user));
+        if (role == Qt::ToolTipRole)
+            return L("Over_Limit_Tip_Label");
+    }
     if (role == Qt::TextAlignmentRole)
         return alignment(index.column());
     return {};

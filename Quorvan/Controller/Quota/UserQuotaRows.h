@@ -23,7 +23,11 @@ struct UserQuotaColumn {
     static QString availableOf(const UserQuotaData& user);
 };
 
-/// The rows of a list of user quotas; the first column carries the icon of the user's directory.
+/// Whether a user takes more than the limit allows.
+bool isOverLimit(const UserQuotaData& user);
+
+/// The rows of a list of user quotas; the first column carries the icon of the user's directory, and what is
+/// over its limit a warning.
 class UserQuotaRows : public ListModel {
 public:
     /// The list is the view's own.

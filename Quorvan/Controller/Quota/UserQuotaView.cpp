@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace quorvan {
@@ -38,6 +40,12 @@ void UserQuotaViewController::buildControls() {
     for (int column = 1; column < rows->columnCount(); ++column)
         header->resizeSection(column, 12 * fontMetrics().averageCharWidth());
     searchField = outlet(new SearchField(userQuotaTable, this), "searchField");
+    overLimitBtn = outlet(new QToolButton(this), "overLimitBtn");
+    overLimitBtn->setAutoRaise(true);
+    overLimitBtn->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    overLimitBtn->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    overLimitBtn->setToolTip(L("Over_Limit_Next_Tip_Label"));
+    connect(overLimitBtn, &QToolButton::clicked, this, [this] { goToNextOverLimit(); });
     addUQButton = outlet(new QPushButton(L("Add_title"), this), "addUQButton");
     editUQButton = outlet(new QPushButton(L("Edit_title"), this), "editUQButton");
     removeUQButton = outlet(new QPushButton(L("Remove_title"), this), "removeUQButton");
@@ -61,6 +69,7 @@ void UserQuotaViewController::buildControls() {
 void UserQuotaViewController::layOutControls() {
     auto* heading = new QHBoxLayout;
     heading->addWidget(userQuotaTabTitle);
+    heading->addWidget(overLimitBtn);
     heading->addStretch();
     heading->addWidget(searchField);
     auto* changes = new QHBoxLayout;
@@ -83,8 +92,8 @@ void UserQuotaViewController::layOutControls() {
     page->addLayout(changes);
     page->addSpacing(fontMetrics().height() / 2);
     page->addLayout(buttons);
-    setTabOrders({selectedPathLabel, searchField, userQuotaTable, addUQButton, editUQButton, removeUQButton,
-                  closeButton, pendingLine, revert, applyButton});
+    setTabOrders({selectedPathLabel, overLimitBtn, searchField, userQuotaTable, addUQButton, editUQButton,
+                  removeUQButton, closeButton, pendingLine, revert, applyButton});
 }
 
 void UserQuotaViewController::connectControls() {

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include <algorithm>
 #include <iterator>
@@ -116,6 +117,23 @@ void UserQuotaViewController::redisplay() {
     quorvan::redisplay(*userQuotaTable, !searchString.empty(), *searchField,
                        wasRead_ ? "No_User_Quotas_Label" : "User_Quotas_Unknown_Label");
     showPending();
+    const auto over =
+        std::ranges::count_if(usersDisplay, [](const auto& user) { return isOverLimit(*user); });
+    overLimitBtn->setText(L("Over_Limit_Label", static_cast<int>(over)));
+    overLimitBtn->setVisible(over > 0);
+}
+
+void UserQuotaViewController::goToNextOverLimit() {
+    const auto rows = static_cast<int>(usersDisplay.size());
+    const int current = userQuotaTable->currentIndex().isValid() ? userQuotaTable->currentIndex().row() : -1;
+    for (int step = 1; step <= rows; ++step) {
+        const int row = (current + step) % rows;
+        if (isOverLimit(*usersDisplay[static_cast<std::size_t>(row)])) {
+            userQuotaTable->showRow(row);
+            userQuotaTable->setFocus();
+            return;
+        }
+    }
 }
 
 std::vector<PendingChange> UserQuotaViewController::pendingChanges() const {

@@ -13,6 +13,7 @@
 
 class QLabel;
 class QPushButton;
+class QToolButton;
 
 namespace quorvan {
 
@@ -39,7 +40,8 @@ public:
     QPushButton* closeButton = nullptr;
     QPushButton* revert = nullptr;
     QPushButton* applyButton = nullptr;
-    PendingLine* pendingLine = nullptr; ///< what waits for Apply
+    QToolButton* overLimitBtn = nullptr; ///< how many users are over their limit; leads to the next one
+    PendingLine* pendingLine = nullptr;  ///< what waits for Apply
 
     UserQuotaList users;         ///< as last read
     UserQuotaList usersEdited;   ///< with those added, without those removed
@@ -92,6 +94,7 @@ private:
     std::unique_ptr<ScopedPipe> openQuotaPipe();
     void redisplay();
     void forgetSearch();
+    void goToNextOverLimit();
 
     bool wasRead_ = false;      ///< the lists are what the server has
     SearchFilter searchFilter_; ///< of searched_

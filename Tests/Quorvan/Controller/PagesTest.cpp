@@ -36,7 +36,7 @@ inherited   | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF c
 effective   | searchField effRightsTable selectUserBtn closeBtn tabs | | selectUserBtn | selectUserBtn
 folders     | searchInSubField subdirTable removeBtnSub searchInParentField parentdirTable removeBtnParent closeBtn tabs | | removeBtnSub removeBtnParent read-only |
 files       | selectUserBtn fsrTable cancelBtn | selectUserBtn read-only | selectUserBtn read-only | selectUserBtn
-quota       | userQuotaTable addUQButton editUQButton removeUQButton closeButton searchField | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton
+quota       | userQuotaTable addUQButton editUQButton removeUQButton closeButton overLimitBtn searchField | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton
 information | tabs readChk hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton changeOwnerButton | changeOwnerButton read-only | changeOwnerButton read-only | changeOwnerButton
 settings    | ListBoth CloseBtn | | ListBoth read-only |
 )");
@@ -456,7 +456,7 @@ folders     | removeBtnSub | removeBtnSub searchInParentField parentdirTable rem
 files       | removeBtn | removeBtn cancelBtn revertBtn applyBtn selectUserBtn grpBtn fsrTable addBtn
 files       | addBtn | fileBrowser cancelBtn
 files       | grpBtn | groupRightsTable closeBtn searchField
-quota       | removeUQButton | removeUQButton closeButton revert applyButton searchField userQuotaTable addUQButton editUQButton
+quota       | removeUQButton | removeUQButton closeButton revert applyButton overLimitBtn searchField userQuotaTable addUQButton editUQButton
 quota       | addUQButton | selectTrusteeBtn quotaLimitTextField selectUnit cancelBtn okBtn userList
 information | hideChk | hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton pendingLine applyButton changeOwnerButton tabs readChk
 limit       | editLimitBtn | dirQuotaLimit selectUnit removeLimitBtn closeButton pendingLine applyButton changeOwnerButton tabs

@@ -124,6 +124,32 @@ TEST_F(UserQuotaTest, LivesWithUsersWhoShareAnId) {
     )");
 }
 
+TEST_F(UserQuotaTest, EditsFromWhatIsAndLeadsToWhoIsOver) {
+    for (const std::string number : {"0", "1", "2"}) {
+        const auto& user = world.identities->addTreeUser("User " + number, "Verlag", "guid-" + number);
+        auto& quota = world.server->volumes().userQuotas("VOL2")->of(user);
+        quota.limit = number == "1" ? gigabyte : gigabyte / 2;
+        quota.used = number == "1" ? 0 : gigabyte;
+    }
+    open("quota", demo::supervisorTree);
+    EXPECT_TRUE(isShown("overLimitBtn"));
+    click("overLimitBtn");
+    click("overLimitBtn");
+    EXPECT_EQ(rows()[2], ">CN=User 2.OU=Verlag.O=Meridal 512 MB 1 GB -512 MB");
+    EXPECT_EQ(control<ListTable>("userQuotaTable").model()->index(2, 2).data(Qt::AccessibleTextRole),
+              "Over_Limit_Row_Label");
+    play(R"(
+        pick 0 2, editUQButton | quotaLimitTextField 512 | selectUnit MB | currentLimits
+        okBtn, pick 0 2, editUQButton | quotaLimitTextField  | selectUnit GB | currentLimits Current_Limits_Label
+    )");
+    EXPECT_EQ(act("okBtn").dismissAlert(), "Invalid_Quota_Limit") << "a mere Return changes nobody";
+    play(R"(
+        pick 0, takeOffBtn | count 1 | takeOffBtn ready
+        type quotaLimitTextField 7, okBtn | pendingLine ready // names those that are marked, not who was meant
+        applyButton        | sent guid-0 536870912; guid-2 536870912 | pendingLine hidden
+    )");
+}
+
 TEST_F(UserQuotaTest, KeepsTheDialogOpenForWhatIsNoLimit) {
     openWith(1);
     act("pick 0, editUQButton");
@@ -138,7 +164,7 @@ TEST_F(UserQuotaTest, KeepsTheDialogOpenForWhatIsNoLimit) {
     play("type quotaLimitTextField 8191, okBtn | row 0 >CN=User 0.OU=Verlag.O=Meridal 8191 PB 0 KB 8191 PB");
     edit("0", "-1"); // a number, which the server refuses
     play(R"(
-        applyButton              | sent guid-0 -1073741824 | alerts Err_Operation_Failed
+        applyButton              | sent guid-0 -1125899906842624 | alerts Err_Operation_Failed
         addUQButton              | title Add_User_Quota_Title
         type quotaLimitTextField 1, okBtn | title User_Quota_Title | applyButton grey // no user was chosen
         addUQButton, cancelBtn   | title User_Quota_Title
