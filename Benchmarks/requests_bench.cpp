@@ -95,6 +95,33 @@ void ListDirectoryTrustees(benchmark::State& state) {
 }
 BENCHMARK(ListDirectoryTrustees)->Arg(10'000)->Arg(50'000)->Unit(benchmark::kMillisecond)->UseManualTime();
 
+/// One path and one name of a hundred thousand characters that a hostile reply gives once, for all its
+/// trustees.
+void ListTrusteesOfOneLongPath(benchmark::State& state) {
+    const std::string longText(100'000, 'x');
+    std::string reply =
+        R"(<adminReply><result value="0"/><file><rightsInfo><trusteeList><trusteeInfo><name>)" + longText +
+        "</name><id>0</id><rights/></trusteeInfo>";
+    for (std::int64_t trustee = 1; trustee < state.range(0); ++trustee)
+        reply += "<trusteeInfo><id>" + std::to_string(trustee) + "</id></trusteeInfo>";
+    reply += "</trusteeList></rightsInfo><path>" + longText + "</path></file></adminReply>";
+    const test::FakeWorld world;
+    const benchmarks::MemoryPipe pipe(reply);
+    compareOn(state, reply, [&] {
+        XMLReadWriteController controller;
+        std::vector<DirectoryRights> rows;
+        if (controller.getIRRequest("VOL1:\\a", rows, "Morvane") != "0")
+            std::abort();
+        return rows;
+    });
+}
+BENCHMARK(ListTrusteesOfOneLongPath)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
+
 /// A directory that answers from a hash map.
 class MapDirectory final : public platform::DirectoryServices, public platform::DirectoryNode {
 public:

@@ -7,13 +7,13 @@
 
 namespace quorvan {
 
-User::User(std::string name, std::string type, std::string id)
+User::User(SharedText name, SharedText type, std::string id)
     : trusteeName(std::move(name))
     , trusteeType(std::move(type))
     , trusteeID(std::move(id)) {}
 
-Trustees::Trustees(std::string name, std::string id, std::uint16_t mask, std::string pendingStatus,
-                   std::string type, std::string domain)
+Trustees::Trustees(SharedText name, std::string id, std::uint16_t mask, std::string pendingStatus,
+                   SharedText type, std::string domain)
     : User(std::move(name), std::move(type), std::move(id))
     , rights(mask)
     , status(std::move(pendingStatus))

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Modal/SharedText.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -13,11 +15,11 @@ namespace quorvan {
 class User {
 public:
     User() = default;
-    User(std::string name, std::string type, std::string id);
+    User(SharedText name, SharedText type, std::string id);
 
-    std::string trusteeName; ///< display name; for directory-tree objects the name the server returns
-    std::string trusteeType; ///< "Users" or "Groups", or a directory-tree object class
-    std::string trusteeID;   ///< SID (Active Directory), or GUID or distinguished name (Morvane)
+    SharedText trusteeName; ///< display name; for directory-tree objects the name the server returns
+    SharedText trusteeType; ///< "Users" or "Groups", or a directory-tree object class
+    std::string trusteeID;  ///< SID (Active Directory), or GUID or distinguished name (Morvane)
 };
 
 /// One trustee of one path.
@@ -27,7 +29,7 @@ public:
 class Trustees : public User {
 public:
     Trustees() = default;
-    Trustees(std::string name, std::string id, std::uint16_t rights, std::string status, std::string type,
+    Trustees(SharedText name, std::string id, std::uint16_t rights, std::string status, SharedText type,
              std::string domainType);
     Trustees(const Trustees& other);
     Trustees& operator=(const Trustees& other);
@@ -63,7 +65,7 @@ struct Rights {
 /// One trustee entry of a sub-directory or parent directory.
 struct DirectoryRights {
     std::shared_ptr<Trustees> trustee;
-    std::string path; ///< server path on which the trustee is set
+    SharedText path; ///< server path on which the trustee is set
 };
 
 /// The same of rows that stand for a trustee on a path.
@@ -72,7 +74,7 @@ std::vector<DirectoryRights> copyOf(const std::vector<DirectoryRights>& rows);
 /// One path on which a trustee holds rights.
 struct FileRights {
     enum class Order { fpath };
-    std::string fpath;
+    SharedText fpath;
     std::uint16_t frights = 0;
 };
 

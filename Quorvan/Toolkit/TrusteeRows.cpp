@@ -10,7 +10,7 @@ QString ShowTrustee::text(const std::shared_ptr<Trustees>& trustee, int /*textCo
 }
 
 QIcon ShowTrustee::icon(const std::shared_ptr<Trustees>& trustee, int /*textColumn*/) {
-    return namedIcon(trusteeIconName(trustee->trusteeType));
+    return namedIcon(trusteeIconName(trustee->trusteeType.str()));
 }
 
 QString ShowDirectoryRights::text(const DirectoryRights& entry, int textColumn) {

@@ -45,7 +45,7 @@ struct ShowDirectoryRights {
     static QIcon icon(const DirectoryRights& entry, int textColumn);
     static std::uint16_t rights(const DirectoryRights& entry) { return entry.trustee->rights; }
     static std::string identity(const DirectoryRights& entry) {
-        return entry.path + '\n' + entry.trustee->trusteeID;
+        return entry.path.str() + '\n' + entry.trustee->trusteeID;
     }
 };
 using DirectoryRightsRows = RowsOf<DirectoryRights, ShowDirectoryRights>;

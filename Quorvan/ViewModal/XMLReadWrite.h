@@ -156,8 +156,8 @@ public:
                             std::vector<IdentityFileRights>& grpRights, const std::string& ctx);
     static void decodeFSRInfo(const std::string& xmlResp, const std::vector<std::string>& userID,
                               std::vector<IdentityFileRights>& arr);
-    static void decodeFSRTrusteeInfo(XMLElement xmlNodeArr, const std::string& path,
-                                     const IdentitySet& userID, std::vector<IdentityFileRights>& arr);
+    static void decodeFSRTrusteeInfo(XMLElement xmlNodeArr, const SharedText& path, const IdentitySet& userID,
+                                     std::vector<IdentityFileRights>& arr);
 
     // File information
 

@@ -88,8 +88,9 @@ void XMLReadWriteController::loadDirectoryRights(std::vector<DirectoryRights>& d
             pending.push_back(std::move(trustee));
         if (!entry->path)
             continue;
+        const SharedText path(*entry->path);
         for (auto& trustee : pending)
-            dirTrustee.push_back({std::move(trustee), std::string(*entry->path)});
+            dirTrustee.push_back({std::move(trustee), path});
         pending.clear();
     }
 }

@@ -145,8 +145,8 @@ std::vector<User> BrowseMorvaneUserListViewController::filterOnUserType(const st
     std::vector<User> kept;
     for (const User& entry : list) {
         if (type == users)
-            std::puts(entry.trusteeType.c_str());
-        if (std::ranges::find(classes, lowercased(entry.trusteeType)) != classes.end())
+            std::puts(entry.trusteeType.str().c_str());
+        if (std::ranges::find(classes, lowercased(entry.trusteeType.str())) != classes.end())
             kept.push_back(entry);
     }
     std::fflush(stdout);
@@ -155,7 +155,8 @@ std::vector<User> BrowseMorvaneUserListViewController::filterOnUserType(const st
 
 void BrowseMorvaneUserListViewController::onSearch(SearchField* field) {
     if (!isSearching)
-        searchFilter_.setRows(userlist, [](const User& user) { return user.trusteeName; });
+        searchFilter_.setRows(userlist,
+                              [](const User& user) -> const std::string& { return user.trusteeName; });
     BrowserOf::onSearch(field);
 }
 

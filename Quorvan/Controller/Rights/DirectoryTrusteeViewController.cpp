@@ -100,7 +100,8 @@ std::vector<PendingChange> DirectoryTrusteeViewController::pendingChanges() cons
         const auto kind =
             row.trustee->status == "REMOVE" ? PendingChange::Kind::removed : PendingChange::Kind::changed;
         changes.push_back(rightsChange(ShowDirectoryRights::identity(row), kind,
-                                       row.trustee->trusteeName + " " + row.path, row.trustee->rights));
+                                       row.trustee->trusteeName.str() + " " + row.path.str(),
+                                       row.trustee->rights));
     }
     return changes;
 }

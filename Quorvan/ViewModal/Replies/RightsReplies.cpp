@@ -36,7 +36,7 @@ void FileRightsReader::readFile(XMLElement file) {
     complete_ = complete_ && list && path;
     if (!complete_ || !list->hasChildren())
         return;
-    const std::string pathText = path->stringValue();
+    const SharedText pathText = path->stringValue();
     for (const XMLElement trustee : list->children()) {
         if (trustee.hasChildren())
             XMLReadWriteController::decodeFSRTrusteeInfo(trustee, pathText, identities_, rows_);
@@ -58,7 +58,7 @@ void XMLReadWriteController::decodeFSRInfo(const std::string& xmlResp, const std
     files.finish(readReply(xmlResp, files));
 }
 
-void XMLReadWriteController::decodeFSRTrusteeInfo(XMLElement xmlNodeArr, const std::string& path,
+void XMLReadWriteController::decodeFSRTrusteeInfo(XMLElement xmlNodeArr, const SharedText& path,
                                                   const IdentitySet& userID,
                                                   std::vector<IdentityFileRights>& arr) {
     std::string current;

@@ -31,16 +31,16 @@ TrusteeReader::TrusteeReader(const ReplyEntries& entries, std::string identityTy
 
 std::shared_ptr<Trustees> TrusteeReader::read(const ReplyEntry& entry) {
     if (entry.trusteeName)
-        name_ = entry.trusteeName;
+        name_ = SharedText(*entry.trusteeName);
     if (entry.trusteeType)
-        type_ = *entry.trusteeType;
+        type_ = SharedText(*entry.trusteeType);
     if (entry.rights)
         rights_ = entry.rights;
     if (!entry.trusteeID)
         return nullptr;
     require(name_ && rights_, "The trustee \"%@\" of the reply has no name or no rights", *entry.trusteeID);
-    auto trustee = std::make_shared<Trustees>(std::string(*name_), std::string(*entry.trusteeID), *rights_,
-                                              "", std::string(type_), identityType_);
+    auto trustee =
+        std::make_shared<Trustees>(*name_, std::string(*entry.trusteeID), *rights_, "", type_, identityType_);
     if (typesFromDirectory_)
         lookup_.setTrusteeTypeforTrustee(*trustee);
     return trustee;

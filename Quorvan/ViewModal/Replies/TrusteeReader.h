@@ -28,8 +28,8 @@ private:
     std::string identityType_;
     bool typesFromDirectory_;
     DirectoryLookup lookup_;
-    std::optional<std::string_view> name_;
-    std::string_view type_;
+    std::optional<SharedText> name_;
+    SharedText type_;
     std::optional<std::uint16_t> rights_;
 };
 

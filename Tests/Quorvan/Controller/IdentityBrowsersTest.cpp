@@ -58,7 +58,7 @@ TEST_F(IdentityBrowsersTest, AddsTreeUsersAndSaysOnceWhoIsThereAlready) {
         selectButton, cancelButton | alerts Err_Msg_Duplicate_Trustee | applyBtn ready
     )");
     EXPECT_EQ(rows().size(), users - 1) << "Vera is a trustee, and the twins are one";
-    EXPECT_STREQ(trusteeIconName(last().trusteeType), "user_Morvane");
+    EXPECT_STREQ(trusteeIconName(last().trusteeType.str()), "user_Morvane");
     EXPECT_EQ(act("applyBtn").rightsOnServer("guid-one"), 0x41);
     EXPECT_EQ(rows().size(), users - 1);
 }

@@ -27,7 +27,7 @@ std::string print(const std::shared_ptr<Trustees>& t) {
     return row({t->trusteeName, t->trusteeID, t->trusteeType, rights, t->status, t->domainType});
 }
 std::string print(const DirectoryRights& r) {
-    return print(r.trustee) + "," + r.path;
+    return print(r.trustee) + "," + r.path.str();
 }
 std::string print(const IdentityFileRights& r) {
     return row({r.id, r.rights.fpath, std::to_string(r.rights.frights)});

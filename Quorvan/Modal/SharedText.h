@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace quorvan {
+
+/// A text that many records hold at once: a long one is stored once for all copies. A server may give ten
+/// thousand trustees one name of a hundred thousand characters, and does give all trustees of a folder the
+/// same path.
+class SharedText {
+public:
+    SharedText() = default;
+    // NOLINTBEGIN(google-explicit-constructor): it stands for a std::string
+    SharedText(std::string text)
+        : text_(text.empty() ? nullptr : std::make_shared<const std::string>(std::move(text))) {}
+    SharedText(std::string_view text)
+        : SharedText(std::string(text)) {}
+    SharedText(const char* text)
+        : SharedText(std::string(text)) {}
+    operator const std::string&() const { return str(); }
+    // NOLINTEND(google-explicit-constructor)
+
+    const std::string& str() const {
+        static const std::string none;
+        return text_ ? *text_ : none;
+    }
+    bool empty() const { return str().empty(); }
+    std::size_t size() const { return str().size(); }
+
+    friend bool operator==(const SharedText& a, const SharedText& b) {
+        return a.text_ == b.text_ || a.str() == b.str();
+    }
+    friend bool operator==(const SharedText& a, const std::string& b) { return a.str() == b; }
+    friend bool operator==(const SharedText& a, std::string_view b) { return a.str() == b; }
+    friend bool operator==(const SharedText& a, const char* b) { return a.str() == b; }
+    friend std::ostream& operator<<(std::ostream& stream, const SharedText& text) {
+        return stream << text.str();
+    }
+
+private:
+    std::shared_ptr<const std::string> text_; ///< null for ""
+};
+
+} // namespace quorvan
