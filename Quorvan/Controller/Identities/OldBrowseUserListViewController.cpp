@@ -71,6 +71,7 @@ void OldBrowseUserListViewController::onSelect() {
         ldapList().usersCategory[static_cast<std::size_t>(userTypeTable->currentRow())].type;
     const DirectoryLookup lookup;
     std::vector<std::string> sids;
+    sids.reserve(names.size());
     for (const std::string& name : names)
         sids.push_back(lookup.getSidforObject(name, category, kODAttributeTypeRecordName));
     OldBrowseLdapDelegate* receiver = delegate.get();

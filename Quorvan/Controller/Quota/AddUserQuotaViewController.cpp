@@ -14,11 +14,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <ranges>
 #include <span>
 #include <unordered_set>
 #include <utility>
@@ -106,8 +104,10 @@ void AddUserQuotaViewController::showUsers() {
 void AddUserQuotaViewController::showCurrentLimits() {
     if (users.empty())
         return;
-    const auto limitOf = [](const auto& user) { return user->quotaLimit.value_or(0); };
-    const auto [least, most] = std::ranges::minmax(users | std::views::transform(limitOf));
+    const auto isLess = [](const auto& a, const auto& b) { return a->quotaLimit < b->quotaLimit; };
+    const auto [first, last] = std::minmax_element(users.begin(), users.end(), isLess);
+    const std::int64_t least = (*first)->quotaLimit.value_or(0);
+    const std::int64_t most = (*last)->quotaLimit.value_or(0);
     const auto entered = least == most ? enteredQuotaLimit(least) : std::nullopt;
     if (entered) {
         quotaLimitTextField->setText(QString::number(entered->amount));
@@ -190,10 +190,11 @@ void AddUserQuotaViewController::add(const std::vector<std::string>& names,
         reportDuplicate();
     showUsers();
     // When the browser has closed, which gives the keyboard back to what it was on.
-    QTimer::singleShot(0, quotaLimitTextField, [this] {
+    const auto goToLimit = [this] {
         quotaLimitTextField->setFocus();
         quotaLimitTextField->selectAll();
-    });
+    };
+    QMetaObject::invokeMethod(quotaLimitTextField, goToLimit, Qt::QueuedConnection);
 }
 
 void AddUserQuotaViewController::onChangeQuotaLimit() {

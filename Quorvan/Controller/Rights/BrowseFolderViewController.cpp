@@ -128,6 +128,7 @@ void BrowseFolderViewController::onSelect(QObject* /*sender*/) {
         selected.emplace(placeOf(row), std::move(url));
     }
     std::vector<std::string> urls;
+    urls.reserve(selected.size());
     for (auto& [place, url] : selected)
         urls.push_back(std::move(url));
     if (owner_ != nullptr)
