@@ -6,6 +6,8 @@
 #include "Quorvan/Toolkit/SearchField.h"
 #include "Quorvan/Toolkit/SearchFilter.h"
 
+#include <QSignalBlocker>
+
 #include <algorithm>
 #include <iterator>
 #include <optional>
@@ -60,6 +62,14 @@ public:
         if (isSearching_)
             table.setSortDescriptor(backupOrder_);
         isSearching_ = !text.empty();
+    }
+
+    /// The rows are about to be read anew: nothing is looked for in them any more, as the field says.
+    void end(SearchField& field) {
+        const QSignalBlocker quiet(&field);
+        field.clear();
+        isSearching_ = false;
+        backup_.clear();
     }
 
 private:

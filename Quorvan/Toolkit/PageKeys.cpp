@@ -12,12 +12,12 @@
 
 namespace quorvan {
 
-void reloadOnRefreshKey(QWidget& page, const PendingLine& pending, std::function<void()> reload) {
+void reloadOnRefreshKey(QWidget& page, const PendingLine* pending, std::function<void()> reload) {
     auto* key = new QShortcut(QKeySequence(QKeySequence::Refresh), &page);
     key->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(key, &QShortcut::activated, &page, [&pending, reload = std::move(reload)] {
+    QObject::connect(key, &QShortcut::activated, &page, [pending, reload = std::move(reload)] {
         NoticeLine::forget();
-        if (pending.texts().isEmpty())
+        if (pending == nullptr || pending->texts().isEmpty())
             reload();
         else
             NoticeLine::tell(NoticeLine::Kind::problem, L("No_Reload_Label"));

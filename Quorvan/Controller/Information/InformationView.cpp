@@ -140,6 +140,7 @@ void InformationViewController::connectControls() {
     connect(selectUnit, &QComboBox::activated, this, [this] { onChangeUnit(); });
     connect(applyButton, &QPushButton::clicked, this, [this] { onApply(); });
     leaveOnBackKey(*closeButton);
+    reloadOnRefreshKey(*this, pendingLine, [this] { readAgain(); });
     connect(closeButton, &QPushButton::clicked, this, [this] { onReturnMainMenu(); });
 }
 

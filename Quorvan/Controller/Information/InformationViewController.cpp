@@ -42,6 +42,13 @@ void InformationViewController::viewDidAppear() {
     directoryQuotaTabView->setFocus();
 }
 
+void InformationViewController::readAgain() {
+    renewController();
+    getOwnerInformation();
+    getFileAttributes();
+    getDirectoryQuota();
+}
+
 void InformationViewController::initInformationTab() {
     renewController();
     getOwnerInformation();

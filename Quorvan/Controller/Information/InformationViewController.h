@@ -86,6 +86,7 @@ public:
 
     void loadStrings();
     void initInformationTab();
+    void readAgain();
     void getOwnerInformation();
     void getFileAttributes();
     void updateOwnerInformation();

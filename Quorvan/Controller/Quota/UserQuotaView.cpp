@@ -103,7 +103,7 @@ void UserQuotaViewController::connectControls() {
     connect(editUQButton, &QPushButton::clicked, this, [this] { onClickEdit(); });
     connect(removeUQButton, &QPushButton::clicked, this, [this] { onClickRemove(); });
     userQuotaTable->setRemoveButton(removeUQButton);
-    reloadOnRefreshKey(*this, *pendingLine, [this] { getUserQuotaInfo(); });
+    reloadOnRefreshKey(*this, pendingLine, [this] { getUserQuotaInfo(); });
     connect(revert, &QPushButton::clicked, this, [this] { onClickRevert(); });
     connect(applyButton, &QPushButton::clicked, this, [this] { onClickApply(); });
     leaveOnBackKey(*closeButton);

@@ -20,6 +20,7 @@ void DirectoryTrusteeViewController::loadView() {
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
     pendingLine = outlet(new PendingLine(this), "pendingLine");
+    reloadOnRefreshKey(*this, pendingLine, [this] { loadAgain(); });
     revertbtn = outlet(new QPushButton(this), "revertbtn");
     applybtn = outlet(new QPushButton(this), "applybtn");
     revertbtn->setToolTip(L("Revert_Tip_Label"));
@@ -59,7 +60,6 @@ void DirectoryTrusteeViewController::buildSides() {
     outlet(removeBtnSub, "removeBtnSub")->setText(L("Remove_title"));
     outlet(removeBtnParent, "removeBtnParent")->setText(L("Remove_Parent_title"));
     subdirTable->setRemoveButton(removeBtnSub);
-    reloadOnRefreshKey(*this, *pendingLine, [this] { loadAgain(); });
     parentdirTable->setRemoveButton(removeBtnParent);
     connect(removeBtnSub, &QPushButton::clicked, this, [this] { removeTrusteeforSubdir(removeBtnSub); });
     connect(removeBtnParent, &QPushButton::clicked, this,

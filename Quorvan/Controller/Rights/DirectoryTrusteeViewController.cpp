@@ -271,6 +271,8 @@ void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
 
 void DirectoryTrusteeViewController::loadAgain() {
     wasRead_ = true;
+    for (Side* side : {&sub_, &parent_})
+        side->search.end(*side->field);
     initSubDirTable();
     initParentDirTable();
 }

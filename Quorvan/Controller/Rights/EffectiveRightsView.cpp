@@ -2,6 +2,7 @@
 // The controls of the effective rights tab and their layout.
 #include "Quorvan/Controller/Rights/EffectiveRightsViewController.h"
 
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/RightsBoxes.h"
 
@@ -18,6 +19,7 @@ void EffectiveRightsViewController::loadView() {
     currentPath = outlet(new PathLabel(this), "currentPath", L("Managed_Path_Label"));
     buildTable();
     buildChosenIdentity();
+    reloadOnRefreshKey(*this, nullptr, [this] { readAgain(); });
     layOutControls();
 }
 

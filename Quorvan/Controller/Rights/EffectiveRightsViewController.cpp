@@ -76,6 +76,17 @@ std::int32_t EffectiveRightsViewController::loadBothIdentities() {
     return status;
 }
 
+void EffectiveRightsViewController::readAgain() {
+    if (!chosenID_.empty()) {
+        domainIdentity = chosenType_;
+        initEffRforUser(chosenID_);
+    }
+    domainIdentity = ServerDetails::serverInfo().getIdentityType();
+    search_.end(*searchField);
+    initEffRightsTable();
+    redisplay();
+}
+
 void EffectiveRightsViewController::redisplay() {
     quorvan::redisplay(*effRightsTable, isSearching, *searchField);
 }
@@ -100,6 +111,8 @@ bool EffectiveRightsViewController::onReturnSelectedUser(const std::vector<std::
 }
 
 void EffectiveRightsViewController::initEffRforUser(const std::string& userID) {
+    chosenID_ = userID;
+    chosenType_ = domainIdentity;
     auto pipe = openPipe(pipes::files);
     if (!pipe)
         return effectiveBoxes->setUnknown();

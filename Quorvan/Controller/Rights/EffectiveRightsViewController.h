@@ -76,7 +76,10 @@ private:
     void layOutControls();
     std::int32_t loadBothIdentities();
     void redisplay();
+    void readAgain();
 
+    std::string chosenID_; ///< whose rights the eight boxes show; empty before the first choice
+    std::string chosenType_;
     RowSearch<std::shared_ptr<Trustees>> search_{
         trusteeList, backupEditedTrusteeList, isSearching, {trusteeNameOf}};
 };

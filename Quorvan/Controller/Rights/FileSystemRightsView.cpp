@@ -87,7 +87,7 @@ void FileSystemRightsViewController::buildButtons() {
     leaveOnBackKey(*cancelBtn);
     connect(cancelBtn, &QPushButton::clicked, this, [this] { onReturnMainMenu(); });
     fsrTable->setRemoveButton(removeBtn);
-    reloadOnRefreshKey(*this, *pendingLine, [this] {
+    reloadOnRefreshKey(*this, pendingLine, [this] {
         if (!selectedTrusteeID.empty())
             reloadChosenIdentity();
     });

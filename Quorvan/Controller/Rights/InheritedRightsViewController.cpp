@@ -5,6 +5,7 @@
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/RightsBoxes.h"
 
@@ -50,6 +51,10 @@ void InheritedRightsViewController::loadView() {
     applyBtn->setToolTip(L("Apply_Tip_Label"));
     connect(revertBtn, &QPushButton::clicked, this, [this] { onRevert(revertBtn); });
     connect(applyBtn, &QPushButton::clicked, this, [this] { onApply(applyBtn); });
+    reloadOnRefreshKey(*this, pendingLine, [this] {
+        if (RightsTabViewController::besides(*this).readAgain())
+            initMainView();
+    });
     layOutControls();
 }
 

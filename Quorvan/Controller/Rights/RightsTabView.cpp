@@ -73,7 +73,7 @@ void RightsTabViewController::layOutControls() {
 
 void RightsTabViewController::connectControls() {
     rightsTable->setRemoveButton(removeBtn);
-    reloadOnRefreshKey(*this, *pendingLine, [this] { loadAgain(); });
+    reloadOnRefreshKey(*this, pendingLine, [this] { loadAgain(); });
     rightsTable->setEnablingRule(
         [this](std::uint16_t bit) { return bit == KelpRights::supervisor ? isSupervisor : canEdit(); });
     rightsTable->setClickHandler([this](const RightsCheckBox& sender) { onMouseClickCheckbox(sender); });

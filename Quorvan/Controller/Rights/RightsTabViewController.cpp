@@ -74,6 +74,11 @@ void RightsTabViewController::initRightsMainView() {
 }
 
 void RightsTabViewController::viewWillAppear() {
+    readAgain();
+}
+
+bool RightsTabViewController::readAgain() {
+    wasRead_ = true;
     showCheck->setChecked(Shared::value().bothID);
     if (showCheck->isChecked())
         onShowBothMorvaneAD(showCheck);
@@ -81,6 +86,7 @@ void RightsTabViewController::viewWillAppear() {
         initRightsTable();
     setTabState();
     redisplay();
+    return wasRead_;
 }
 
 void RightsTabViewController::viewDidAppear() {
@@ -249,6 +255,7 @@ void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
 
 void RightsTabViewController::loadAgain() {
     wasRead_ = true;
+    search_.end(*searchField);
     if (showCheck->isChecked()) {
         onShowBothMorvaneAD(showCheck);
     } else {

@@ -73,6 +73,8 @@ public:
     void initRightsTable();
     /// Loads the trustees of one identity type and adds them to the lists.
     void initRightsTable(const std::string& domain);
+    /// Reads what each visit to the tab reads. False when that could not be read and the page was left.
+    bool readAgain();
     void setTabState();
     void reloadTrusteeList();
     void sortDescriptorsDidChange();

@@ -243,6 +243,22 @@ TEST_F(PagesTest, HandOnWhatTheTablesShow) {
     EXPECT_EQ(rows().size(), before + 1);
     QTest::keyClick(focus(), Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(title(), "Rights Management");
+
+    // Every page that shows what the server has reads it anew, and shows all of it.
+    for (const char* page : {"rights", "inherited", "effective", "folders", "quota", "information"}) {
+        SCOPED_TRACE(page);
+        open(page);
+        const bool hasSearch = isShown("searchField");
+        if (hasSearch)
+            act("type searchField nobody");
+        const std::size_t before = world.server->requests().size();
+        QTest::keyClick(focus(), Qt::Key_F5);
+        EXPECT_GT(world.server->requests().size(), before);
+        if (hasSearch) {
+            EXPECT_EQ(state("searchField"), "");
+        }
+        EXPECT_THAT(alerts(), IsEmpty());
+    }
 }
 
 /// The keyboard, the selection and the place in the list belong to who is in the row, not to its number.
