@@ -3,27 +3,16 @@
 
 #include "Tests/Support/ChildProcess.h"
 #include "Tests/Support/LdapSetting.h"
+#include "Tests/Support/Socket.h"
 
 #include <atomic>
 #include <fstream>
 #include <functional>
 #include <memory>
-#include <thread>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
 #include <poll.h>
-#include <sys/socket.h>
 
 namespace quorvan::test {
-
-inline sockaddr_in socketAddress(const std::string& address, int port) {
-    sockaddr_in where{};
-    where.sin_family = AF_INET;
-    where.sin_port = ::htons(static_cast<std::uint16_t>(port));
-    ::inet_pton(AF_INET, address.c_str(), &where.sin_addr);
-    return where;
-}
 
 /// A domain controller with 2,500 users on a loopback address of its own; the settings of this process's
 /// LDAP and Kerberos clients lead to it.
@@ -73,54 +62,35 @@ private:
     }
 
     void waitUntilItAnswers() const {
-        const sockaddr_in where = socketAddress(address, 636);
-        for (int tries = 0; tries < 1200; ++tries) {
-            const int probe = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-            const int failed = ::connect(probe, reinterpret_cast<const sockaddr*>(&where), sizeof where);
-            ::close(probe);
-            if (failed == 0)
-                return;
+        for (int tries = 0; !Socket().connect(address, 636); ++tries) {
+            if (tries == 1200)
+                throw std::runtime_error("the domain controller does not start");
             ::usleep(100'000);
         }
-        throw std::runtime_error("the domain controller does not start");
     }
 };
 
 /// Passes one TCP connection after the other on to a port, and does something in the middle.
 class Relay {
 public:
-    Relay(std::string address, int port)
-        : address_(std::move(address))
-        , target_(socketAddress(address_, port)) {
-        sockaddr_in own = socketAddress(address_, 0);
-        socklen_t size = sizeof own;
-        ::bind(listener_, reinterpret_cast<const sockaddr*>(&own), size);
-        ::listen(listener_, 8);
-        ::getsockname(listener_, reinterpret_cast<sockaddr*>(&own), &size);
-        port_ = ::ntohs(own.sin_port);
-        thread_ = std::thread([this] { serve(); });
+    Relay(const std::string& address, int port)
+        : uri("ldaps://" + address + ":")
+        , server_([=, this](const Socket& client) { pass(client, address, port); }, address) {
+        uri += std::to_string(server_.port());
     }
     ~Relay() {
         refuse();
         drop();
-        thread_.join();
-        ::close(listener_);
     }
     Relay(const Relay&) = delete;
     Relay& operator=(const Relay&) = delete;
 
-    std::string uri(const std::string& scheme) const {
-        return scheme + "://" + address_ + ":" + std::to_string(port_);
-    }
-
-    /// Lets nobody in any more.
-    void refuse() { ::shutdown(listener_, SHUT_RDWR); }
-
+    /// Lets no further client in.
+    void refuse() const { server_.refuse(); }
     /// Ends the connection there is.
     void drop() { ::shutdown(client_.exchange(-1), SHUT_RDWR); }
 
-    /// How long everything from the server is on its way, in microseconds.
-    std::atomic<unsigned> delay{0};
+    std::string uri;
     /// Bytes from the server, of all connections.
     std::atomic<std::size_t> received{0};
     /// What happens, once, when that many have been passed on.
@@ -128,40 +98,25 @@ public:
     std::function<void()> atLimit;
 
 private:
-    void serve() {
-        for (int client = 0; (client = ::accept(listener_, nullptr, nullptr)) >= 0;) {
-            const int server = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-            client_ = client;
-            if (::connect(server, reinterpret_cast<const sockaddr*>(&target_), sizeof target_) == 0)
-                pass(client, server);
-            client_ = -1;
-            ::close(client);
-            ::close(server);
-        }
-    }
-    void pass(int client, int server) {
-        pollfd ends[] = {{client, POLLIN, 0}, {server, POLLIN, 0}};
-        char buffer[65536];
-        while (::poll(ends, 2, -1) > 0) {
+    void pass(const Socket& client, const std::string& address, int port) {
+        const Socket server;
+        client_ = client.descriptor();
+        pollfd ends[] = {{client.descriptor(), POLLIN, 0}, {server.descriptor(), POLLIN, 0}};
+        for (bool open = server.connect(address, port); open;) {
+            ::poll(ends, 2, -1);
             const bool fromServer = ends[1].revents != 0;
-            ::usleep(fromServer ? delay.load() : 0);
-            const ssize_t size = ::recv(fromServer ? server : client, buffer, sizeof buffer, 0);
-            if (size <= 0 || ::send(fromServer ? client : server, buffer, static_cast<std::size_t>(size),
-                                    MSG_NOSIGNAL) != size)
-                return;
-            if (fromServer && (received += static_cast<std::size_t>(size)) >= limit) {
+            const std::string bytes = (fromServer ? server : client).receive(65536);
+            open = !bytes.empty() && (fromServer ? client : server).send(bytes);
+            if (fromServer && (received += bytes.size()) >= limit) {
                 limit = SIZE_MAX;
                 atLimit();
             }
         }
+        client_ = -1;
     }
 
-    std::string address_;
-    sockaddr_in target_;
-    int listener_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    int port_ = 0;
     std::atomic<int> client_{-1};
-    std::thread thread_;
+    TestServer server_; ///< last, so that it ends first
 };
 
 } // namespace quorvan::test

@@ -1,28 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/LdapDirectory.h"
-#include "Platform/Qt/QtBundle.h"
-#include "Quorvan/Controller/Rights/RightsTabViewController.h"
-#include "Quorvan/Controller/Shell/MainStoryboard.h"
-#include "Quorvan/Controller/Shell/MainWindow.h"
-#include "Simulator/Embedded.h"
+#include "Quorvan/ViewModal/UsersViewModal.h"
 #include "Tests/Support/Fakes.h"
-#include "Tests/Support/LogRecorder.h"
 #include "Tests/System/ActiveDirectoryServer.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTableView>
-#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <set>
 
 namespace quorvan::test {
@@ -36,6 +22,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::UnorderedElementsAre;
+using testing::UnorderedElementsAreArray;
 using Texts = std::vector<std::string>;
 
 const std::string recordName = "dsAttrTypeStandard:RecordName";
@@ -79,10 +66,6 @@ protected:
             names.push_back(record->values(recordName).value().at(0));
         return names;
     }
-    Texts find(const DirectoryQuery& query) {
-        const auto node = client()->openNode(domainNode);
-        return node ? namesOf(node->query(query)) : Texts{"no node"};
-    }
     static std::shared_ptr<DirectoryRecord> one(DirectoryNode& node, const Texts& types,
                                                 const std::string& attribute, const std::string& value) {
         const auto found = node.query({types, attribute, DirectoryMatch::equalTo, {value}});
@@ -119,17 +102,34 @@ TEST_F(ActiveDirectory, ListsMoreThanOnePageOfUsersAndGroupsButNoComputers) {
 }
 
 TEST_F(ActiveDirectory, NeverInterpretsWhatItSearchesFor) {
-    EXPECT_THAT(find({users, recordName, DirectoryMatch::equalTo, {odd}}), ElementsAre(odd));
-    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"ZOË ("}}), ElementsAre(odd));
-    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"*"}}), ElementsAre(odd));
-    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"\\"}}), ElementsAre(odd));
-    EXPECT_THAT(find({both, recordName, DirectoryMatch::contains, {"ser000", "P199"}}),
-                UnorderedElementsAre("group199", "user0000", "user0001", "user0002", "user0003", "user0004",
-                                     "user0005", "user0006", "user0007", "user0008", "user0009"));
-    for (const char* text : {"user0000)(|(objectClass=*", "*)(sAMAccountName=*", "\\2a", "user*", "*)", ""})
-        EXPECT_THAT(find({both, recordName, DirectoryMatch::equalTo, {text}}), IsEmpty()) << text;
-    EXPECT_THAT(find({both, "dsAttrTypeNative:cn=*)(cn", DirectoryMatch::equalTo, {"user0000"}}), IsEmpty());
-    EXPECT_THAT(find({both, smbSid, DirectoryMatch::equalTo, {"*", "S-1-5-21", ""}}), IsEmpty());
+    const struct {
+        Texts types;
+        std::string attribute;
+        DirectoryMatch match;
+        Texts values, found;
+    } cases[] = {
+        {users, recordName, DirectoryMatch::equalTo, {odd}, {odd}},
+        {both, recordName, DirectoryMatch::contains, {"ZOË ("}, {odd}},
+        {both, recordName, DirectoryMatch::contains, {"*"}, {odd}},
+        {both, recordName, DirectoryMatch::contains, {"\\"}, {odd}},
+        {both,
+         recordName,
+         DirectoryMatch::contains,
+         {"ser001", "P199"},
+         {"user0010", "user0011", "user0012", "user0013", "user0014", "user0015", "user0016", "user0017",
+          "user0018", "user0019", "group199"}},
+        {both,
+         recordName,
+         DirectoryMatch::equalTo,
+         {"user0000)(|(objectClass=*", "*)(sAMAccountName=*", "\\2a", "user*", "*)", ""},
+         {}},
+        {both, "dsAttrTypeNative:cn=*)(cn", DirectoryMatch::equalTo, {"user0000"}, {}},
+        {both, smbSid, DirectoryMatch::equalTo, {"*", "S-1-5-21", ""}, {}},
+    };
+    const auto node = client()->openNode(domainNode);
+    for (const auto& [types, attribute, match, values, found] : cases)
+        EXPECT_THAT(namesOf(node->query({types, attribute, match, values})), UnorderedElementsAreArray(found))
+            << testing::PrintToString(values);
     EXPECT_THAT(log, IsEmpty());
 }
 
@@ -212,14 +212,16 @@ TEST_F(ActiveDirectory, LetsTheTicketInWithoutPassword) {
     ::setenv("KRB5CCNAME", tickets.c_str(), 1);
     keychain->server = "";
     const LdapSetting uri(LDAP_OPT_URI, controller->uri("ldap"));
-    EXPECT_EQ(find({users, recordName, DirectoryMatch::any, {}, 1001}).size(), 1001U);
+    const auto node = client()->openNode(domainNode);
+    ASSERT_NE(node, nullptr);
+    EXPECT_EQ(node->query({users, recordName, DirectoryMatch::any, {}, 1001}).value().size(), 1001U);
     ::setenv("KRB5CCNAME", controller->file("tickets").c_str(), 1);
     EXPECT_THAT(log, IsEmpty());
 }
 
 TEST_F(ActiveDirectory, OpensDroppedConnectionsAnew) {
     Relay relay(controller->address, 636);
-    const LdapSetting uri(LDAP_OPT_URI, relay.uri("ldaps"));
+    const LdapSetting uri(LDAP_OPT_URI, relay.uri);
     const auto directory = client();
     const auto node = directory->openNode(domainNode);
     ASSERT_NE(node, nullptr);
@@ -236,7 +238,7 @@ TEST_F(ActiveDirectory, OpensDroppedConnectionsAnew) {
 TEST_F(ActiveDirectory, EndsFetchWhenTheServerStopsInItsMiddle) {
     const DirectoryQuery everybody{users, recordName, DirectoryMatch::any, {}};
     Relay relay(controller->address, 636);
-    const LdapSetting uri(LDAP_OPT_URI, relay.uri("ldaps"));
+    const LdapSetting uri(LDAP_OPT_URI, relay.uri);
     const auto directory = client(std::chrono::seconds(20));
     const auto node = directory->openNode(domainNode);
     ASSERT_NE(node, nullptr);
@@ -255,139 +257,40 @@ TEST_F(ActiveDirectory, EndsFetchWhenTheServerStopsInItsMiddle) {
     controller->start();
 }
 
-double seconds(const std::function<void()>& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-double median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + 1, values.end());
-    return values.at(1);
-}
-
-TEST_F(ActiveDirectory, ListsUsersAsFastAsTheCommandLine) {
-    const std::string command =
-        "ldapsearch -x -LLL -o ldif-wrap=no -E pr=1000/noprompt -D administrator@quorvan.test -w " +
-        std::string(DomainController::password) +
-        " '(&(objectCategory=person)(objectClass=user))' sAMAccountName objectSid objectClass > /dev/null";
-    std::vector<double> theirs;
-    std::vector<double> ours;
-    for (int round = 0; round < 3; ++round) {
-        theirs.push_back(seconds([&] { EXPECT_EQ(run({"sh", "-c", command}), 0); }));
-        ours.push_back(seconds([&] { find({users, recordName, DirectoryMatch::any, {}}); }));
-    }
-    std::printf("listing 2500 users: %.0f ms, ldapsearch %.0f ms, ratio %.2f\n", 1e3 * median(ours),
-                1e3 * median(theirs), median(ours) / median(theirs));
-}
-
 TEST_F(ActiveDirectory, ResolvesManyIdentifiersAtOnce) {
     Texts sids;
     const auto records =
-        client()->openNetworkNode()->query({users, recordName, DirectoryMatch::any, {}, 1000});
+        client()->openNetworkNode()->query({users, recordName, DirectoryMatch::any, {}, 250});
     for (const auto& record : records.value())
         sids.push_back(record->values(smbSid).value().at(0));
     Relay relay(controller->address, 636);
-    const LdapSetting uri(LDAP_OPT_URI, relay.uri("ldaps"));
-    ASSERT_EQ(sids.size(), 1000U);
-    const auto resolve = [&](bool atOnce) {
-        const auto directory = client();
-        const auto node = directory->openNetworkNode();
-        if (atOnce)
-            directory->prefetch(sids);
-        const std::size_t received = relay.received;
-        for (const std::string& sid : sids)
-            EXPECT_NE(one(*node, both, smbSid, sid), nullptr);
-        EXPECT_EQ(relay.received == received, atOnce);
-    };
-    for (const unsigned delay : {0U, 5000U}) {
-        relay.delay = delay;
-        const double together = seconds([&] { resolve(true); });
-        const double oneByOne = seconds([&] { resolve(false); });
-        std::printf(
-            "resolving 1000 identifiers over a line of %u ms: %.0f ms, one by one %.0f ms, %.1f times "
-            "faster\n",
-            delay / 1000, 1e3 * together, 1e3 * oneByOne, oneByOne / together);
-    }
+    const LdapSetting uri(LDAP_OPT_URI, relay.uri);
+    const auto directory = client();
+    const auto node = directory->openNetworkNode();
+    directory->prefetch(sids);
+    const std::size_t received = relay.received;
+    for (const std::string& sid : sids)
+        EXPECT_NE(one(*node, both, smbSid, sid), nullptr);
+    EXPECT_EQ(relay.received, received) << "what was fetched is not asked for again";
     EXPECT_THAT(log, IsEmpty());
 }
 
-/// A control of the sheet in front, or of the window when there is none.
-template <class Control>
-Control* control(const MainWindow& window, const char* name) {
-    const QWidget* sheet = QApplication::activeModalWidget();
-    for (auto* each : (sheet != nullptr ? sheet : &window)->findChildren<Control*>(name))
-        if (each->isVisible())
-            return each;
-    throw std::runtime_error(name);
-}
-
-TEST_F(ActiveDirectory, MakesAnOddlyNamedUserATrusteeThroughTheWindow) {
-    int count = 1;
-    char name[] = "active_directory_tests";
-    char* arguments[] = {name, nullptr};
-    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    const QApplication application(count, arguments);
-    const auto user = one(*client()->openNetworkNode(), users, recordName, odd);
-    ASSERT_NE(user, nullptr);
-    const std::string sid = user->values(smbSid).value().at(0);
-    auto world = simulator::Embedded::demo();
-    world.identities->addDomainUser(odd, sid);
-    const auto rights = [&] {
-        for (const auto& entry : world.server->trustees(simulator::demo::selection))
-            if (entry.identity->id == sid)
-                return static_cast<int>(entry.rights);
-        return -1;
-    };
-
-    const auto alerts = std::make_shared<RecordingAlerts>();
-    Services services = world.services();
-    services.directory = client();
-    services.bundle = std::make_shared<QtBundle>(QStringLiteral(FEATURES));
-    services.alerts = alerts;
-    const ScopedServices installed(services);
-    const LogRecorder quiet;
-    fillMainStoryboard();
-    MainWindow window;
-    window.load();
-    window.present();
-    const auto click = [&](const char* button) {
-        QTest::mouseClick(control<QPushButton>(window, button), Qt::LeftButton);
-    };
-    const auto pick = [&](const char* name, const QString& item) {
-        auto* popUp = control<QComboBox>(window, name);
-        while (popUp->currentText() != item && popUp->currentIndex() + 1 < popUp->count())
-            QTest::keyClick(popUp, Qt::Key_Down);
-    };
-
-    click("TrusteeRightsView");
-    click("addBtn");
-    pick("userTypePopUp", "Users");
-    pick("domainPopUp", "/Active Directory/QUORVAN");
-    click("btnFetch");
-    auto* list = control<QTableView>(window, "userListTable");
-    EXPECT_GT(list->model()->rowCount(), 2500);
-    auto* search = control<QLineEdit>(window, "searchField");
-    QTest::keyClicks(search, " (Q*X\\y");
-    QTest::keyClick(search, Qt::Key_Return);
-    ASSERT_EQ(list->model()->rowCount(), 1);
-    const QModelIndex found = list->model()->index(0, 0);
-    EXPECT_EQ(found.data().toString().toStdString(), odd);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(found).center());
-    click("selectButton");
-    EXPECT_EQ(rights(), -1) << "nothing is sent before Apply";
-    click("applyBtn");
-    EXPECT_EQ(rights(), 0x41);
-
-    const auto* tab =
-        dynamic_cast<RightsTabViewController*>(control<QPushButton>(window, "addBtn")->parent());
-    ASSERT_NE(tab, nullptr);
-    const auto& trustee = *tab->trusteeList.back();
-    EXPECT_EQ(trustee.trusteeName, odd);
-    EXPECT_EQ(trustee.trusteeID, sid);
-    EXPECT_EQ(trustee.trusteeType, "Users") << "which only the directory knows";
-    EXPECT_THAT(alerts->shown, testing::IsEmpty());
-    EXPECT_THAT(log, testing::IsEmpty());
+/// The look-ups that the views make, as the program's own functions make them.
+TEST_F(ActiveDirectory, TellsTheProgramWhoAnIdentityIs) {
+    const FakeWorld world;
+    Services changed = services();
+    changed.directory = client();
+    const ScopedServices installed(changed);
+    const DirectoryLookup lookup;
+    const std::string sid = lookup.getSidforObject(odd, "Users", recordName);
+    EXPECT_THAT(sid, testing::StartsWith("S-1-5-21-"));
+    EXPECT_EQ(lookup.lookupAttrValueFromID(sid, recordName), odd);
+    EXPECT_EQ(lookup.lookupAttrValueFromID(sid, kODAttributeTypePrimaryNTDomain), "QUORVAN");
+    Trustees trustee("", sid, 0, "", "", "ActiveDirectory");
+    lookup.setTrusteeTypeforTrustee(trustee);
+    EXPECT_EQ(trustee.trusteeType, "Users");
+    EXPECT_EQ(lookup.getSidforObject(odd, "Groups", recordName), "");
+    EXPECT_THAT(log, IsEmpty());
 }
 
 } // namespace

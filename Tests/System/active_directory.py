@@ -16,7 +16,7 @@ PASSWORD = "Pl3nty-0f-s3crets"
 ODD = "Zoë (q*x\\y)"
 
 if sys.argv[1] == "--obstacle":
-    missing = [program for program in ("samba", "samba-tool", "openssl", "ldapsearch", "kinit")
+    missing = [program for program in ("samba", "samba-tool", "openssl", "kinit")
                if not any(os.access(f"{folder}/{program}", os.X_OK) for folder in ("/usr/bin", "/usr/sbin"))]
     if not os.path.exists("/usr/share/samba/setup/ad-schema"):
         missing.append("samba-ad-provision")

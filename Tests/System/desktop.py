@@ -90,6 +90,17 @@ class Screen:
         xtest.fake_input(self.display, X.ButtonRelease, 1)
         self.display.sync()
 
+    def type(self, *keys):
+        """Presses keys by their X names, in the window under the pointer."""
+        from Xlib import X, XK
+        from Xlib.ext import xtest
+
+        for key in keys:
+            code = self.display.keysym_to_keycode(XK.string_to_keysym(key))
+            xtest.fake_input(self.display, X.KeyPress, code)
+            xtest.fake_input(self.display, X.KeyRelease, code)
+        self.display.sync()
+
     def close_window(self, title):
         """What the close button of a title bar does."""
         from Xlib import X
@@ -182,7 +193,8 @@ class View:
         from gi.repository import Atspi
 
         box = control.get_extents(Atspi.CoordType.SCREEN)
-        self.screen.click(box.x + box.width // 2, box.y + box.height // 2)
+        middle = 8 if control.get_role_name() == "check box" else box.width // 2
+        self.screen.click(box.x + middle, box.y + box.height // 2)
 
     def cell(self, row, column):
         return self.wait_for("table").get_table_iface().get_accessible_at(row, column)

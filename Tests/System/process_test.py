@@ -149,10 +149,23 @@ class ProcessTest(unittest.TestCase):
     def press(self, name):
         self.view.click(self.view.wait_for("push button", name))
 
+    def apply(self):
+        until(lambda: self.view.is_enabled("push button", "Apply"), "Apply to be enabled")
+        self.press("Apply")
+        until(lambda: not self.view.is_enabled("push button", "Apply"), "Apply to be done")
+
     def answer_alert(self, text):
         self.view.wait_for("label", text)
         self.press("OK")
         until(lambda: self.view.find("label", text) is None, "the alert to go")
+
+    def open_tab(self, name):
+        self.view.click(self.view.wait_for("page tab", name))
+
+    def limits_on_server(self):
+        """SID and limit of the users of Active Directory that have one."""
+        rows = (line.split("\t")[:2] for line in self.server.kelp.ask("user-quotas", "VOL1").decode().splitlines())
+        return [row for row in rows if row[0].startswith("S-1-") and row[1] != str(2**63 - 1)]
 
     def trustees_on_server(self):
         return self.server.trustees(PATH)
@@ -203,9 +216,7 @@ class ProcessTest(unittest.TestCase):
         until(lambda: self.trustees_on_screen()[row] == ticked, "the tick")
         self.view.wait_for("push button", "1 change waits for Apply")
         self.assertEqual(self.trustees_on_server(), before, "nothing is sent before Apply")
-        until(lambda: self.view.is_enabled("push button", "Apply"), "Apply to be enabled")
-        self.press("Apply")
-        until(lambda: not self.view.is_enabled("push button", "Apply"), "Apply to be done")
+        self.apply()
         until(lambda: self.view.find("label", "Applied *"), "the outcome")
         after = before[:row] + [("Finance", 0x0043)] + before[row + 1 :]
         self.assertEqual(sorted(self.trustees_on_server()), sorted(after))
@@ -239,6 +250,45 @@ class ProcessTest(unittest.TestCase):
         mode = self.log.stat().st_mode & 0o777
         self.assertEqual(mode, 0o600, "the log holds requests and replies of the server's management")
 
+    def test_filter_directories_and_quotas_have_pipes_of_their_own(self):
+        self.keyring.store(ADDRESS, USER, PASSWORD)
+        self.start(ADDRESS)
+        self.press("Trustee Rights")
+        self.open_tab("Effective Rights")
+        until(lambda: ("lea.fournier", 0x0041) in self.trustees_on_screen(), "her rights")
+        self.open_tab("Inherited Rights Filter")
+        self.view.click(self.view.wait_for("check box", "Read"))
+        self.apply()
+        self.assertNotIn(b"read", self.server.kelp.ask("filter", PATH))
+        self.open_tab("Effective Rights")
+        until(lambda: ("lea.fournier", 0x0040) in self.trustees_on_screen(), "what the filter leaves")
+        self.open_tab("Trustee Directories")
+        until(lambda: self.view.find("table") and self.view.cell(0, 1).get_name() == PATH, "the directories")
+        names = [name for name, _ in self.view.rows()]
+        self.assertEqual(names[: len(self.trustees_on_server())], [name for name, _ in self.trustees_on_server()])
+        self.press("Close")
+
+        self.press("User Quota")
+        limits = self.limits_on_server()
+        until(lambda: len(self.view.rows()) == len(limits), "the users")
+        self.view.click(self.view.cell(1, 0))
+        self.press("Edit…")
+        self.view.click(self.view.wait_for("text", "Limit for each of them:"))
+        self.screen.type(*["BackSpace"] * 9, "7")
+        self.press("OK")
+        until(lambda: self.view.cell(0, 1).get_name() == "7 GB", "the new limit, in front")
+        self.view.click(self.view.cell(4, 0))
+        self.press("Remove")
+        self.assertEqual(self.limits_on_server(), limits, "nothing is sent before Apply")
+        self.apply()
+        limits[1][1] = str(7 << 30)
+        del limits[4]
+        self.assertEqual(self.limits_on_server(), limits)
+        until(lambda: len(self.view.rows()) == len(limits), "the list without the one removed")
+        self.close("User Quota")
+        until(lambda: self.server.sessions() == "0 0", "the sessions to end")
+        self.log_texts()
+
     def test_a_link_leads_to_another_server(self):
         if not can_serve(LINK_TARGET):
             self.skipTest(f"port 445 of {LINK_TARGET} is taken")
@@ -257,8 +307,7 @@ class ProcessTest(unittest.TestCase):
         asked = self.server.kelp.ask("requests")
         row = [name for name, _ in before].index("External Partners")
         self.view.click(self.view.cell(row, 2))  # R
-        until(lambda: self.view.is_enabled("push button", "Apply"), "Apply to be enabled")
-        self.press("Apply")
+        self.apply()
         until(lambda: ("External Partners", 0x0041) in target.trustees(target_path), "the change")
         until(lambda: sorted(self.trustees_on_screen()) == sorted(target.trustees(target_path)), "the new table")
         self.assertEqual(self.server.kelp.ask("requests"), asked, "from now on the target is asked directly")
