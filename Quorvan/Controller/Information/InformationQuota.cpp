@@ -11,6 +11,7 @@
 #include "Quorvan/Toolkit/ValueField.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -40,14 +41,15 @@ int percentOf(std::int64_t part, std::int64_t whole) {
 
 } // namespace
 
-void InformationViewController::getDirectoryQuota() {
+bool InformationViewController::getDirectoryQuota() {
     if (const auto status = read(dirQuota, &XMLReadWriteController::getDirectoryQuotaHandleDFS);
         status != 0) {
         logMissingCredentials(status);
         reportFailed(status);
-    } else {
-        updateDirectoryQuota();
+        return false;
     }
+    updateDirectoryQuota();
+    return true;
 }
 
 void InformationViewController::updateDirectoryQuota() {
@@ -67,16 +69,20 @@ void InformationViewController::updateDirectoryQuota() {
     } else {
         dirQuotaLimit->setText(L(isUnlimited ? "User_Quota_Unlimited" : "User_Quota_Not_Set"));
         dirQuotaAvailable->setText(L("User_Quota_Maximum"));
+        showUsage(std::nullopt);
     }
     dirQuotaUsed->setText(byteCount(used));
-    quotaBar->setVisible(isFinite);
     setLimitEditable(false);
 }
 
-void InformationViewController::showUsage(int percent) {
-    quotaBar->setValue(std::min(percent, quotaBar->maximum()));
-    quotaBar->setFormat(percent > quotaBar->maximum() ? L("Quota_Exceeded_Label")
-                                                      : L("Quota_Usage_Label").arg(percent));
+void InformationViewController::showUsage(std::optional<int> percent) {
+    const bool isOver = percent > quotaBar->maximum();
+    quotaBar->setVisible(percent.has_value());
+    overLimitIcon->setVisible(isOver);
+    if (!percent)
+        return;
+    quotaBar->setValue(std::min(*percent, quotaBar->maximum()));
+    quotaBar->setFormat(isOver ? L("Quota_Exceeded_Label") : L("Quota_Usage_Label").arg(*percent));
 }
 
 void InformationViewController::setLimitEditable(bool editable) {
@@ -108,8 +114,20 @@ void InformationViewController::onClickEditQuota(QObject* sender) {
     setApplyEnabled(true);
 }
 
+void InformationViewController::leaveLimitEditing() {
+    if (dirQuotaLimit->isReadOnly())
+        return;
+    showKnownQuota();
+    setLimitEditable(false);
+    applyDirQuota = false;
+    editLimitBtn->setEnabled(isSupervisor);
+    editLimitBtn->setFocus();
+    setApplyEnabled(applyAttrs || applyOwner);
+}
+
 void InformationViewController::onClickRemove() {
     dirQuotaLimit->setText(L("User_Quota_Not_Set"));
+    showUsage(std::nullopt);
     applyDirQuota = true;
     removeQuota = true;
     setApplyEnabled(true);
@@ -141,20 +159,26 @@ std::string InformationViewController::getQuotaLimit() {
     return {};
 }
 
-void InformationViewController::applyQuotaLimit() {
+bool InformationViewController::applyQuotaLimit(Outcome& outcome) {
     const std::string limit = getQuotaLimit();
     if (!limit.empty()) {
         editedDirQuota.quotaAmount = limit;
         setDirectoryQuota();
         if (isLost())
-            return;
+            return false;
         showKnownQuota();
-        getDirectoryQuota();
+        outcome.isKnown = getDirectoryQuota() && outcome.isKnown;
+        const std::string now = dirQuota.quotaAmount.value_or("");
+        const bool isMade = now == limit || (removeQuota && now == DirectoryQuotaConstants::NOT_SET);
+        outcome.sent.push_back({"limit", PendingChange::Kind::changed, plainL("Quota_Change_Label"), {}, 1});
+        outcome.now["limit"] = isMade ? 1 : 0;
     } else {
         showKnownQuota();
+        outcome.isKnown = false; // the user has been told why nothing was sent
     }
     applyDirQuota = false;
     removeQuota = false;
+    return true;
 }
 
 /// What was typed must not stay on show as if it were the limit, unless the server says so.

@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -92,6 +94,10 @@ QWidget* InformationViewController::buildQuota() {
     dirQuotaAvailable = outlet(new ValueField(tab), "dirQuotaAvailable", plainL("Available_Label"));
     quotaBar = outlet(new QProgressBar(tab), "quotaBar", L("Quota_Bar_Label"));
     quotaBar->hide();
+    overLimitIcon = outlet(new QLabel(tab), "overLimitIcon");
+    const int edge = fontMetrics().height();
+    overLimitIcon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(edge, edge));
+    overLimitIcon->hide();
     QSizePolicy keepingPlace = selectUnit->sizePolicy();
     keepingPlace.setRetainSizeWhenHidden(true);
     selectUnit->setSizePolicy(keepingPlace);
@@ -110,7 +116,10 @@ QWidget* InformationViewController::buildQuota() {
     grid->addWidget(dirQuotaUsed, 1, 1);
     grid->addWidget(availableQuotaLable, 2, 0);
     grid->addWidget(dirQuotaAvailable, 2, 1);
-    grid->addWidget(quotaBar, 3, 1);
+    auto* usage = new QHBoxLayout;
+    usage->addWidget(overLimitIcon);
+    usage->addWidget(quotaBar, 1);
+    grid->addLayout(usage, 3, 1);
     grid->setRowStretch(4, 1);
     return tab;
 }
@@ -137,6 +146,9 @@ void InformationViewController::connectControls() {
     connect(removeLimitBtn, &QPushButton::clicked, this, [this] { onClickRemove(); });
     connect(dirQuotaLimit, &QLineEdit::textEdited, this, [this] { onChangeQuotaLimit(dirQuotaLimit); });
     connect(dirQuotaLimit, &QLineEdit::returnPressed, applyButton, [this] { applyButton->click(); });
+    for (QWidget* field : {static_cast<QWidget*>(dirQuotaLimit), static_cast<QWidget*>(selectUnit)})
+        connect(new QShortcut(Qt::Key_Escape, field, nullptr, nullptr, Qt::WidgetShortcut),
+                &QShortcut::activated, this, [this] { leaveLimitEditing(); });
     connect(selectUnit, &QComboBox::activated, this, [this] { onChangeUnit(); });
     connect(applyButton, &QPushButton::clicked, this, [this] { onApply(); });
     leaveOnBackKey(*closeButton);

@@ -78,11 +78,14 @@ std::int32_t InformationViewController::send(const std::function<void()>& reques
     return xmlController->loss();
 }
 
-void InformationViewController::getOwnerInformation() {
-    if (const auto status = read(ownerInfo, &XMLReadWriteController::getFileInfoOwnerHandleDFS); status != 0)
+bool InformationViewController::getOwnerInformation() {
+    if (const auto status = read(ownerInfo, &XMLReadWriteController::getFileInfoOwnerHandleDFS);
+        status != 0) {
         reportFailed(status);
-    else
-        updateOwnerInformation();
+        return false;
+    }
+    updateOwnerInformation();
+    return true;
 }
 
 void InformationViewController::updateOwnerInformation() {
@@ -104,12 +107,14 @@ void InformationViewController::showOwner(const std::string& name, const std::st
     ownerIcon->setVisible(!name.empty());
 }
 
-void InformationViewController::getFileAttributes() {
+bool InformationViewController::getFileAttributes() {
     if (const auto status = read(fileAttributes, &XMLReadWriteController::getAttributesHandleDFS);
-        status != 0)
+        status != 0) {
         reportFailed(status);
-    else
-        updateFileAttributes();
+        return false;
+    }
+    updateFileAttributes();
+    return true;
 }
 
 void InformationViewController::updateFileAttributes() {
@@ -254,34 +259,52 @@ void InformationViewController::showPending() {
 }
 
 void InformationViewController::onApply() {
-    const std::string tags = attributeTags();
+    Outcome outcome;
     // What the connection is lost in stays pending, and so does all that comes after it.
-    if (applyAttrs) {
-        setFileAttributes(tags);
-        if (isLost())
-            return;
-        getFileAttributes();
-        applyAttrs = false;
-        if (isLost())
-            return;
-    }
-    if (applyOwner) {
-        setOwner();
-        if (isLost())
-            return;
-        getOwnerInformation();
-        applyOwner = false;
-        if (isLost())
-            return;
-    }
-    if (applyDirQuota)
-        applyQuotaLimit();
-    if (applyDirQuota)
+    if (applyAttrs && !applyAttributes(outcome))
+        return;
+    if (applyOwner && !applyNewOwner(outcome))
+        return;
+    if (applyDirQuota && !applyQuotaLimit(outcome))
         return;
     setApplyEnabled(false);
     if (isSupervisor)
         editLimitBtn->setEnabled(true);
     setLimitEditable(false);
+    if (outcome.isKnown)
+        tellOutcome(outcome.sent, outcome.now);
+}
+
+bool InformationViewController::applyAttributes(Outcome& outcome) {
+    const auto isIn = [](const std::vector<std::string>& names, const char* name) {
+        return std::ranges::find(names, name) != names.end();
+    };
+    const std::vector<std::string> before = fileAttributes.attributes.value_or(std::vector<std::string>());
+    for (const AttributeBox& each : attributeBoxes)
+        if (const bool on = isIn(editedFileAttributes, each.attribute); on != isIn(before, each.attribute))
+            outcome.sent.push_back(
+                {each.attribute, PendingChange::Kind::changed, plainL(each.titleKey), {}, on ? 1 : 0});
+    setFileAttributes(attributeTags());
+    if (isLost())
+        return false;
+    outcome.isKnown = getFileAttributes() && outcome.isKnown;
+    applyAttrs = false;
+    for (const AttributeBox& each : attributeBoxes)
+        outcome.now[each.attribute] = isIn(editedFileAttributes, each.attribute) ? 1 : 0;
+    return !isLost();
+}
+
+bool InformationViewController::applyNewOwner(Outcome& outcome) {
+    const Owner wanted = editedOwner;
+    setOwner();
+    if (isLost())
+        return false;
+    outcome.isKnown = getOwnerInformation() && outcome.isKnown;
+    applyOwner = false;
+    const bool isOwner = ownerInfo.id == wanted.ownerID || ownerInfo.name == wanted.ownerName;
+    outcome.sent.push_back({"owner", PendingChange::Kind::changed, plainL("Owner_Change_Label"), {}, 1});
+    outcome.now["owner"] = isOwner ? 1 : 0;
+    return !isLost();
 }
 
 void InformationViewController::setApplyEnabled(bool enabled) {

@@ -7,7 +7,9 @@
 #include "Quorvan/Toolkit/ViewController.h"
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class QCheckBox;
@@ -60,6 +62,7 @@ public:
     QLabel* availableQuotaLable = nullptr;
     ValueField* dirQuotaAvailable = nullptr;
     QProgressBar* quotaBar = nullptr; ///< only there with a limit
+    QLabel* overLimitIcon = nullptr;  ///< beside a bar that says so
     QPushButton* closeButton = nullptr;
     QPushButton* applyButton = nullptr;
     PendingLine* pendingLine = nullptr; ///< what waits for Apply
@@ -87,8 +90,9 @@ public:
     void loadStrings();
     void initInformationTab();
     void readAgain();
-    void getOwnerInformation();
-    void getFileAttributes();
+    /// These three read and show; false, and an alert, when that failed.
+    bool getOwnerInformation();
+    bool getFileAttributes();
     void updateOwnerInformation();
     void updateFileAttributes();
     void clearFileAttributes();
@@ -96,7 +100,7 @@ public:
     void updateButtonState(const std::string& attribute, const QCheckBox* checkbox);
     /// What is read only can be neither renamed nor deleted.
     void disableRenameDeleteChk(const QCheckBox* sender);
-    void getDirectoryQuota();
+    bool getDirectoryQuota();
     void updateDirectoryQuota();
     void onClickEditQuota(QObject* sender);
     void onClickRemove();
@@ -136,11 +140,23 @@ private:
     void setOwner();
     void setDirectoryQuota();
     std::string attributeTags() const;
-    void applyQuotaLimit();
+    /// What an Apply has sent and what was read afterwards, until the user is told.
+    struct Outcome {
+        std::vector<PendingChange> sent;
+        std::unordered_map<std::string, std::int64_t> now;
+        bool isKnown = true; ///< everything was read afterwards
+    };
+    /// Send one kind of change and read it again. False when the connection was lost.
+    bool applyAttributes(Outcome& outcome);
+    bool applyNewOwner(Outcome& outcome);
+    bool applyQuotaLimit(Outcome& outcome);
     void showKnownQuota();
     void takeOwner(const std::string& name, const std::string& id);
     void showOwner(const std::string& name, const std::string& id);
-    void showUsage(int percent);
+    /// Nothing without a limit.
+    void showUsage(std::optional<int> percent);
+    /// Escape: the limit is what it was.
+    void leaveLimitEditing();
     void setLimitEditable(bool editable);
     void setApplyEnabled(bool enabled);
 };

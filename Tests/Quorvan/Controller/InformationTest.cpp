@@ -60,6 +60,7 @@ TEST_F(InformationTest, SendsTheAttributesThatAreOnTwice) {
     EXPECT_THAT(changes(), IsEmpty()) << "closing drops what was not applied";
     // What the server refuses comes back as it was, with the boxes that it implies.
     EXPECT_EQ(openFile(demo::readOnly).act("readChk, applyButton").state(boxes), "on, on, on grey, on grey");
+    EXPECT_EQ(value("noticeText"), "Not_Applied_Label");
     EXPECT_THAT(alerts(), IsEmpty());
 }
 
@@ -88,6 +89,7 @@ TEST_F(InformationTest, TakesTheOwnerFromEitherDirectory) {
         EXPECT_THAT(act("applyButton").changes(), ElementsAre(owner.id));
         EXPECT_EQ(node(demo::fileOfNobody).owner, owner.id);
         EXPECT_EQ(state("ownerField applyButton"), owner.name + ", grey");
+        EXPECT_EQ(value("noticeText"), "Applied_Label");
         EXPECT_THAT(act("hideChk, applyButton").changes(), SizeIs(1)) << "the owner is not sent again";
     }
     Shared::value().bothID = false;
@@ -129,6 +131,8 @@ TEST_F(InformationTest, ShowsLimitsOfEveryKind) {
         EXPECT_EQ(open("information").state("dontCompressChk"), "off grey") << "it is a folder";
         EXPECT_EQ(act("tab 1").state("dirQuotaLimit dirQuotaUsed dirQuotaAvailable"), each.shown);
         EXPECT_EQ(isShown("quotaBar") ? value("quotaBar", "format") : "", each.bar);
+        EXPECT_EQ(isShown("overLimitIcon"), *each.bar == 'Q');
+        EXPECT_FALSE(act("removeLimitBtn").isShown("quotaBar")) << "there will be no limit to fill";
     }
     select("VOL1/Projects/Aurora");
     std::filesystem::remove_all(*world.volumes->folderOf("VOL1") / "Projects");
@@ -154,6 +158,14 @@ TEST_F(InformationTest, SendsALimitInBytes) {
     for (const auto& [text, unit, bytes, shown] : limits) {
         EXPECT_EQ(applyLimit(text, unit).value("dirQuotaLimit"), shown);
         EXPECT_THAT(changes(), ElementsAre(bytes));
+        EXPECT_EQ(value("noticeText"), *text == '-' ? "Not_Applied_Label" : "Applied_Label");
+    }
+    for (const char* field : {"dirQuotaLimit", "selectUnit"}) { // Escape takes the edit back
+        act(std::string("editLimitBtn, type dirQuotaLimit 9"));
+        control(field).setFocus();
+        QTest::keyClick(focus(), Qt::Key_Escape);
+        EXPECT_EQ(state(entry) + ' ' + focus()->objectName().toStdString(),
+                  "3 GB, hidden, grey editLimitBtn");
     }
     for (const char* text : {"", "1.5", "10 GB", "   ", "0x10", "9223372036854775808"}) {
         EXPECT_EQ(applyLimit(text, "GB").dismissAlert(), "Invalid_Quota_Limit") << text;
