@@ -9,6 +9,7 @@
 #include "Quorvan/Controller/Shell/MainWindow.h"
 #include "Quorvan/LogFile.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/TerminationSignals.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -113,9 +115,16 @@ void AppDelegate::addMenus() {
     QMenuBar* bar = window_->menuBar();
     bar->addMenu(L("Application_Menu_Label"))->addAction(QuitQuorvan);
     Help->addAction(QuorvanHelp);
+    Help->addAction(L("Show_Log_title"), this, [] { showLogFile(); });
     Help->addSeparator();
     Help->addAction(AboutQuorvan);
     bar->addMenu(Help);
+}
+
+void AppDelegate::showLogFile() {
+    const QString file = QString::fromStdString(logFile());
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
+        NoticeLine::tell(NoticeLine::Kind::problem, L("No_Log_Viewer_Label").arg(file));
 }
 
 int AppDelegate::run() {

@@ -58,6 +58,8 @@ public:
     void applicationWillTerminate();
 
 private:
+    /// In whatever program the desktop opens texts with.
+    static void showLogFile();
     void buildMenuItems();
     void addMenus();
 

@@ -140,7 +140,7 @@ ProtocolAnswer Conversation::close(const Arguments&, std::string_view) {
 }
 
 ProtocolAnswer Conversation::mount(const Arguments& arguments, std::string_view) {
-    return failure(host_.server.checkMount(arguments[0], arguments[1], arguments[2]));
+    return failure(host_.server.checkMount({arguments[0], arguments[1]}, arguments[2]));
 }
 
 ProtocolAnswer Conversation::accounts(const Arguments&, std::string_view) {

@@ -61,30 +61,28 @@ std::string KelpServer::handle(std::string_view pipeFile, std::string_view user,
     if (requests_.size() == keptRequests)
         requests_.erase(requests_.begin(), requests_.begin() + keptRequests / 2);
     requests_.push_back({std::string(pipeFile), std::string(user), std::string(request)});
-    if (!misbehaviour.appliesTo(pipeFile))
-        return answer(pipeFile, user, request, std::nullopt);
-    if (request.find(misbehaviour.onlyWith) == std::string_view::npos)
-        return answer(pipeFile, user, request, std::nullopt);
+    const RecordedRequest& asked = requests_.back();
+    if (!misbehaviour.appliesTo(pipeFile) || request.find(misbehaviour.onlyWith) == std::string_view::npos)
+        return answer(asked, std::nullopt);
     if (misbehaviour.garbage)
         return *misbehaviour.garbage;
-    std::string reply = answer(pipeFile, user, request, misbehaviour.code);
+    std::string reply = answer(asked, misbehaviour.code);
     pad(reply, misbehaviour.replyMegabytes * 1024 * 1024);
     return reply;
 }
 
-std::string KelpServer::answer(std::string_view pipeFile, std::string_view user, std::string_view request,
-                               std::optional<int> failure) {
-    const auto root = readRequest(request);
+std::string KelpServer::answer(const RecordedRequest& asked, std::optional<int> failure) {
+    const auto root = readRequest(asked.text);
     if (!root)
         return failureReply(code::refusedRequest);
     try {
         if (failure)
             throw Refusal{*failure};
-        const Account* account = findAccount(user);
+        const Account* account = findAccount(asked.user);
         if (account == nullptr)
             throw Refusal{code::unknownIdentity};
         for (const auto& [file, answerRequest] : answers) {
-            if (file == pipeFile)
+            if (file == asked.pipeFile)
                 return answerRequest({*this, *account->identity, *root});
         }
         throw Refusal{code::refusedRequest};
@@ -122,11 +120,11 @@ void KelpServer::addAccount(const std::string& user, const std::string& password
     accounts_[fold(user)] = {password, &identity};
 }
 
-int KelpServer::checkMount(std::string_view user, std::string_view password, std::string_view share) const {
+int KelpServer::checkMount(const Login& login, std::string_view share) const {
     if (misbehaviour.mountError != 0)
         return misbehaviour.mountError;
-    const Account* account = findAccount(user);
-    if (account == nullptr || account->password != password)
+    const Account* account = findAccount(login.user);
+    if (account == nullptr || account->password != login.password)
         return EACCES;
     return isManagementShare(share) ? 0 : ENOENT;
 }

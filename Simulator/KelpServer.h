@@ -97,7 +97,11 @@ public:
     const Account* findAccount(std::string_view user) const;
 
     // What the network layer asks before it lets anyone near a pipe file; 0 or an errno value.
-    int checkMount(std::string_view user, std::string_view password, std::string_view share) const;
+    struct Login {
+        std::string_view user;
+        std::string_view password;
+    };
+    int checkMount(const Login& login, std::string_view share) const;
     int checkOpen(std::string_view pipeFile) const;
     const std::map<std::string, Account>& accounts() const { return accounts_; }
 
@@ -109,8 +113,7 @@ public:
     std::string lastRequest() const { return requests_.empty() ? std::string() : requests_.back().text; }
 
 private:
-    std::string answer(std::string_view pipeFile, std::string_view user, std::string_view request,
-                       std::optional<int> failure);
+    std::string answer(const RecordedRequest& asked, std::optional<int> failure);
 
     std::shared_ptr<Identities> identities_;
     Volumes volumes_;

@@ -4,6 +4,7 @@
 #include "Simulator/Text.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -145,6 +146,12 @@ private:
 const std::string nodePrefix = platform::activeDirectoryNode + std::string("/");
 const std::string forestSuffix = platform::allDomainsNode;
 
+/// The domain by itself, and the forest that is reached through it.
+std::array<std::string, 2> nodesOf(const std::string& domain) {
+    const std::string node = nodePrefix + domain;
+    return {node, node + forestSuffix};
+}
+
 } // namespace
 
 MemoryDirectory::MemoryDirectory(std::shared_ptr<const Identities> identities)
@@ -176,17 +183,16 @@ std::optional<std::vector<std::string>> MemoryDirectory::nodeNames() {
         return names;
     std::vector<std::string> all = domains();
     all.insert(all.end(), state_->unreachable.begin(), state_->unreachable.end());
-    for (const std::string& domain : all) {
-        names.push_back(nodePrefix + domain);
-        names.push_back(nodePrefix + domain + forestSuffix);
-    }
+    for (const std::string& domain : all)
+        for (const std::string& node : nodesOf(domain))
+            names.push_back(node);
     return names;
 }
 
 std::shared_ptr<platform::DirectoryNode> MemoryDirectory::openNode(const std::string& name) {
     if (state_->bound && !state_->failNodes) {
         for (const std::string& domain : domains()) {
-            if (name == nodePrefix + domain || name == nodePrefix + domain + forestSuffix)
+            if (const auto nodes = nodesOf(domain); std::ranges::count(nodes, name) != 0)
                 return std::make_shared<MemoryNode>(identities_, state_, domain);
         }
         if (name == "/Local/Default")

@@ -20,7 +20,7 @@ bool looksLikeFile(const Node& node) {
 void mirror(const Node& node, const fs::path& place) {
     std::error_code error;
     if (looksLikeFile(node)) {
-        std::ofstream{place};
+        const std::ofstream empty(place);
         return;
     }
     fs::create_directory(place, error);

@@ -73,7 +73,7 @@ platform::MountResult SimulatedFileSystem::mount(const std::string& url, const s
     const Server* at = findServer(host);
     if (at == nullptr)
         return {EHOSTUNREACH, {}};
-    if (const int error = at->server->checkMount(user, password.reveal(), share); error != 0)
+    if (const int error = at->server->checkMount({user, password.reveal()}, share); error != 0)
         return {error, {}};
     const std::string mountPoint = freeMountPoint(share);
     mounts_[mountPoint] = {at->server, share, user};

@@ -72,7 +72,7 @@ const Identity* findObject(const Identities& identities, const std::string& cont
     const Identity* found = nullptr;
     for (const char* type : {"\\CN=", "\\OU=", "\\O="}) {
         if (found == nullptr)
-            found = identities.findByDistinguishedName(path + type + name);
+            found = identities.findByDistinguishedName(std::string(path).append(type).append(name));
     }
     return found;
 }

@@ -1150,5 +1150,89 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
       <numerusform>%n changes may or may not have been made. Apply sends them again; Revert reads again what is there.</numerusform>
     </translation>
   </message>
+  <message id="Supervisor_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: has every right here and on everything below, whatever else is ticked; no filter stops it.</translation>
+  </message>
+  <message id="Read_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: open files and read them.</translation>
+  </message>
+  <message id="Write_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: open files and change what is in them.</translation>
+  </message>
+  <message id="Erase_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: delete files and folders.</translation>
+  </message>
+  <message id="Create_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: make new files and folders.</translation>
+  </message>
+  <message id="Modify_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: rename files and folders and change their attributes.</translation>
+  </message>
+  <message id="File_Scan_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: see files and folders in listings.</translation>
+  </message>
+  <message id="Access_Control_Explained_Label">
+    <source></source>
+    <extracomment>What a right is for; %1 is its name.</extracomment>
+    <translation>%1: change who holds which rights here, and what is inherited.</translation>
+  </message>
+  <message id="Row_Explained_Label">
+    <source></source>
+    <translation>What a row says takes the place of what the same user or group has from the folders above. A row without a tick leaves nothing of it.</translation>
+  </message>
+  <message id="Grant_title">
+    <source></source>
+    <extracomment>In the menu of a table of rights; the rights follow in a menu of their own.</extracomment>
+    <translation>&amp;Grant</translation>
+  </message>
+  <message id="Take_Away_title">
+    <source></source>
+    <extracomment>In the menu of a table of rights; the rights follow in a menu of their own.</extracomment>
+    <translation>&amp;Take Away</translation>
+  </message>
+  <message id="Set_Rights_title">
+    <source></source>
+    <extracomment>In the menu of a table of rights; the four below follow in a menu of their own.</extracomment>
+    <translation>&amp;Set Rights To</translation>
+  </message>
+  <message id="Preset_Read_title">
+    <source></source>
+    <translation>&amp;Read</translation>
+  </message>
+  <message id="Preset_Write_title">
+    <source></source>
+    <translation>Read and &amp;Write</translation>
+  </message>
+  <message id="Preset_All_title">
+    <source></source>
+    <translation>&amp;Everything but Supervisor</translation>
+  </message>
+  <message id="Preset_None_title">
+    <source></source>
+    <translation>&amp;Nothing</translation>
+  </message>
+  <message id="Show_Log_title">
+    <source></source>
+    <translation>Show &amp;Log File</translation>
+  </message>
+  <message id="No_Log_Viewer_Label">
+    <source></source>
+    <extracomment>%1 is its path.</extracomment>
+    <translation>No program opened the log file: %1</translation>
+  </message>
 </context>
 </TS>

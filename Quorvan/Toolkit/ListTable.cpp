@@ -26,11 +26,15 @@
 
 namespace quorvan {
 
-ListTable::ListTable(ListModel* model, QWidget* parent)
+ListTable::ListTable(ListModel* model, QWidget* parent, std::vector<ColumnWidths::Kind> kinds)
     : QTableView(parent)
     , list_(model) {
     model->setParent(this);
     setModel(model);
+    kinds.resize(static_cast<std::size_t>(model->columnCount()), ColumnWidths::Kind::text);
+    widths_ = new ColumnWidths(*this, std::move(kinds));
+    // Longer names may come into view, and then need more room.
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { fitColumns(); });
     prototypes_.resize(static_cast<std::size_t>(model->columnCount()));
     setItemDelegate(new TextDelegate(this));
     setSelectionBehavior(SelectRows);
@@ -63,8 +67,16 @@ void ListTable::fitToFont() {
 
 void ListTable::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        fitToFont();
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
+        return;
+    fitToFont();
+    widths_->forgetRows();
+    fitColumns();
+}
+
+void ListTable::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    fitColumns();
 }
 
 /// Only a user's own step counts: a reset, too, moves the keyboard, but not to where anybody wanted it.
@@ -108,6 +120,7 @@ void ListTable::reloadData() {
     verticalScrollBar()->setValue(scrolled);
     if (currentRow >= 0 && wasInView)
         scrollTo(currentIndex());
+    fitColumns();
     viewport()->update();
 }
 
@@ -147,6 +160,7 @@ void ListTable::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
     menu.addAction(L("Copy_title"), QKeySequence(QKeySequence::Copy), this, [this] { copyRows(); });
     menu.addAction(L("Export_title"), this, [this] { chooseExport(); });
+    addRowActions(menu);
     if (removeButton_ != nullptr) {
         menu.addSeparator();
         QAction* remove = menu.addAction(removeButton_->text(), QKeySequence(Qt::Key_Delete), removeButton_,

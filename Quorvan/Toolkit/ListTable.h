@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Toolkit/ColumnWidths.h"
 #include "Quorvan/Toolkit/ListModel.h"
 
 #include <QTableView>
@@ -12,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+class QMenu;
 class QPushButton;
 
 namespace quorvan {
@@ -26,8 +28,9 @@ struct SortDescriptor {
 /// none, can be copied and exported.
 class ListTable : public QTableView {
 public:
-    /// Takes the model.
-    explicit ListTable(ListModel* model, QWidget* parent = nullptr);
+    /// Takes the model. The columns hold texts unless `kinds` says otherwise.
+    explicit ListTable(ListModel* model, QWidget* parent = nullptr,
+                       std::vector<ColumnWidths::Kind> kinds = {});
 
     /// Shows the rows as they are now. The keyboard and the selection stay with what the rows are about;
     /// where that is gone, they are on nothing. The list does not scroll.
@@ -65,6 +68,12 @@ public:
 protected:
     /// Sets the height that all rows have, so that the table never measures any of them.
     virtual void fitToFont();
+    /// Adds what can be done with the selected rows to their menu.
+    virtual void addRowActions(QMenu& /*menu*/) {}
+    /// Gives the columns their widths, in the room that there is.
+    virtual void fitColumns() { widths_->fit(); }
+    ColumnWidths& columnWidths() { return *widths_; }
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
@@ -82,6 +91,7 @@ private:
     bool showsInFull(const QModelIndex& index) const;
 
     ListModel* list_;
+    ColumnWidths* widths_;
     QPushButton* removeButton_ = nullptr;
     std::optional<SortDescriptor> descriptor_;
     std::vector<std::optional<SortDescriptor>> prototypes_;

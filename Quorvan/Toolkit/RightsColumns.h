@@ -12,19 +12,21 @@ namespace quorvan {
 struct RightsColumn {
     const char* identifier; ///< of the column and of its check boxes, and the letter in its header
     std::uint16_t bit;
-    const char* nameKey; ///< localisation key of the right's name
-    const char* checkID; ///< identifier of the right's box outside tables
+    const char* nameKey;      ///< localisation key of the right's name
+    const char* checkID;      ///< identifier of the right's box outside tables
+    const char* explainedKey; ///< of a sentence that says what the right lets somebody do
 };
 
 /// The rights columns of every table, from left to right.
 inline constexpr std::array<RightsColumn, 8> rightsColumns = {
-    {{"S", KelpRights::supervisor, "Supervisor_Label", "supervisorCheckID"},
-     {"R", KelpRights::read, "Read_Label", "readCheckID"},
-     {"W", KelpRights::write, "Write_Label", "writeCheckID"},
-     {"E", KelpRights::erase, "Erase_Label", "eraseCheckID"},
-     {"C", KelpRights::create, "Create_Label", "createCheckID"},
-     {"M", KelpRights::modify, "Modify_Label", "modifyCheckID"},
-     {"F", KelpRights::fileScan, "File_Scan_Label", "fileScanCheckID"},
-     {"A", KelpRights::accessControl, "Access_Control_Label", "accessControlCheckID"}}};
+    {{"S", KelpRights::supervisor, "Supervisor_Label", "supervisorCheckID", "Supervisor_Explained_Label"},
+     {"R", KelpRights::read, "Read_Label", "readCheckID", "Read_Explained_Label"},
+     {"W", KelpRights::write, "Write_Label", "writeCheckID", "Write_Explained_Label"},
+     {"E", KelpRights::erase, "Erase_Label", "eraseCheckID", "Erase_Explained_Label"},
+     {"C", KelpRights::create, "Create_Label", "createCheckID", "Create_Explained_Label"},
+     {"M", KelpRights::modify, "Modify_Label", "modifyCheckID", "Modify_Explained_Label"},
+     {"F", KelpRights::fileScan, "File_Scan_Label", "fileScanCheckID", "File_Scan_Explained_Label"},
+     {"A", KelpRights::accessControl, "Access_Control_Label", "accessControlCheckID",
+      "Access_Control_Explained_Label"}}};
 
 } // namespace quorvan

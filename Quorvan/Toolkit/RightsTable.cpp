@@ -5,6 +5,7 @@
 #include "Quorvan/Toolkit/TextDelegate.h"
 
 #include <QHeaderView>
+#include <QMenu>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -12,22 +13,26 @@
 
 namespace quorvan {
 
-RightsTable::RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
-                         QWidget* parent)
-    : ListTable(new RightsTableModel(std::move(textColumns), std::move(rows)), parent)
+namespace {
+
+std::vector<ColumnWidths::Kind> kindsOf(const std::vector<RightsTextColumn>& textColumns) {
+    std::vector<ColumnWidths::Kind> kinds(textColumns.size(), ColumnWidths::Kind::text);
+    kinds.insert(kinds.end(), rightsColumns.size(), ColumnWidths::Kind::box);
+    return kinds;
+}
+
+} // namespace
+
+RightsTable::RightsTable(const std::vector<RightsTextColumn>& textColumns,
+                         std::unique_ptr<RightsRowSource> rows, QWidget* parent)
+    : ListTable(new RightsTableModel(textColumns, std::move(rows)), parent, kindsOf(textColumns))
     , model_(static_cast<RightsTableModel*>(model()))
     , boxes_(new RightsCheckBoxDelegate(this)) {
-    const int last = model_->textColumnCount() - 1;
-    for (int column = 0; column <= last; ++column) {
-        horizontalHeader()->setSectionResizeMode(column, column == last ? QHeaderView::Stretch
-                                                                        : QHeaderView::Interactive);
-        if (model_->textColumn(column).elide == Qt::ElideLeft)
-            setItemDelegateForColumn(column, new TextDelegate(this, Qt::ElideLeft));
-    }
-    for (int column = last + 1; column < model_->columnCount(); ++column) {
-        horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
-        setItemDelegateForColumn(column, boxes_);
-    }
+    for (int column = 0; column < model_->columnCount(); ++column)
+        if (column >= model_->textColumnCount())
+            setItemDelegateForColumn(column, boxes_);
+        else if (model_->textColumn(column).elide != Qt::ElideRight)
+            setItemDelegateForColumn(column, new TextDelegate(this, model_->textColumn(column).elide));
     viewport()->setMouseTracking(true);
     RightsTable::fitToFont();
 }
@@ -38,24 +43,60 @@ void RightsTable::fitToFont() {
     const QModelIndex none;
     const QSize box = boxes_->sizeHint(option, none);
     verticalHeader()->setDefaultSectionSize(std::max(box.height(), fontMetrics().height() + 8));
-    const int width = std::max(box.width(), fontMetrics().horizontalAdvance(QLatin1Char('W')) + 20);
-    horizontalHeader()->setMinimumSectionSize(width);
+    letterWidth_ = std::max(box.width(), fontMetrics().horizontalAdvance(QLatin1Char('W')) + 20);
+    wordWidth_ = letterWidth_;
     for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column)
-        horizontalHeader()->resizeSection(column, width);
+        wordWidth_ = std::max(wordWidth_, fontMetrics().horizontalAdvance(model_->rightName(column)) + 20);
+    horizontalHeader()->setMinimumSectionSize(letterWidth_);
 }
 
-void RightsTable::resizeEvent(QResizeEvent* event) {
-    ListTable::resizeEvent(event);
-    shareTextWidth();
+/// Above the boxes stand words where the names leave room for them, and letters where they do not.
+void RightsTable::fitColumns() {
+    ColumnWidths& widths = columnWidths();
+    const bool hasRoom = widths.roomForTexts(wordWidth_) >= widths.needOfTexts();
+    model_->showWords(hasRoom);
+    widths.setBoxWidth(hasRoom ? wordWidth_ : letterWidth_);
+    widths.fit();
 }
 
-/// Names get what they usually need and paths the rest, which is never the smaller part.
-void RightsTable::shareTextWidth() {
-    const int texts = model_->textColumnCount();
-    const int boxes = model_->columnCount() - texts;
-    const int room = viewport()->width() - boxes * columnWidth(model_->columnCount() - 1);
-    for (int column = 0; column < texts - 1; ++column)
-        setColumnWidth(column, std::min(28 * fontMetrics().averageCharWidth(), room * 2 / 5));
+void RightsTable::clickBoxes(std::uint16_t rights, std::uint16_t wanted) {
+    for (const int row : selectedRowIndexes())
+        for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column) {
+            const std::uint16_t bit = model_->right(column)->bit;
+            const QModelIndex box = model_->index(row, column);
+            const auto state = (wanted & bit) != 0 ? Qt::Checked : Qt::Unchecked;
+            if ((rights & bit) != 0 && box.data(Qt::CheckStateRole).toInt() != state)
+                model_->setData(box, state, Qt::CheckStateRole); // which leaves alone what may not be clicked
+        }
+}
+
+void RightsTable::addRowActions(QMenu& menu) {
+    if (!switchedOn_ || !model_->isEnabled)
+        return;
+    menu.addSeparator();
+    constexpr std::uint16_t all = 0xFFFF;
+    QMenu* grant = menu.addMenu(L("Grant_title"));
+    QMenu* takeAway = menu.addMenu(L("Take_Away_title"));
+    QMenu* preset = menu.addMenu(L("Set_Rights_title"));
+    for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column) {
+        const std::uint16_t bit = model_->right(column)->bit;
+        for (const bool on : {true, false})
+            (on ? grant : takeAway)
+                ->addAction(model_->rightName(column), this,
+                            [this, bit, on] { clickBoxes(bit, on ? all : 0); })
+                ->setEnabled(model_->isEnabled(bit));
+    }
+    using Rights = KelpRights;
+    constexpr std::uint16_t read = Rights::read | Rights::fileScan;
+    constexpr std::uint16_t write = read | Rights::write | Rights::erase | Rights::create | Rights::modify;
+    constexpr std::uint16_t rest = write | Rights::accessControl;
+    for (const auto& [title, rights] : {std::pair{"Preset_Read_title", read},
+                                        {"Preset_Write_title", write},
+                                        {"Preset_All_title", rest},
+                                        {"Preset_None_title", std::uint16_t{0}}})
+        preset->addAction(L(title), this, [this, wanted = rights] { clickBoxes(all, wanted); });
+    for (QMenu* each : {grant, takeAway, preset})
+        each->setEnabled(!selectedRowIndexes().empty());
 }
 
 void RightsTable::setSwitchedOn(bool on) {

@@ -18,7 +18,7 @@ class RightsCheckBoxDelegate;
 /// box with the mouse leaves the selection alone.
 class RightsTable : public ListTable {
 public:
-    RightsTable(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows,
+    RightsTable(const std::vector<RightsTextColumn>& textColumns, std::unique_ptr<RightsRowSource> rows,
                 QWidget* parent = nullptr);
 
     void setEnablingRule(RightsTableModel::EnablingRule rule) { model_->isEnabled = std::move(rule); }
@@ -39,14 +39,19 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void fitToFont() override;
-    void resizeEvent(QResizeEvent* event) override;
+    void fitColumns() override;
+    void addRowActions(QMenu& menu) override;
 
 private:
-    void shareTextWidth();
+    /// Clicks the boxes of the selected rows that stand otherwise, one after the other: those of `rights`
+    /// alone, which are then on as in `wanted`.
+    void clickBoxes(std::uint16_t rights, std::uint16_t wanted);
     bool isOnBox(const QModelIndex& index, const QMouseEvent& event) const;
 
     RightsTableModel* model_;
     RightsCheckBoxDelegate* boxes_;
+    int letterWidth_ = 0; ///< of a column of boxes below a letter, and below the longest word
+    int wordWidth_ = 0;
     bool switchedOn_ = true;
 };
 

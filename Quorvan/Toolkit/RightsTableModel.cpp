@@ -5,6 +5,7 @@
 
 #include "Common/Fatal.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/PlainToolTip.h"
 
 #include <algorithm>
 #include <string_view>
@@ -56,6 +57,11 @@ void RightsTableModel::setHeader(int textColumn, const QString& header) {
     emit headerDataChanged(Qt::Horizontal, textColumn, textColumn);
 }
 
+void RightsTableModel::showWords(bool words) {
+    if (std::exchange(showsWords_, words) != words)
+        emit headerDataChanged(Qt::Horizontal, textColumnCount(), columnCount() - 1);
+}
+
 int RightsTableModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : textColumnCount() + static_cast<int>(rightsColumns.size());
 }
@@ -100,13 +106,16 @@ QVariant RightsTableModel::headerData(int section, Qt::Orientation orientation, 
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
         return {};
     const RightsColumn* box = right(section);
+    if (role == Qt::DisplayRole && box == nullptr)
+        return textColumns_[static_cast<std::size_t>(section)].header;
     if (role == Qt::DisplayRole)
-        return box != nullptr ? QString::fromLatin1(box->identifier)
-                              : textColumns_[static_cast<std::size_t>(section)].header;
+        return showsWords_ ? rightName(section) : QString::fromLatin1(box->identifier);
     if (role == Qt::TextAlignmentRole)
         return QVariant(box != nullptr ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft);
-    if (box != nullptr && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
+    if (box != nullptr && role == Qt::AccessibleTextRole)
         return rightName(section);
+    if (box != nullptr && role == Qt::ToolTipRole)
+        return plainToolTip(L(box->explainedKey).arg(rightName(section)));
     return {};
 }
 

@@ -65,6 +65,9 @@ public:
     const RightsColumn* right(int column) const;
     int columnOf(const std::string& identifier) const; ///< -1 when there is none
     void setHeader(int textColumn, const QString& header);
+    /// Whether the headers of the rights are their names or their letters.
+    void showWords(bool words);
+    const QString& rightName(int column) const;
 
     std::string identity(int row) const override { return rows_->identity(row); }
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -80,11 +83,11 @@ protected:
 private:
     QVariant textData(const QModelIndex& index, int role) const;
     QVariant rightData(const QModelIndex& index, int role) const;
-    const QString& rightName(int column) const;
 
     std::vector<RightsTextColumn> textColumns_;
     std::unique_ptr<RightsRowSource> rows_;
     std::array<QString, rightsColumns.size()> rightNames_;
+    bool showsWords_ = false;
     QString tickedText_;
     QString untickedText_;
 };

@@ -2,6 +2,7 @@
 #include "Quorvan/Toolkit/Storyboard.h"
 
 #include "Common/Fatal.h"
+#include "Quorvan/Toolkit/ViewController.h"
 
 namespace quorvan {
 
@@ -13,7 +14,9 @@ Storyboard& Storyboard::named(const std::string& name) {
 ViewController* Storyboard::instantiate(const std::string& identifier) const {
     const auto found = factories_.find(identifier);
     require(found != factories_.end(), "No view with the identifier %@", identifier);
-    return found->second();
+    ViewController* view = found->second();
+    view->setObjectName(QString::fromStdString(identifier));
+    return view;
 }
 
 } // namespace quorvan

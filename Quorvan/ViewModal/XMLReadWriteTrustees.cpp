@@ -94,6 +94,7 @@ std::int64_t XMLReadWriteController::setTrusteeforDir(const std::vector<Director
     return status;
 }
 
+// NOLINTNEXTLINE(bugprone-easily-swappable-parameters): a fixed signature
 void XMLReadWriteController::parseSetTrusteeResp(const std::string& xml, std::int64_t& nAddFailed,
                                                  std::int64_t& nRemFailed, std::int64_t& status) {
     const XMLResponseParser parsed = parse(xml);

@@ -48,7 +48,6 @@ void IdentityBrowserSheet::buildList() {
     names->name = [this](std::size_t row) -> const std::string& { return listedName(row); };
     names->iconName = [this] { return iconName(); };
     userListTable = outlet(new ListTable(names, this), "userListTable", plainL("Browse_List_Label"));
-    userListTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     userListTable->horizontalHeader()->hide();
     connect(userListTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (userListTable->selectionModel()->hasSelection())

@@ -31,7 +31,6 @@ void AddUserQuotaViewController::loadView() {
     userNameLabel = outlet(new QLabel(this), "userNameLabel");
     auto* rows = new UserQuotaRows(users, {{"username", "Col_User_Name", UserQuotaColumn::nameOf, false}});
     userList = outlet(new ListTable(rows, this), "userList", plainL("User_Name_Label"));
-    userList->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     userList->setEmptyText(L("No_Users_Chosen_Label"));
     selectTrusteeBtn = outlet(new QPushButton(L("Add_Users_title"), this), "selectTrusteeBtn");
     selectTrusteeBtn->setToolTip(L("Add_Users_Tip_Label"));

@@ -34,11 +34,9 @@ void UserQuotaViewController::buildControls() {
                                     {"limitCol", "Limit_Label", UserQuotaColumn::limitOf, true},
                                     {"usedCol", "Used_Label", UserQuotaColumn::usedOf, true},
                                     {"availableCol", "Available_Label", UserQuotaColumn::availableOf, true}});
-    userQuotaTable = outlet(new ListTable(rows, this), "userQuotaTable", plainL("Users_with_Quota_Label"));
-    QHeaderView* header = userQuotaTable->horizontalHeader();
-    header->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (int column = 1; column < rows->columnCount(); ++column)
-        header->resizeSection(column, 12 * fontMetrics().averageCharWidth());
+    constexpr auto amount = ColumnWidths::Kind::amount;
+    userQuotaTable = outlet(new ListTable(rows, this, {ColumnWidths::Kind::text, amount, amount, amount}),
+                            "userQuotaTable", plainL("Users_with_Quota_Label"));
     searchField = outlet(new SearchField(userQuotaTable, this), "searchField");
     overLimitBtn = outlet(new QToolButton(this), "overLimitBtn");
     overLimitBtn->setAutoRaise(true);

@@ -4,6 +4,7 @@
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/Storyboard.h"
+#include "Quorvan/Toolkit/ViewState.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QGuiApplication>
@@ -24,6 +25,10 @@ constexpr int fadeMilliseconds = 150;
 bool animates(const QWidget& widget) {
     return widget.isVisible() && QGuiApplication::platformName() != QLatin1String("offscreen") &&
            widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
+}
+
+QString sizeKey(const ViewController& page) {
+    return QLatin1String("sizes/") + page.objectName();
 }
 
 } // namespace
@@ -65,6 +70,7 @@ void ContainerViewController::showDestinationView(ViewController* sourceViewCont
 
 void ContainerViewController::perform(const Switch& next) {
     const QPixmap before = animates(*this) ? grab() : QPixmap();
+    keepWindowSize();
     insertChild(1, next.destination);
     window()->setWindowTitle(next.title); // above the alerts of a destination that cannot load
     next.destination->beginAppearing();
@@ -75,10 +81,22 @@ void ContainerViewController::perform(const Switch& next) {
     if (waiting_)
         return; // it is to be replaced at once
     next.destination->show();
-    fitWindow();
+    fitWindow(*next.destination);
     if (!before.isNull())
         fadeFrom(before);
     next.destination->endAppearing();
+}
+
+void ContainerViewController::keepWindowSize() const {
+    const QWidget* frame = window();
+    if (page_ != nullptr && !frame->isMaximized() && !frame->isFullScreen() && frame->size() != fittedSize_)
+        ViewState().setValue(sizeKey(*page_), frame->size());
+}
+
+/// The window closes.
+void ContainerViewController::hideEvent(QHideEvent* event) {
+    keepWindowSize();
+    ViewController::hideEvent(event);
 }
 
 /// The page that was shown goes out over the new one, which can be used from the start.
@@ -101,7 +119,7 @@ void ContainerViewController::fadeFrom(const QPixmap& before) {
 
 /// The window keeps its place and takes the page's size, as far as the screen has room for it. One
 /// that would grow over the edge of the screen moves in just far enough.
-void ContainerViewController::fitWindow() {
+void ContainerViewController::fitWindow(ViewController& page) {
     QWidget* frame = window();
     if (frame->isMaximized() || frame->isFullScreen())
         return;
@@ -110,7 +128,11 @@ void ContainerViewController::fitWindow() {
         frame->layout()->activate();
     const QRect room = frame->screen()->availableGeometry();
     const QSize decoration = frame->frameGeometry().size() - frame->size();
-    frame->resize(frame->sizeHint().boundedTo(room.size() - decoration).expandedTo(frame->minimumSizeHint()));
+    const QSize kept = ViewState().value(sizeKey(page)).toSize();
+    const QSize wanted = kept.isEmpty() ? frame->sizeHint() : kept;
+    frame->resize(wanted.boundedTo(room.size() - decoration).expandedTo(frame->minimumSizeHint()));
+    fittedSize_ = frame->size();
+    page_ = &page;
 
     const QRect now = frame->frameGeometry();
     const QPoint inside(qMax(room.left(), qMin(now.left(), room.right() + 1 - now.width())),

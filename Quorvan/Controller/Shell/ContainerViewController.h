@@ -5,6 +5,8 @@
 
 #include <QPixmap>
 
+#include <QPointer>
+
 #include <optional>
 
 namespace quorvan {
@@ -21,9 +23,13 @@ public:
 
     /// Replaces the page and gives the window the new page's size. A page that asks to be replaced
     /// while it is only about to appear is replaced as soon as the running switch is done, without
-    /// being seen; of several such requests the last one counts.
+    /// being seen; of several such requests the last one counts. A page that the user has resized has that
+    /// size again on the next visit.
     void showDestinationView(ViewController* sourceViewController, ViewController* destinationViewController,
                              const QString& windowTitle) override;
+
+protected:
+    void hideEvent(QHideEvent* event) override;
 
 private:
     struct Switch {
@@ -35,8 +41,11 @@ private:
     void showAboveNotice(ViewController* page);
     void perform(const Switch& next);
     void fadeFrom(const QPixmap& before);
-    void fitWindow();
+    void fitWindow(ViewController& page);
+    void keepWindowSize() const;
 
+    QPointer<ViewController> page_; ///< the page in front, once a page has been chosen
+    QSize fittedSize_;              ///< what the page in front was given; any other size is the user's choice
     bool switching_ = false;
     std::optional<Switch> waiting_;
 };

@@ -37,13 +37,11 @@ QGridLayout* lettersOfTheRights() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(2);
-    grid->setColumnMinimumWidth(2, 20); // between the two halves
-    grid->setColumnStretch(4, 1);
-    const int half = static_cast<int>(rightsColumns.size()) / 2;
-    for (int at = 0; const RightsColumn& column : rightsColumns) {
-        grid->addWidget(heading(QString::fromLatin1(column.identifier)), at % half, at / half * 3);
-        grid->addWidget(new QLabel(plainL(column.nameKey)), at % half, at / half * 3 + 1);
-        ++at;
+    grid->setColumnStretch(1, 1);
+    for (int row = 0; const RightsColumn& column : rightsColumns) {
+        auto* sentence = paragraph(L(column.explainedKey).arg(plainL(column.nameKey)));
+        grid->addWidget(heading(QString::fromLatin1(column.identifier)), row, 0, Qt::AlignTop);
+        grid->addWidget(sentence, row++, 1);
     }
     return grid;
 }
@@ -86,6 +84,7 @@ void showHelpPanel(QWidget* window) {
     content->addWidget(paragraph(L("Help_Editing_Label")));
     content->addWidget(heading(L("Help_Rights_Label")));
     content->addLayout(lettersOfTheRights());
+    content->addWidget(paragraph(L("Row_Explained_Label")));
     auto* log = paragraph(L("Help_Log_Label").arg(QString::fromStdString(AppDelegate::logFile())));
     log->setTextInteractionFlags(Qt::TextSelectableByMouse);
     content->addWidget(log);

@@ -6,9 +6,13 @@
 #include "Tests/Support/Fakes.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <gmock/gmock.h>
@@ -22,6 +26,7 @@ struct RightsTableTest : testing::Test {
     RightsTableTest() {
         world.bundle->texts = {{"Right_Ticked_Label", "%1, ticked"},
                                {"Right_Unticked_Label", "%1, not ticked"},
+                               {"Supervisor_Explained_Label", "%1: has all"},
                                {"Supervisor_Label", "Su&pervisor"}};
         for (const char* name : {"Cara", "abel", "Bea", "Abel"})
             rows.push_back(std::make_shared<Trustees>(name, name, KelpRights::read, "", "Users", ""));
@@ -132,6 +137,84 @@ TEST_F(RightsTableTest, SurvivesRowsThatChangeBeforeItIsToldAndKeepsTheKeyboards
     EXPECT_EQ(table->accessibleDescription(), "No rows");
 }
 
+TEST_F(RightsTableTest, ClicksTheBoxesOfSeveralRowsFromTheirMenu) {
+    const auto choose = [this](const QString& menuTitle, const QString& actionTitle) {
+        bool isChosen = false;
+        QTimer::singleShot(0, table, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            for (const QAction* sub : menu->actions())
+                if (sub->text() == menuTitle && sub->isEnabled())
+                    for (QAction* action : sub->menu()->actions())
+                        if (action->text() == actionTitle && action->isEnabled()) {
+                            action->trigger();
+                            isChosen = true;
+                        }
+            menu->close();
+        });
+        const QPoint place = center(0, "username");
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, table->mapToGlobal(place));
+        QApplication::sendEvent(table->viewport(), &event);
+        return isChosen;
+    };
+    table->setClickHandler([this](const RightsCheckBox& box) {
+        auto& mask = rows[static_cast<std::size_t>(box.row)]->rights;
+        mask = box.appliedTo(mask);
+        clicks += std::to_string(box.row) + box.identifier + (box.ticked ? "+ " : "- ");
+    });
+    EXPECT_FALSE(choose("Grant_title", "Write_Label")) << "no row is selected";
+    click(1, "username");
+    click(3, "username", Qt::ControlModifier);
+    rows[3]->rights = KelpRights::write | KelpRights::supervisor;
+    EXPECT_TRUE(choose("Grant_title", "Write_Label"));
+    EXPECT_EQ(std::exchange(clicks, {}), "1W+ ") << "the other one has it";
+    EXPECT_TRUE(choose("Take_Away_title", "Read_Label"));
+    EXPECT_EQ(std::exchange(clicks, {}), "1R- ");
+    EXPECT_FALSE(choose("Grant_title", "Supervisor")) << "which this user may not grant";
+    EXPECT_TRUE(choose("Set_Rights_title", "Preset_Read_title"));
+    EXPECT_EQ(std::exchange(clicks, {}), "1R+ 1W- 1F+ 3R+ 3W- 3F+ ");
+    EXPECT_TRUE(choose("Set_Rights_title", "Preset_Write_title"));
+    EXPECT_EQ(std::exchange(clicks, {}), "1W+ 1E+ 1C+ 1M+ 3W+ 3E+ 3C+ 3M+ ");
+    EXPECT_TRUE(choose("Set_Rights_title", "Preset_All_title"));
+    EXPECT_EQ(std::exchange(clicks, {}), "1A+ 3A+ ");
+    EXPECT_TRUE(choose("Set_Rights_title", "Preset_None_title"));
+    EXPECT_EQ(rows[1]->rights, 0);
+    EXPECT_EQ(rows[3]->rights, KelpRights::supervisor);
+    table->setSwitchedOn(false);
+    EXPECT_FALSE(choose("Grant_title", "Write_Label"));
+}
+
+TEST_F(RightsTableTest, GivesNamesTheRoomThatTheyNeed) {
+    QHeaderView* header = table->horizontalHeader();
+    const auto word = [header] { return header->model()->headerData(2, Qt::Horizontal).toString(); };
+    EXPECT_EQ(word(), "R");
+    const int usual = table->columnWidth(0);
+    const std::string longName(60, 'm');
+    rows.push_back(std::make_shared<Trustees>(longName, "l", KelpRights::read, "", "Users", ""));
+    table->reloadData();
+    EXPECT_GE(table->columnWidth(0), usual);
+    EXPECT_EQ(header->length(), table->viewport()->width()) << "all there is, and no more";
+    window.resize(2600, 300);
+    EXPECT_EQ(word(), "Read_Label");
+    EXPECT_GE(table->columnWidth(0), table->fontMetrics().horizontalAdvance(QString(60, 'm')));
+    EXPECT_LT(header->length(), table->viewport()->width()) << "boxes stay near their names";
+
+    // A width that the user has set stays, also in the next table of that name.
+    table->setObjectName("someTable");
+    const QPoint edge(table->columnWidth(0) - 1, header->height() / 2);
+    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(header->viewport(), edge + QPoint(40, 0));
+    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
+    const int set = table->columnWidth(0);
+    EXPECT_EQ(set, edge.x() + 41);
+    window.resize(1200, 300);
+    EXPECT_EQ(table->columnWidth(0), set);
+    RightsTable again({{"username", "Name"}}, std::make_unique<TrusteeRows>(rows));
+    again.setObjectName("someTable");
+    again.resize(1000, 300);
+    again.show();
+    EXPECT_EQ(again.columnWidth(0), set);
+}
+
 TEST_F(RightsTableTest, SpeaksToScreenReaders) {
     QAccessibleTableInterface* reader = QAccessible::queryAccessibleInterface(table)->tableInterface();
     for (const auto& [column, text, checks] :
@@ -144,7 +227,7 @@ TEST_F(RightsTableTest, SpeaksToScreenReaders) {
     for (int column = 1; column < 9; ++column)
         letters += table->model()->headerData(column, Qt::Horizontal).toString();
     EXPECT_EQ(letters, "SRWECMFA");
-    EXPECT_EQ(table->model()->headerData(1, Qt::Horizontal, Qt::ToolTipRole), "Supervisor");
+    EXPECT_EQ(table->model()->headerData(1, Qt::Horizontal, Qt::ToolTipRole), "Supervisor: has all");
     EXPECT_EQ(table->model()->headerData(7, Qt::Horizontal, Qt::AccessibleTextRole), "File_Scan_Label");
 }
 

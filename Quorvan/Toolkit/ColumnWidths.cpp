@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Toolkit/ColumnWidths.h"
+
+#include "Quorvan/Toolkit/ViewState.h"
+
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QTableView>
+
+#include <algorithm>
+#include <utility>
+
+namespace quorvan {
+namespace {
+
+constexpr int leastTextCharacters = 24; ///< of a text column, as far as there is room
+constexpr int leastAmountCharacters = 12;
+constexpr int leastWidth = 20; ///< of what is read from the state file
+constexpr int mostWidth = 4000;
+
+} // namespace
+
+ColumnWidths::ColumnWidths(QTableView& table, std::vector<Kind> kinds)
+    : QObject(&table)
+    , table_(table)
+    , kinds_(std::move(kinds)) {
+    QHeaderView* header = table.horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    header->setResizeContentsPrecision(0); // only the rows in view: there may be very many
+    connect(header, &QHeaderView::sectionResized, this,
+            [this](int column, int /*before*/, int width) { resized(column, width); });
+}
+
+QString ColumnWidths::key(int column) const {
+    return QStringLiteral("columns/%1/%2").arg(table_.objectName()).arg(column);
+}
+
+void ColumnWidths::takeUsersWidths() {
+    if (std::exchange(hasTakenUsers_, true))
+        return;
+    const ViewState state;
+    for (int column = 0; column < static_cast<int>(kinds_.size()); ++column) {
+        const int width = state.value(key(column)).toInt();
+        if (width < leastWidth || width > mostWidth)
+            continue;
+        users_.insert(column);
+        table_.setColumnWidth(column, width);
+    }
+}
+
+/// Only what is pulled with the mouse is the user's own doing.
+void ColumnWidths::resized(int column, int width) {
+    if (isFitting_ || QGuiApplication::mouseButtons() == Qt::NoButton || table_.objectName().isEmpty())
+        return;
+    users_.insert(column);
+    ViewState().setValue(key(column), width);
+}
+
+int ColumnWidths::need(int column) {
+    const Kind kind = kinds_[static_cast<std::size_t>(column)];
+    if (kind == Kind::box)
+        return boxWidth_;
+    needs_.resize(kinds_.size());
+    int& most = needs_[static_cast<std::size_t>(column)];
+    // A table shows how wide a column would like to be to its base class alone.
+    most = std::max({most, static_cast<const QAbstractItemView&>(table_).sizeHintForColumn(column),
+                     table_.horizontalHeader()->sectionSizeHint(column)});
+    const int characters = kind == Kind::text ? leastTextCharacters : leastAmountCharacters;
+    return std::max(most, characters * table_.fontMetrics().averageCharWidth());
+}
+
+int ColumnWidths::roomForTexts(int boxWidth) {
+    int room = table_.viewport()->width();
+    for (int column = 0; column < static_cast<int>(kinds_.size()); ++column) {
+        const Kind kind = kinds_[static_cast<std::size_t>(column)];
+        if (users_.contains(column))
+            room -= table_.columnWidth(column);
+        else if (kind != Kind::text)
+            room -= kind == Kind::box ? boxWidth : need(column);
+    }
+    return std::max(room, 0);
+}
+
+int ColumnWidths::needOfTexts() {
+    int sum = 0;
+    for (int column = 0; column < static_cast<int>(kinds_.size()); ++column)
+        if (kinds_[static_cast<std::size_t>(column)] == Kind::text && !users_.contains(column))
+            sum += need(column);
+    return sum;
+}
+
+void ColumnWidths::fit() {
+    takeUsersWidths();
+    const QScopedValueRollback fitting(isFitting_, true);
+    std::vector<std::pair<int, int>> texts; // what each needs, and which it is
+    for (int column = 0; column < static_cast<int>(kinds_.size()); ++column) {
+        if (users_.contains(column))
+            continue;
+        if (kinds_[static_cast<std::size_t>(column)] == Kind::text)
+            texts.emplace_back(need(column), column);
+        else
+            table_.setColumnWidth(column, need(column));
+    }
+    // Those that need less than an equal share get what they need, and the others share the rest.
+    int room = roomForTexts(boxWidth_);
+    const bool fills = boxWidth_ == 0;
+    std::sort(texts.begin(), texts.end());
+    for (std::size_t at = 0; at < texts.size(); ++at) {
+        const int share = room / static_cast<int>(texts.size() - at);
+        const bool takesAll = fills && at + 1 == texts.size();
+        const int width = takesAll ? room : std::min(texts[at].first, share);
+        table_.setColumnWidth(texts[at].second, width);
+        room -= width;
+    }
+}
+
+} // namespace quorvan
