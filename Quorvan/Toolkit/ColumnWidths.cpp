@@ -15,6 +15,7 @@ namespace quorvan {
 namespace {
 
 constexpr int leastTextCharacters = 24; ///< of a text column, as far as there is room
+constexpr int usualTextCharacters = 72; ///< of all text columns beside boxes
 constexpr int leastAmountCharacters = 12;
 constexpr int leastWidth = 20; ///< of what is read from the state file
 constexpr int mostWidth = 4000;
@@ -90,6 +91,14 @@ int ColumnWidths::needOfTexts() {
     return sum;
 }
 
+int ColumnWidths::lastText() const {
+    int last = -1;
+    for (int column = 0; column < static_cast<int>(kinds_.size()); ++column)
+        if (kinds_[static_cast<std::size_t>(column)] == Kind::text && !users_.contains(column))
+            last = column;
+    return last;
+}
+
 void ColumnWidths::fit() {
     takeUsersWidths();
     const QScopedValueRollback fitting(isFitting_, true);
@@ -102,16 +111,20 @@ void ColumnWidths::fit() {
         else
             table_.setColumnWidth(column, need(column));
     }
-    // Those that need less than an equal share get what they need, and the others share the rest.
+    // Those that need less than an equal share get what they need, and the others share the rest. The
+    // boxes of a window of usual width stand at its edge, those of tables below each other in one line.
     int room = roomForTexts(boxWidth_);
-    const bool fills = boxWidth_ == 0;
+    int spare = room - needOfTexts();
+    if (boxWidth_ != 0)
+        spare =
+            std::min(spare, usualTextCharacters * table_.fontMetrics().averageCharWidth() - needOfTexts());
     std::sort(texts.begin(), texts.end());
     for (std::size_t at = 0; at < texts.size(); ++at) {
         const int share = room / static_cast<int>(texts.size() - at);
-        const bool takesAll = fills && at + 1 == texts.size();
-        const int width = takesAll ? room : std::min(texts[at].first, share);
+        const bool isLast = texts[at].second == lastText();
+        const int width = std::min(texts[at].first, share) + (isLast ? std::max(spare, 0) : 0);
         table_.setColumnWidth(texts[at].second, width);
-        room -= width;
+        room -= std::min(texts[at].first, share);
     }
 }
 

@@ -12,9 +12,9 @@ class QTableView;
 namespace quorvan {
 
 /// Gives the columns of a table their widths. Amounts and boxes always get what they need; texts get what
-/// the rows that have been in view need, and share what there is where that is too little. What is left
-/// over stays empty where there are boxes, so that they stand near their names. A width that the user has set
-/// stays, also on the next visit.
+/// the rows that have been in view need, and share what there is where that is too little. In a
+/// wide window what is left over stays empty where there are boxes, so that they stand near their names. A
+/// width that the user has set stays, also on the next visit.
 class ColumnWidths : public QObject {
 public:
     enum class Kind {
@@ -39,6 +39,7 @@ private:
     void takeUsersWidths();
     void resized(int column, int width);
     int need(int column);
+    int lastText() const; ///< of those whose width is not the user's; -1 when there is none
 
     QTableView& table_;
     std::vector<Kind> kinds_;

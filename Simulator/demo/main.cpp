@@ -11,6 +11,7 @@
 #include <QIcon>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <map>
@@ -77,6 +78,8 @@ int walkThrough(const QString& folder, bool mainPagesOnly) {
                                      std::fprintf(report, "%s\n", qPrintable(line));
                                      std::fflush(report);
                                  }};
+    const QTemporaryDir state; // each walk finds the windows as nobody has arranged them
+    qputenv("XDG_STATE_HOME", state.path().toUtf8());
     int status = 0;
     if (!mainPagesOnly)
         status = walkThroughAtTwiceTheSize(folder);
@@ -101,6 +104,7 @@ int open(const QString& user, const QString& path) {
     std::printf("The log is in %s\n",
                 quorvan::AppDelegate::logFile((output.folder + "/Library").toStdString()).c_str());
     std::fflush(stdout);
+    qputenv("XDG_STATE_HOME", (output.folder + "/State").toUtf8());
     quorvan::demo::Stage stage(output,
                                quorvan::simulator::Embedded::demo(users.at(user), path.toStdString()));
     return stage.delegate().run();

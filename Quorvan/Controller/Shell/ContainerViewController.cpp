@@ -93,6 +93,14 @@ void ContainerViewController::keepWindowSize() const {
         ViewState().setValue(sizeKey(*page_), frame->size());
 }
 
+/// The window grows by itself where the page needs more room than before.
+bool ContainerViewController::event(QEvent* event) {
+    const bool isTaken = ViewController::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        fittedSize_ = fittedSize_.expandedTo(window()->minimumSizeHint());
+    return isTaken;
+}
+
 /// The window closes.
 void ContainerViewController::hideEvent(QHideEvent* event) {
     keepWindowSize();

@@ -29,6 +29,7 @@ public:
                              const QString& windowTitle) override;
 
 protected:
+    bool event(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
@@ -45,7 +46,7 @@ private:
     void keepWindowSize() const;
 
     QPointer<ViewController> page_; ///< the page in front, once a page has been chosen
-    QSize fittedSize_;              ///< what the page in front was given; any other size is the user's choice
+    QSize fittedSize_; ///< of the window as the page in front needs it; any other is the user's choice
     bool switching_ = false;
     std::optional<Switch> waiting_;
 };
