@@ -1234,5 +1234,83 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>%1 is its path.</extracomment>
     <translation>No program opened the log file: %1</translation>
   </message>
+  <message id="Why_Nothing_Waits_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>There is nothing to apply or to take back</translation>
+  </message>
+  <message id="Why_Needs_Rights_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Takes the Supervisor or Access Control right here</translation>
+  </message>
+  <message id="Why_Needs_Supervisor_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Takes the Supervisor right here</translation>
+  </message>
+  <message id="Why_Both_Shown_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Not while both directories are shown together</translation>
+  </message>
+  <message id="Why_Nobody_Chosen_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Choose a user or group first</translation>
+  </message>
+  <message id="Why_Not_A_User_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Only users have rights through groups</translation>
+  </message>
+  <message id="Why_Read_Only_File_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>What is read-only can be neither renamed nor deleted</translation>
+  </message>
+  <message id="Why_File_Only_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Files are compressed, not folders</translation>
+  </message>
+  <message id="Why_Being_Edited_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>The limit is being edited</translation>
+  </message>
+  <message id="Why_Nothing_Selected_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Select something in the list first</translation>
+  </message>
+  <message id="Why_No_Place_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Say first where to look</translation>
+  </message>
+  <message id="FSR_Not_Allowed_Label">
+    <source></source>
+    <translation>Seeing the paths of a user or group takes the Supervisor right here.</translation>
+  </message>
+  <message id="Group_Rights_Of_Label">
+    <source></source>
+    <extracomment>Above the list of groups; %1 is the name of a user.</extracomment>
+    <translation>What %1 holds through groups</translation>
+  </message>
+  <message id="Salvage_Purge_title">
+    <source></source>
+    <translation>Sal&amp;vage and Purge: not in this version</translation>
+  </message>
+  <message id="Path_Outside_Label">
+    <source></source>
+    <extracomment>%1 is the managed path, %2 are the chosen paths that lie outside.</extracomment>
+    <translation>Not below %1, and so not listed here after Apply: %2</translation>
+  </message>
+  <message id="No_Password_Label">
+    <source></source>
+    <extracomment>%1 is the name of a server.</extracomment>
+    <translation>The keyring holds no password for %1. Mount a share of it in the file manager with “Remember password”, then try again.</translation>
+  </message>
 </context>
 </TS>

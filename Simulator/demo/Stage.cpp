@@ -90,6 +90,11 @@ void Stage::press(const char* control) {
     QApplication::processEvents();
 }
 
+void Stage::choose(const char* menuItem) {
+    find<QAction>(menuItem)->trigger();
+    QApplication::processEvents();
+}
+
 void Stage::type(const char* control, const char* text) {
     auto* field = find<QLineEdit>(control);
     field->setFocus();

@@ -37,7 +37,8 @@ public:
     std::map<std::string, bool> otherFeatures; ///< switches that differ from those of feature.plist
 
     void launch() { delegate_.launch(); }
-    void press(const char* control);                  ///< clicks a button, by its outlet
+    void press(const char* control); ///< clicks a button, by its outlet
+    void choose(const char* menuItem);
     void type(const char* control, const char* text); ///< into a text field
     /// Clicks a box of a rights table.
     void tick(int row, const char* right, const char* tableName = "rightsTable");

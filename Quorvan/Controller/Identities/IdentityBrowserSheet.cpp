@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Identities/IdentityBrowserSheet.h"
 
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/NameListModel.h"
@@ -27,6 +28,7 @@ void IdentityBrowserSheet::loadView() {
 
     selectButton = outlet(new QPushButton(L("Select_title"), this), "selectButton");
     selectButton->setDefault(true);
+    explainWhenGrey(*selectButton, "Why_Nothing_Selected_Label");
     selectButton->setEnabled(false);
     cancelButton = outlet(new QPushButton(L("Cancel_title"), this), "cancelButton");
     connect(selectButton, &QPushButton::clicked, this, [this] { onSelect(); });
@@ -116,6 +118,7 @@ void FetchingBrowserSheet::buildFetchControls(QBoxLayout& page, QWidget* place, 
     label2 = outlet(new QLabel(L(placeLabelKey), this), "label2");
     btnFetch = outlet(new QPushButton(L("Fetch_title"), this), "btnFetch");
     btnFetch->setToolTip(L("Fetch_Tip_Label"));
+    explainWhenGrey(*btnFetch, "Why_No_Place_Label");
     btnFetch->setEnabled(false);
     label1->setBuddy(userTypePopUp);
     label2->setBuddy(place);

@@ -3,6 +3,7 @@
 #include "Quorvan/Controller/Information/InformationViewController.h"
 
 #include "Quorvan/Controller/Information/InformationAttributes.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -69,6 +70,9 @@ QWidget* InformationViewController::buildAttributes() {
         auto* box = outlet(new QCheckBox(tab), each.outletName);
         box->setProperty("identifier", each.identifier);
         box->setToolTip(L(each.tipKey));
+        explainWhenGrey(*box, std::string_view(each.attribute) == "doNotCompress"
+                                  ? "Why_File_Only_Label"
+                                  : "Why_Read_Only_File_Label");
         connect(box, &QCheckBox::clicked, this, [this, box] { onAttrChange(box); });
         this->*each.box = box;
         grid->addWidget(box, at % rows, at / rows);
@@ -140,6 +144,13 @@ void InformationViewController::buildButtons(QVBoxLayout& page) {
 }
 
 void InformationViewController::connectControls() {
+    explainWhenGrey(*changeOwnerButton,
+                    [this] { return isSupervisor ? "Why_Both_Shown_Label" : "Why_Needs_Supervisor_Label"; });
+    explainWhenGrey(*editLimitBtn, [this] {
+        return isSupervisor ? "Why_Being_Edited_Label" : "Why_Needs_Supervisor_Label";
+    });
+    explainWhenGrey(*removeLimitBtn, "Why_Needs_Supervisor_Label");
+    explainWhenGrey(*applyButton, "Why_Nothing_Waits_Label");
     connect(changeOwnerButton, &QPushButton::clicked, this,
             [this] { onSelectTrusteeClick(changeOwnerButton); });
     connect(editLimitBtn, &QPushButton::clicked, this, [this] { onClickEditQuota(editLimitBtn); });

@@ -3,6 +3,7 @@
 #include "Quorvan/Controller/Quota/UserQuotaViewController.h"
 
 #include "Quorvan/Controller/Quota/UserQuotaRows.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
@@ -62,6 +63,11 @@ void UserQuotaViewController::buildControls() {
     closeButton->setToolTip(L("Close_Tip_Label"));
     revert->setToolTip(L("Revert_Tip_Label"));
     applyButton->setToolTip(L("Apply_Tip_Label"));
+    for (QPushButton* button : {addUQButton, editUQButton, removeUQButton})
+        explainWhenGrey(
+            *button, [this] { return isSupervisor ? "Why_Both_Shown_Label" : "Why_Needs_Supervisor_Label"; });
+    for (QPushButton* button : {revert, applyButton})
+        explainWhenGrey(*button, "Why_Nothing_Waits_Label");
 }
 
 void UserQuotaViewController::layOutControls() {

@@ -4,6 +4,7 @@
 #include "Common/Fatal.h"
 #include "Platform/Services.h"
 #include "Quorvan/Toolkit/FileTreeModel.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
@@ -15,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include <map>
+#include <utility>
 
 namespace quorvan {
 
@@ -87,6 +89,7 @@ void BrowseFolderViewController::viewDidLoad() {
     setWindowTitle(L("Browse_Folder_Title"));
     cancelBtn->setText(L("Cancel_title"));
     selectBtn->setText(L("Select_title"));
+    explainWhenGrey(*selectBtn, "Why_Nothing_Selected_Label");
     selectBtn->setEnabled(false);
     const std::string root = "/Volumes/" + unwrap(volpath, "The folder browser was given no volume");
     pathController->setPath(QString::fromStdString(root));
@@ -99,11 +102,32 @@ void BrowseFolderViewController::viewDidLoad() {
     connect(fileBrowser->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             [this] { onSelectingfile(fileBrowser); });
     fileBrowser->expand(model_->index(0, 0));
+    goTo(startPath);
 
     const bool isMounted =
         platform::services().volumes->kindOf(root) != platform::LocalVolumes::Kind::nothing;
     notMountedLabel->setText(L("Volume_Not_Mounted_Label").arg(QString::fromStdString(*volpath)));
     notMountedLabel->setVisible(!isMounted);
+}
+
+/// Opens the folders on the way, and leaves the keyboard on the last one; nothing is chosen yet.
+void BrowseFolderViewController::goTo(const std::string& path) {
+    QModelIndex at = model_->index(0, 0);
+    const auto isOnTheWay = [&](const QModelIndex& index) {
+        const std::string folder = model_->item(index).path();
+        return path == folder || path.starts_with(folder + '/');
+    };
+    if (!isOnTheWay(at))
+        return;
+    for (bool goesOn = true; std::exchange(goesOn, false);)
+        for (int row = 0; row < model_->rowCount(at) && !goesOn; ++row)
+            if (const QModelIndex child = model_->index(row, 0, at); isOnTheWay(child)) {
+                goesOn = true;
+                at = child;
+                fileBrowser->expand(at);
+            }
+    fileBrowser->selectionModel()->setCurrentIndex(at, QItemSelectionModel::NoUpdate);
+    fileBrowser->scrollTo(at, QAbstractItemView::PositionAtCenter);
 }
 
 void BrowseFolderViewController::viewDidAppear() {

@@ -40,6 +40,7 @@ public:
     /// `delegate` is usually `owner` itself; a browser that outlives `owner` has no receiver.
     void setBrowseFileDelegate(ViewController& owner, BrowseFolderDelegate& delegate);
     std::optional<std::string> volpath; ///< the volume's name below /Volumes
+    std::string startPath;              ///< what the tree is opened at, where it is in it
 
     std::optional<FileItem> rootFileItem;
 
@@ -54,6 +55,8 @@ public:
     void onCancel(QObject* sender);
 
 private:
+    void goTo(const std::string& path);
+
     QPointer<ViewController> owner_;
     BrowseFolderDelegate* browseFileDelegate_ = nullptr; ///< lives as long as owner_
     FileTreeModel* model_ = nullptr;

@@ -2,6 +2,7 @@
 // The controls of the directory trustees tab and their layout.
 #include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
 
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
@@ -25,6 +26,8 @@ void DirectoryTrusteeViewController::loadView() {
     applybtn = outlet(new QPushButton(this), "applybtn");
     revertbtn->setToolTip(L("Revert_Tip_Label"));
     applybtn->setToolTip(L("Apply_Tip_Label"));
+    for (QPushButton* button : {revertbtn, applybtn})
+        explainWhenGrey(*button, "Why_Nothing_Waits_Label");
     connect(revertbtn, &QPushButton::clicked, this, [this] { onRevertClick(revertbtn); });
     connect(applybtn, &QPushButton::clicked, this, [this] { onApplyClick(applybtn); });
     layOutControls();
@@ -41,6 +44,7 @@ void DirectoryTrusteeViewController::buildSides() {
         side.removeLabel = new QLabel(this);
         side.removeBtn = new QPushButton(this);
         side.removeBtn->setToolTip(L("Remove_Tip_Label"));
+        explainWhenGrey(*side.removeBtn, "Why_Needs_Rights_Label");
         side.table->setEnablingRule(
             [this](std::uint16_t bit) { return bit == KelpRights::supervisor ? isSupervisor : canEdit(); });
         side.table->setClickHandler(

@@ -2,6 +2,7 @@
 // The controls of the file-system rights page and their layout.
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -45,6 +46,11 @@ void FileSystemRightsViewController::buildIdentity() {
     selectUserBtn->setToolTip(L("Choose_FSR_Tip_Label"));
     grpBtn = outlet(new QPushButton(this), "grpBtn");
     grpBtn->setToolTip(L("Group_Rights_Tip_Label"));
+    explainWhenGrey(*selectUserBtn,
+                    [this] { return isSupervisor ? "Why_Both_Shown_Label" : "Why_Needs_Supervisor_Label"; });
+    explainWhenGrey(*grpBtn, [this] {
+        return selectedTrusteeID.empty() ? "Why_Nobody_Chosen_Label" : "Why_Not_A_User_Label";
+    });
     readOnlyLabel = outlet(new QLabel(L("FSR_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
     connect(selectUserBtn, &QPushButton::clicked, this, [this] { onSelectTrusteeClick(selectUserBtn); });
@@ -80,6 +86,12 @@ void FileSystemRightsViewController::buildButtons() {
     cancelBtn->setToolTip(L("Close_Tip_Label"));
     revertBtn->setToolTip(L("Revert_Tip_Label"));
     applyBtn->setToolTip(L("Apply_Tip_Label"));
+    for (QPushButton* button : {addBtn, removeBtn})
+        explainWhenGrey(*button, [this] {
+            return isSupervisor ? "Why_Nobody_Chosen_Label" : "Why_Needs_Supervisor_Label";
+        });
+    for (QPushButton* button : {revertBtn, applyBtn})
+        explainWhenGrey(*button, "Why_Nothing_Waits_Label");
     for (QPushButton* button : {selectUserBtn, grpBtn, addBtn, removeBtn, revertBtn, applyBtn})
         button->setEnabled(false); // until an identity is chosen, or there is something to send
     connect(addBtn, &QPushButton::clicked, this, [this] { onAddPath(addBtn); });

@@ -13,8 +13,10 @@
 #include "Quorvan/Toolkit/ChangeButtons.h"
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/NameSort.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/Segue.h"
+#include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/Storyboard.h"
 
 #include <QLabel>
@@ -100,7 +102,9 @@ void FileSystemRightsViewController::showLoadedRows() {
 
 void FileSystemRightsViewController::redisplay() {
     fsrTable->reloadData();
-    fsrTable->setEmptyText(L(selectedTrusteeID.empty() ? "FSR_Nobody_Label" : "FSR_No_Paths_Label"));
+    fsrTable->setEmptyText(L(!selectedTrusteeID.empty() ? "FSR_No_Paths_Label"
+                             : isSupervisor             ? "FSR_Nobody_Label"
+                                                        : "FSR_Not_Allowed_Label"));
     showPending();
 }
 
@@ -175,12 +179,14 @@ void FileSystemRightsViewController::prepare(const Segue& segue) {
         auto& browser = dynamic_cast<BrowseFolderViewController&>(*segue.destination);
         browser.setBrowseFileDelegate(*this, *this);
         browser.volpath = mappedPath.substr(0, mappedPath.find(':'));
+        browser.startPath = ServerDetails::serverInfo().selectedAbsolutePath.value_or("");
     } else if (segue.identifier == "browseGroupRights") {
         auto& groups = dynamic_cast<GroupRightsViewController&>(*segue.destination);
         groups.trusteeID = selectedTrusteeID;
         groups.selectedPath = selectedPath;
         groups.SelectedTrusteeName = SelectedTrusteeName;
         groups.domainIdentity = domainIdentity;
+        groups.whose = namefield->text();
     }
 }
 
@@ -198,6 +204,7 @@ void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std:
     std::unordered_set<std::string> listed;
     for (const auto& row : editedfrightsList)
         listed.insert(row->fpath);
+    QStringList outside;
     for (const std::string& address : selpath) {
         // The address is a URL, the server's path is not.
         const std::string path = formatPath(platform::percentUnescaped(address));
@@ -206,9 +213,20 @@ void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std:
         Log("Appended %@ to FSR table", address);
         editedfrightsList.push_back(std::make_shared<FileRights>(FileRights{path, newTrusteeRights}));
         track(editedfrightsList.back(), "ADD");
+        if (!isBelowSelection(path))
+            outside.append(shownText(path));
     }
     redisplay();
     setChangesEnabled(true);
+    if (!outside.isEmpty())
+        NoticeLine::tell(
+            NoticeLine::Kind::problem,
+            L("Path_Outside_Label").arg(shownText(selectedPath), outside.join(QStringLiteral(", "))));
+}
+
+/// Only what lies there is in the list that is read.
+bool FileSystemRightsViewController::isBelowSelection(const std::string& path) const {
+    return lowercased(path).starts_with(lowercased(selectedPath));
 }
 
 void FileSystemRightsViewController::track(std::shared_ptr<FileRights> rights, const char* status) {
@@ -253,9 +271,7 @@ void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
 
 /// What lies outside of the selection is not in the list that was read, and nothing is known of it.
 void FileSystemRightsViewController::tellOutcomeOf(std::vector<PendingChange> sent) const {
-    std::erase_if(sent, [this](const PendingChange& change) {
-        return !lowercased(change.identity).starts_with(lowercased(selectedPath));
-    });
+    std::erase_if(sent, [this](const PendingChange& change) { return !isBelowSelection(change.identity); });
     std::unordered_map<std::string, std::int64_t> now;
     for (const IdentityFileRights& row : frightsList)
         now[row.rights.fpath] = row.rights.frights;

@@ -99,6 +99,7 @@ private:
     void showLoadedRows();
     bool reloadChosenIdentity();
     void send(const TrackedRights& change);
+    bool isBelowSelection(const std::string& path) const;
     void track(std::shared_ptr<FileRights> rights, const char* status);
     void setChangesEnabled(bool enabled);
     void redisplay();

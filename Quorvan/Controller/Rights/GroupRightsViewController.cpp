@@ -5,11 +5,13 @@
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/DistinguishedName.h"
 #include "Quorvan/Modal/Utils.h"
+#include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -60,8 +62,10 @@ void GroupRightsViewController::loadView() {
     connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });
     connect(closeBtn, &QPushButton::clicked, this, [this] { onClose(closeBtn); });
 
+    whoseLabel = outlet(new QLabel(this), "whoseLabel");
+    whoseLabel->setTextFormat(Qt::PlainText);
     auto* heading = new QHBoxLayout;
-    heading->addStretch();
+    heading->addWidget(whoseLabel, 1);
     heading->addWidget(searchField);
     auto* page = new QVBoxLayout(this);
     page->addLayout(heading);
@@ -79,6 +83,7 @@ void GroupRightsViewController::initGroupRightsView() {
     groupRightsTable->setColumnHeader(0, L("Col_Group"));
     groupRightsTable->setColumnHeader(1, L("Col_Path"));
     closeBtn->setText(L("Close_title"));
+    whoseLabel->setText(L("Group_Rights_Of_Label").arg(shownText(whose)));
 }
 
 QSize GroupRightsViewController::sizeHint() const {

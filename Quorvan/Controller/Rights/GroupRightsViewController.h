@@ -10,6 +10,7 @@
 
 #include <memory>
 
+class QLabel;
 class QPushButton;
 
 namespace quorvan {
@@ -18,6 +19,7 @@ namespace quorvan {
 class GroupRightsViewController : public ViewController, public SelectionContext {
 public:
     // Outlets
+    QLabel* whoseLabel = nullptr;
     SearchField* searchField = nullptr;
     RightsTable* groupRightsTable = nullptr;
     QPushButton* closeBtn = nullptr;
@@ -25,6 +27,7 @@ public:
     // Set before the sheet is presented, as are selectedPath and domainIdentity
     std::string trusteeID;
     std::string SelectedTrusteeName; ///< the user's name in the tree
+    QString whose;                   ///< the user's name as it is shown
 
     /// What a group holds on a path.
     struct GroupRow {

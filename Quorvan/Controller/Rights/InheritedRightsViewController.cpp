@@ -4,6 +4,7 @@
 #include "Common/Fatal.h"
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -49,6 +50,8 @@ void InheritedRightsViewController::loadView() {
     applyBtn = outlet(new QPushButton(this), "applyBtn");
     revertBtn->setToolTip(L("Revert_Tip_Label"));
     applyBtn->setToolTip(L("Apply_Tip_Label"));
+    for (QPushButton* button : {revertBtn, applyBtn})
+        explainWhenGrey(*button, "Why_Nothing_Waits_Label");
     connect(revertBtn, &QPushButton::clicked, this, [this] { onRevert(revertBtn); });
     connect(applyBtn, &QPushButton::clicked, this, [this] { onApply(applyBtn); });
     reloadOnRefreshKey(*this, pendingLine, [this] {
@@ -64,10 +67,11 @@ void InheritedRightsViewController::buildBoxes() {
         QCheckBox* box = outlet(filterBoxes->box(kind.bit), kind.name);
         this->*kind.outlet = box;
         box->setToolTip(L("Inherited_Box_Tip_Label").arg(box->text()));
+        explainWhenGrey(*box, kind.bit == KelpRights::supervisor ? "Inherited_Supervisor_Tip_Label"
+                                                                 : "Why_Needs_Rights_Label");
         connect(box, &QCheckBox::clicked, this, [this, box] { onAnyIRFClick(box); });
     }
     supervisorIRF->setEnabled(false);
-    supervisorIRF->setToolTip(L("Inherited_Supervisor_Tip_Label"));
 }
 
 void InheritedRightsViewController::layOutControls() {

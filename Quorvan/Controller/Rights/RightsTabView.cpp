@@ -2,6 +2,7 @@
 // The controls of the trustee rights tab and their layout.
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -42,6 +43,11 @@ void RightsTabViewController::buildControls() {
     removeBtn->setToolTip(L("Remove_Tip_Label"));
     revertBtn->setToolTip(L("Revert_Tip_Label"));
     applyBtn->setToolTip(L("Apply_Tip_Label"));
+    explainWhenGrey(*addBtn,
+                    [this] { return canEdit() ? "Why_Both_Shown_Label" : "Why_Needs_Rights_Label"; });
+    explainWhenGrey(*removeBtn, "Why_Needs_Rights_Label");
+    for (QPushButton* button : {revertBtn, applyBtn})
+        explainWhenGrey(*button, "Why_Nothing_Waits_Label");
 }
 
 void RightsTabViewController::layOutControls() {

@@ -18,7 +18,9 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <array>
@@ -29,14 +31,6 @@ namespace {
 template <class PageSegueType>
 void follow(MainViewController& from, const char* page) {
     PageSegueType(&from, Storyboard::named("Main").instantiate(page)).perform();
-}
-
-void followToSalvage(MainViewController& from, const char* page) {
-    SalvagePurgeSegueController("salvageSegue", &from, Storyboard::named("Main").instantiate(page)).perform();
-}
-
-void followToPurge(MainViewController& from, const char* page) {
-    SalvagePurgeSegueController("purgeSegue", &from, Storyboard::named("Main").instantiate(page)).perform();
 }
 
 /// What an entry of the page looks like and where it leads.
@@ -53,7 +47,7 @@ struct EntryKind {
 };
 
 using Page = MainViewController;
-const std::array<EntryKind, 7> entryKinds = {{
+const std::array<EntryKind, 5> entryKinds = {{
     {&Page::TrusteeRightsView, &Page::menu1, "TrusteeRightsView", "menu1", "Trustee_Rights_Title",
      "Trustee_Rights_Description_Label", "page_trustee_rights", "trusteeRightsView",
      follow<TrusteeRightsSegue>},
@@ -66,10 +60,6 @@ const std::array<EntryKind, 7> entryKinds = {{
      "Information_Description_Label", "page_information", "informationView", follow<InformationSegue>},
     {&Page::SettingView, &Page::menu4, "SettingView", "menu4", "Settings_Title", "Settings_Description_Label",
      "page_settings", "settingsView", follow<SettingsSegue>},
-    {&Page::SalvageView, &Page::menuSalvage, "SalvageView", "menuSalvage", "Salvage_Title",
-     "Salvage_Description_Label", "page_salvage", "salvagePurgeView", followToSalvage},
-    {&Page::PurgeView, &Page::menuPurge, "PurgeView", "menuPurge", "Purge_Title", "Purge_Description_Label",
-     "page_purge", "salvagePurgeView", followToPurge},
 }};
 
 bool loggedInUserIsKnown() {
@@ -125,26 +115,41 @@ void MainViewController::buildHeader() {
 
 void MainViewController::buildEntries() {
     MainView = outlet(new QWidget(this), "MainView");
-    SalvagePurgeView = outlet(new QWidget(this), "SalvagePurgeView");
-    auto* main = new QVBoxLayout(MainView);
-    auto* deletedFiles = new QHBoxLayout(SalvagePurgeView);
-    for (QBoxLayout* entries : {static_cast<QBoxLayout*>(main), static_cast<QBoxLayout*>(deletedFiles)}) {
-        entries->setContentsMargins(0, 0, 0, 0);
-        entries->setSpacing(8);
-    }
+    auto* entries = new QVBoxLayout(MainView);
+    entries->setContentsMargins(0, 0, 0, 0);
+    entries->setSpacing(8);
     for (const EntryKind& kind : entryKinds) {
-        const bool isMain = kind.page != std::string_view("salvagePurgeView");
         auto* entry = outlet(new MenuEntry(kind.iconName, L(kind.descriptionKey), this), kind.viewName);
         this->*kind.view = entry;
         this->*kind.label = outlet(entry->title, kind.labelName);
-        (isMain ? static_cast<QBoxLayout*>(main) : deletedFiles)->addWidget(entry, isMain ? 0 : 1);
+        entries->addWidget(entry);
         connect(entry, &QPushButton::clicked, this, [this, &kind] {
             NoticeLine::forget();
             kind.follow(*this, kind.page);
         });
     }
     layout()->addWidget(MainView);
-    layout()->addWidget(SalvagePurgeView);
+    buildDeletedFiles();
+}
+
+void MainViewController::buildDeletedFiles() {
+    SalvagePurgeView = outlet(new QToolButton(this), "SalvagePurgeView");
+    SalvagePurgeView->setText(L("Salvage_Purge_title"));
+    SalvagePurgeView->setAutoRaise(true);
+    SalvagePurgeView->setFocusPolicy(Qt::StrongFocus);
+    SalvagePurgeView->setPopupMode(QToolButton::InstantPopup);
+    auto* menu = new QMenu(SalvagePurgeView);
+    for (const char* segue : {"salvageSegue", "purgeSegue"}) {
+        QAction* action = menu->addAction(L(salvagePurgeTitleKey(segue)), this, [this, segue] {
+            NoticeLine::forget();
+            SalvagePurgeSegueController(segue, this,
+                                        Storyboard::named("Main").instantiate("salvagePurgeView"))
+                .perform();
+        });
+        action->setObjectName(QLatin1String(segue));
+    }
+    SalvagePurgeView->setMenu(menu);
+    static_cast<QVBoxLayout*>(layout())->addWidget(SalvagePurgeView, 0, Qt::AlignLeft);
 }
 
 void MainViewController::viewDidLoad() {
@@ -174,6 +179,9 @@ void MainViewController::checkLoggedInUser() {
     if (!pipe.isOpen()) {
         Log("Failed with err - %d", pipe.status());
         displayErrorMsg(errorCode::operationFailed);
+        if (pipe.status() == errSecItemNotFound)
+            NoticeLine::tell(NoticeLine::Kind::problem,
+                             L("No_Password_Label").arg(QString::fromStdString(serverIP)));
         return;
     }
     const std::string userType = xmlController->getUserType();
@@ -206,6 +214,7 @@ void MainViewController::updateEntries() {
     const bool known = loggedInUserIsKnown();
     for (const EntryKind& kind : entryKinds)
         (this->*kind.view)->setEnabled(known);
+    SalvagePurgeView->setEnabled(known);
     tryAgainBtn->setVisible(!known);
 }
 
@@ -229,8 +238,6 @@ void MainViewController::layOutWithoutSettings() {
     place(FileSystemRightsView, right, upper);
     place(DirectoryQuotaView, left, lower);
     place(UserQuotaView, right, lower);
-    for (MenuEntry* entry : {SalvageView, PurgeView})
-        entry->hideDescription();
 }
 
 } // namespace quorvan

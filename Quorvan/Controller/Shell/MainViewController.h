@@ -12,6 +12,7 @@
 
 class QLabel;
 class QPushButton;
+class QToolButton;
 
 namespace quorvan {
 
@@ -30,17 +31,13 @@ public:
     QLabel* menu3 = nullptr; ///< user quota
     QLabel* menu4 = nullptr; ///< settings
     QLabel* menu6 = nullptr; ///< information
-    QLabel* menuSalvage = nullptr;
-    QLabel* menuPurge = nullptr;
     MenuEntry* SettingView = nullptr;
     QWidget* MainView = nullptr;
     MenuEntry* DirectoryQuotaView = nullptr; ///< the information entry
     MenuEntry* UserQuotaView = nullptr;
     MenuEntry* TrusteeRightsView = nullptr;
     MenuEntry* FileSystemRightsView = nullptr;
-    QWidget* SalvagePurgeView = nullptr; ///< below MainView, whose size is fixed in some installations
-    MenuEntry* SalvageView = nullptr;
-    MenuEntry* PurgeView = nullptr;
+    QToolButton* SalvagePurgeView = nullptr; ///< the way to both pages, which can do nothing yet
     PathLabel* managedPath = nullptr;
     QLabel* managedServer = nullptr;
     QPushButton* tryAgainBtn = nullptr; ///< only there while the kind of the logged-in user is unknown
@@ -63,6 +60,7 @@ public:
 private:
     void buildHeader();
     void buildEntries();
+    void buildDeletedFiles();
     void updateEntries();
     void layOutWithoutSettings();
 };

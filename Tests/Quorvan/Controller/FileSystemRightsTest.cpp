@@ -88,7 +88,11 @@ TEST_F(FileSystemRightsTest, TheFolderBrowserHandsOnWhatIsSelectedInTheOrderOfTh
                                                QString::fromStdString(name), 1, Qt::MatchExactly);
         return found.isEmpty() ? QModelIndex() : found.front();
     };
-    const QModelIndex tests = child(tree.model()->index(0, 0), "Tests");
+    const QModelIndex volumeItem = tree.model()->index(0, 0);
+    EXPECT_EQ(tree.currentIndex(), child(child(volumeItem, "Tests"), "Box")) << "it opens where the user is";
+    tree.collapse(volumeItem);
+    tree.expand(volumeItem);
+    const QModelIndex tests = child(volumeItem, "Tests");
     tree.setCurrentIndex(tests);
     QTest::keyClick(&tree, Qt::Key_Asterisk);
     EXPECT_FALSE(tree.isExpanded(child(tests, "Box"))) << "one key would open all folders of the volume";
@@ -118,6 +122,7 @@ TEST_F(FileSystemRightsTest, TheFolderBrowserHandsOnWhatIsSelectedInTheOrderOfTh
     for (const auto& row : view<Page>().editedfrightsList | std::views::drop(2))
         added.push_back(row->fpath);
     EXPECT_EQ(added, expected);
+    EXPECT_EQ(value("noticeText"), "Path_Outside_Label") << "one of them is above the managed path";
 }
 
 TEST_F(FileSystemRightsTest, TheFolderBrowserLooksOnlyIntoFoldersThatCanBeSeen) {

@@ -46,11 +46,12 @@ TEST_F(MainWindowTest, OpensWithoutAnAnswerAndAsksAgainOnRequest) {
         world.server->misbehaviour.openError = openError;
         openWindow();
         EXPECT_THAT(log.take(), Contains(line));
+        EXPECT_EQ(isShown("noticeText"), std::string_view(line).ends_with("-25300")) << "says what to do";
         EXPECT_EQ(reached(), "tryAgainBtn") << "no view could say whose rights it shows";
         play("tryAgainBtn | alerts Err_Operation_Failed, Err_Operation_Failed | TrusteeRightsView grey");
         mend();
         forgetServer();
-        play("tryAgainBtn | alerts | TrusteeRightsView ready | SalvageView ready | tryAgainBtn hidden");
+        play("tryAgainBtn | alerts | TrusteeRightsView ready | SalvagePurgeView ready | tryAgainBtn hidden");
     }
     breakPipes();
     defaultOf("loggedUserType") = "Morvane";
@@ -60,11 +61,11 @@ TEST_F(MainWindowTest, OpensWithoutAnAnswerAndAsksAgainOnRequest) {
 }
 
 TEST_F(MainWindowTest, LeadsToEveryPageByKeyAndBackAskingAnew) {
-    const std::pair<const char*, const char*> pages[] = {
-        {"Trustee_Rights_Title", "closeBtn"}, {"File_System_Rights_Title", "cancelBtn"},
-        {"User_Quota_Title", "closeButton"},  {"Information_Title", "closeButton"},
-        {"Settings_Title", "CloseBtn"},       {"Salvage_Title", "closeButton"},
-        {"Purge_Title", "closeButton"}};
+    const std::pair<const char*, const char*> pages[] = {{"Trustee_Rights_Title", "closeBtn"},
+                                                         {"File_System_Rights_Title", "cancelBtn"},
+                                                         {"User_Quota_Title", "closeButton"},
+                                                         {"Information_Title", "closeButton"},
+                                                         {"Settings_Title", "CloseBtn"}};
     openWindow();
     for (std::size_t number = 0; const auto& [pageTitle, closeButton] : pages) {
         for (std::size_t step = 0; step < number; ++step)
@@ -127,7 +128,7 @@ TEST_F(MainWindowTest, LeavesThePlaceOfTheSettingsOutWhereTheyAreSwitchedOff) {
 TEST_F(MainWindowTest, LeadsToTheDeletedFilesAndSendsNothing) {
     openWindow();
     for (const auto& [entry, name] :
-         {std::pair{"SalvageView", "Salvage_Title"}, {"PurgeView", "Purge_Title"}}) {
+         {std::pair{"salvageSegue", "Salvage_Title"}, {"purgeSegue", "Purge_Title"}}) {
         EXPECT_EQ(act(entry).value("deletedFileButton"), name);
         for (const std::string button : {"deletedFileButton", "moreInfoButton"}) {
             EXPECT_EQ(act(button).value("actionButton"), name);

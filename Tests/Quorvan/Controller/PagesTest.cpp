@@ -261,6 +261,25 @@ TEST_F(PagesTest, HandOnWhatTheTablesShow) {
     }
 }
 
+/// What is grey says why, in its tip and so to a screen reader.
+TEST_F(PagesTest, SayWhyAControlIsGrey) {
+    for (const char* page :
+         {"rights", "inherited", "effective", "folders", "files", "quota", "information", "limit"})
+        for (const char* user : {demo::supervisor, demo::accessControl, demo::readOnly}) {
+            open(page, user);
+            for (const auto* button : window->findChildren<QAbstractButton*>())
+                if (button->isVisible() && !button->isEnabled() && button->parentWidget()->isEnabled()) {
+                    EXPECT_THAT(button->toolTip().toStdString(),
+                                testing::AnyOf(testing::StartsWith("Why_"), "Choose_Needs_Rights_Label",
+                                               "Inherited_Supervisor_Tip_Label"))
+                        << page << ' ' << user << ' ' << button->objectName().toStdString();
+                }
+        }
+    EXPECT_EQ(open("files").value("addBtn", "toolTip"), "Why_Nobody_Chosen_Label");
+    EXPECT_EQ(open("files", demo::readOnly).value("addBtn", "toolTip"), "Why_Needs_Supervisor_Label");
+    EXPECT_EQ(open("rights").act("removeBtn").value("applyBtn", "toolTip"), "Apply_Tip_Label");
+}
+
 /// The keyboard, the selection and the place in the list belong to who is in the row, not to its number.
 TEST_F(PagesTest, KeepTheKeyboardWithTheIdentity) {
     const struct {
@@ -477,9 +496,9 @@ quota       | addUQButton | selectTrusteeBtn quotaLimitTextField selectUnit canc
 information | hideChk | hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton pendingLine applyButton changeOwnerButton tabs readChk
 limit       | editLimitBtn | dirQuotaLimit selectUnit removeLimitBtn closeButton pendingLine applyButton changeOwnerButton tabs
 settings    | key Tab | CloseBtn ListBoth
-settings    | CloseBtn | TrusteeRightsView FileSystemRightsView UserQuotaView DirectoryQuotaView SettingView SalvageView PurgeView
-settings    | CloseBtn, PurgeView | deletedFileButton moreInfoButton closeButton
-settings    | CloseBtn, SalvageView, moreInfoButton | cancelButton
+settings    | CloseBtn | TrusteeRightsView FileSystemRightsView UserQuotaView DirectoryQuotaView SettingView SalvagePurgeView
+settings    | CloseBtn, purgeSegue | deletedFileButton moreInfoButton closeButton
+settings    | CloseBtn, salvageSegue, moreInfoButton | cancelButton
 rights      | removeBtn | removeBtn revertBtn applyBtn closeBtn tabs searchField rightsTable addBtn
 rights      | addBtn | userTypePopUp domainPopUp userListTable cancelButton
 )");

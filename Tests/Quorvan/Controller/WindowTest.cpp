@@ -209,6 +209,10 @@ void WindowTest::actOnTable(const QString& verb, ListTable& list, const QStringL
 }
 
 void WindowTest::click(const std::string& name) {
+    if (auto* item = front().findChild<QAction*>(QString::fromStdString(name))) {
+        EXPECT_TRUE(item->isEnabled()) << name;
+        return item->trigger();
+    }
     auto& target = control(name);
     EXPECT_TRUE(target.isEnabled()) << name;
     const bool hasMark = !target.inherits("QPushButton"); // is hit on its mark and text alone
