@@ -201,7 +201,7 @@
   </message>
   <message id="Morvane_Trustee_Label">
     <source></source>
-    <translation>Show &amp;Morvane trustees too</translation>
+    <translation>Show M&amp;orvane trustees too</translation>
   </message>
   <message id="AD_Trustee_Label">
     <source></source>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/ListTable.h"
 
+#include "Quorvan/Toolkit/CheckBox.h"
 #include "Quorvan/Toolkit/ListModel.h"
 #include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
@@ -255,7 +256,8 @@ void ListTable::paintEvent(QPaintEvent* event) {
     if (list_->rowCount() > 0 || emptyText_.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    // Quieter than the rows, but legible in every palette; a placeholder's own colour often is not.
+    painter.setPen(mixedColor(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.67F));
     painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
                      emptyText_);
 }

@@ -2,11 +2,9 @@
 #include "Quorvan/Toolkit/RightsBoxes.h"
 
 #include "Common/Fatal.h"
+#include "Quorvan/Toolkit/CheckBox.h"
 #include "Quorvan/Toolkit/Localized.h"
-#include "Quorvan/Toolkit/ReadOnlyPalette.h"
 
-#include <QCheckBox>
-#include <QEvent>
 #include <QGridLayout>
 
 namespace quorvan {
@@ -17,13 +15,12 @@ RightsBoxes::RightsBoxes(int columns, QWidget* parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(3 * fontMetrics().averageCharWidth());
     for (std::size_t right = 0; right < boxes_.size(); ++right) {
-        boxes_[right] = new QCheckBox(plainL(rightsColumns[right].nameKey), this);
+        boxes_[right] = new CheckBox(plainL(rightsColumns[right].nameKey), this);
         boxes_[right]->setProperty("identifier", rightsColumns[right].checkID);
         const int place = static_cast<int>(right);
         grid->addWidget(boxes_[right], place / columns, place % columns);
     }
     grid->setColumnStretch(columns, 1);
-    keepLegibleWhenDisabled(*this);
 }
 
 QCheckBox* RightsBoxes::box(std::uint16_t bit) const {
@@ -62,12 +59,6 @@ void RightsBoxes::sayUnknown(bool isUnknown) {
             box->setAccessibleDescription(text);
         }
     }
-}
-
-void RightsBoxes::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        keepLegibleWhenDisabled(*this);
 }
 
 } // namespace quorvan

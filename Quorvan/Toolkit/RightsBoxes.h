@@ -26,9 +26,6 @@ public:
     /// Shows of no right whether it is held.
     void setUnknown();
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
     void sayUnknown(bool isUnknown);
 

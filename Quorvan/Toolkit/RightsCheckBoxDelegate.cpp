@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/RightsCheckBoxDelegate.h"
 
-#include "Quorvan/Toolkit/ReadOnlyPalette.h"
+#include "Quorvan/Toolkit/CheckBox.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -26,19 +26,19 @@ QRect boxRect(const QRect& cell, const QWidget* widget) {
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, cell);
 }
 
-/// Styles outline a box with a darkened window colour, which is lost on a dark table, and grey out a
-/// disabled tick until it cannot be told from none. A table is there to be read.
-QPalette boxPalette(QPalette palette, bool enabled) {
-    palette.setCurrentColorGroup(QPalette::Active);
-    const QColor base = palette.color(QPalette::Base);
-    const QColor text = palette.color(QPalette::Text);
-    if (base.lightness() < 128)
-        palette.setColor(QPalette::Window, mixedColor(base, text, enabled ? 0.75F : 0.4F));
-    if (!enabled) {
-        palette.setColor(QPalette::Base, mixedColor(base, text, 0.09F));
-        palette.setColor(QPalette::Text, mixedColor(base, text, 0.75F));
-    }
-    return palette;
+void paintBox(QPainter* painter, const QRect& area, const QStyleOptionViewItem& option, bool ticked,
+              bool pressed) {
+    QStyleOptionButton box;
+    box.rect = area;
+    box.palette = boxPalette(option.palette);
+    box.direction = option.direction;
+    box.fontMetrics = option.fontMetrics;
+    box.state = option.state & (QStyle::State_Active | QStyle::State_MouseOver);
+    box.state.setFlag(QStyle::State_Enabled);
+    box.state.setFlag(QStyle::State_Sunken, pressed);
+    box.state.setFlag(QStyle::State_On, ticked);
+    box.state.setFlag(QStyle::State_Off, !ticked);
+    styleOf(option.widget)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, option.widget);
 }
 
 void paintFocusRing(QPainter* painter, const QRect& area, const QStyleOptionViewItem& option) {
@@ -63,20 +63,12 @@ void RightsCheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     QStyleOptionViewItem cell = option;
     style->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, option.widget);
 
-    const bool enabled = index.flags().testFlag(Qt::ItemIsUserCheckable);
-    const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    QStyleOptionButton box;
-    box.rect = boxRect(option.rect, option.widget);
-    box.palette = boxPalette(option.palette, enabled);
-    box.direction = option.direction;
-    box.fontMetrics = option.fontMetrics;
-    box.state = option.state & QStyle::State_Active;
-    box.state.setFlag(QStyle::State_Enabled, enabled);
-    box.state.setFlag(QStyle::State_MouseOver, enabled && option.state.testFlag(QStyle::State_MouseOver));
-    box.state.setFlag(QStyle::State_Sunken, pressed_ == index);
-    box.state.setFlag(QStyle::State_On, ticked);
-    box.state.setFlag(QStyle::State_Off, !ticked);
-    style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, option.widget);
+    const auto ticked = static_cast<Qt::CheckState>(index.data(Qt::CheckStateRole).toInt());
+    const QRect box = boxRect(option.rect, option.widget);
+    if (index.flags().testFlag(Qt::ItemIsUserCheckable))
+        paintBox(painter, box, option, ticked == Qt::Checked, pressed_ == index);
+    else
+        paintReadOnlyBox(*painter, box, option.palette, ticked);
     if (option.state.testFlag(QStyle::State_HasFocus))
         paintFocusRing(painter, boxArea(option.rect, option.widget), option);
 }

@@ -9,7 +9,8 @@ namespace quorvan {
 
 void TextDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
-    option->textElideMode = elide_;
+    // The end of a name behind a domain tells it from others, and so does the end of a path.
+    option->textElideMode = option->text.contains(QLatin1Char('\\')) ? Qt::ElideLeft : elide_;
     const auto* list = dynamic_cast<const ListModel*>(index.model());
     if (const auto pending = list != nullptr ? list->pending(index.row()) : std::nullopt) {
         option->font.setBold(true);

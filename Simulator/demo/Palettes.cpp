@@ -46,4 +46,9 @@ QPalette darkPalette() {
                       0xff1c1d1f, 0xff101112, 0xff2f7fc2, 0xff6db3f2, 0xff83878d, 0xff3a3d41});
 }
 
+QPalette contrastPalette() {
+    return paletteOf({0xff000000, 0xffffffff, 0xff000000, 0xff000000, 0xff000000, 0xffffffff, 0xffffffff,
+                      0xffffffff, 0xffffffff, 0xff8000ff, 0xffffff00, 0xff3ff23f, 0xff000000});
+}
+
 } // namespace quorvan::demo

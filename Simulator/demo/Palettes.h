@@ -5,8 +5,9 @@
 
 namespace quorvan::demo {
 
-/// The colours of a usual light and a usual dark desktop, whatever this machine is set to.
+/// The colours of a usual light, a usual dark and a high-contrast desktop, whatever this machine is set to.
 QPalette lightPalette();
 QPalette darkPalette();
+QPalette contrastPalette();
 
 } // namespace quorvan::demo

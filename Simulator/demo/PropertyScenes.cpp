@@ -125,13 +125,13 @@ void showUserQuotas(const Output& output) {
 void showDeletedFiles(const Output& output) {
     Stage stage(output, Embedded::demo());
     stage.launch();
-    stage.choose("salvageSegue");
+    stage.chooseFromMenu("SalvagePurgeView", "salvageSegue");
     stage.photograph("38-salvage", "the page for salvaging, which says that it cannot");
     stage.press("moreInfoButton");
     stage.photograph("39-more-information", "the sheet that says more");
     stage.press("cancelButton");
     stage.press("closeButton");
-    stage.choose("purgeSegue");
+    stage.chooseFromMenu("SalvagePurgeView", "purgeSegue");
     stage.photograph("40-purge", "the page for purging");
 }
 
@@ -159,7 +159,7 @@ void showMainProperties(const Output& output) {
     stage.photograph("52-edit-user-quotas", "another limit for three users");
     stage.press("cancelBtn");
     stage.press("closeButton");
-    stage.choose("salvageSegue");
+    stage.chooseFromMenu("SalvagePurgeView", "salvageSegue");
     stage.press("moreInfoButton");
     stage.photograph("39-more-information", "the sheet about deleted files");
     stage.press("cancelButton");

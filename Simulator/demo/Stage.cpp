@@ -15,11 +15,13 @@
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTableView>
+#include <QToolButton>
 
 #include <utility>
 
@@ -90,8 +92,8 @@ void Stage::press(const char* control) {
     QApplication::processEvents();
 }
 
-void Stage::choose(const char* menuItem) {
-    find<QAction>(menuItem)->trigger();
+void Stage::chooseFromMenu(const char* button, const char* item) {
+    find<QToolButton>(button)->menu()->findChild<QAction*>(QString::fromLatin1(item))->trigger();
     QApplication::processEvents();
 }
 

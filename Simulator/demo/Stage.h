@@ -38,7 +38,7 @@ public:
 
     void launch() { delegate_.launch(); }
     void press(const char* control); ///< clicks a button, by its outlet
-    void choose(const char* menuItem);
+    void chooseFromMenu(const char* button, const char* item);
     void type(const char* control, const char* text); ///< into a text field
     /// Clicks a box of a rights table.
     void tick(int row, const char* right, const char* tableName = "rightsTable");

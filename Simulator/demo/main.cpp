@@ -15,6 +15,7 @@
 
 #include <cstdio>
 #include <map>
+#include <string_view>
 
 #include <unistd.h>
 
@@ -37,6 +38,8 @@ const QCommandLineOption
 const QCommandLineOption pathOption("path", "Select this path of the volume.", "path", account::selection);
 const QCommandLineOption tourOption("tour", "Walk through every page and leave pictures in this folder.",
                                     "folder");
+const QCommandLineOption lookOption("look", "Walk in this style of the desktop, such as Fusion.", "style",
+                                    "Fusion");
 const QCommandLineOption scaledOption("main-pages", "Walk through the main pages only.");
 
 bool hasDisplay() {
@@ -57,17 +60,18 @@ bool isServerPath(const QString& path) {
 }
 
 /// The same program once more, at twice the size.
-int walkThroughAtTwiceTheSize(const QString& folder) {
+int walkThroughAtTwiceTheSize(const QString& folder, const QString& style) {
     QProcess second;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_SCALE_FACTOR", "2");
     second.setProcessEnvironment(environment);
     second.setProcessChannelMode(QProcess::ForwardedChannels);
-    second.start(QCoreApplication::applicationFilePath(), {"--tour", folder, "--main-pages"});
+    second.start(QCoreApplication::applicationFilePath(),
+                 {"--tour", folder, "--look", style, "--main-pages"});
     return second.waitForFinished(120000) ? second.exitCode() : 1;
 }
 
-int walkThrough(const QString& folder, bool mainPagesOnly) {
+int walkThrough(const QString& folder, const QString& style, bool mainPagesOnly) {
     if (!QDir().mkpath(folder)) {
         std::fprintf(stderr, "quorvan-demo: cannot make the folder %s\n", qPrintable(folder));
         return 1;
@@ -82,15 +86,16 @@ int walkThrough(const QString& folder, bool mainPagesOnly) {
     qputenv("XDG_STATE_HOME", state.path().toUtf8());
     int status = 0;
     if (!mainPagesOnly)
-        status = walkThroughAtTwiceTheSize(folder);
-    QApplication::setStyle("Fusion");
+        status = walkThroughAtTwiceTheSize(folder, style);
+    QApplication::setStyle(style);
     QApplication::setQuitOnLastWindowClosed(false);
     const std::pair<const char*, QPalette> looks[] = {{"light", quorvan::demo::lightPalette()},
-                                                      {"dark", quorvan::demo::darkPalette()}};
+                                                      {"dark", quorvan::demo::darkPalette()},
+                                                      {"contrast", quorvan::demo::contrastPalette()}};
     for (const auto& [prefix, palette] : looks) {
         QApplication::setPalette(palette);
         output.prefix = QString::fromLatin1(prefix) + (mainPagesOnly ? "-200-percent" : "");
-        if (mainPagesOnly)
+        if (mainPagesOnly || prefix == std::string_view("contrast"))
             quorvan::demo::showMainPages(output);
         else
             quorvan::demo::showEverything(output);
@@ -122,7 +127,7 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription("Quorvan on a simulated server.");
     parser.addHelpOption();
-    parser.addOptions({asOption, pathOption, tourOption, scaledOption});
+    parser.addOptions({asOption, pathOption, tourOption, lookOption, scaledOption});
     parser.process(application);
     if (!users.contains(parser.value(asOption)))
         parser.showHelp(2);
@@ -136,7 +141,7 @@ int main(int argc, char** argv) {
         quorvan::fillMainStoryboard();
         if (tour)
             return walkThrough(parser.isSet(tourOption) ? parser.value(tourOption) : QStringLiteral("demo"),
-                               parser.isSet(scaledOption));
+                               parser.value(lookOption), parser.isSet(scaledOption));
         return open(parser.value(asOption), parser.value(pathOption));
     });
 }

@@ -3,13 +3,13 @@
 #include "Quorvan/Controller/Information/InformationViewController.h"
 
 #include "Quorvan/Controller/Information/InformationAttributes.h"
+#include "Quorvan/Toolkit/CheckBox.h"
 #include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -67,7 +67,7 @@ QWidget* InformationViewController::buildAttributes() {
     grid->setHorizontalSpacing(32);
     constexpr int rows = 4;
     for (int at = 0; const AttributeBox& each : attributeBoxes) {
-        auto* box = outlet(new QCheckBox(tab), each.outletName);
+        auto* box = outlet(new CheckBox(tab), each.outletName);
         box->setProperty("identifier", each.identifier);
         box->setToolTip(L(each.tipKey));
         explainWhenGrey(*box, std::string_view(each.attribute) == "doNotCompress"

@@ -2,12 +2,12 @@
 // The controls of the trustee rights tab and their layout.
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 
+#include "Quorvan/Toolkit/CheckBox.h"
 #include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -24,7 +24,7 @@ void RightsTabViewController::loadView() {
 void RightsTabViewController::buildControls() {
     // In the order in which Tab visits them.
     currentPath = outlet(new PathLabel(this), "currentPath", L("Managed_Path_Label"));
-    showCheck = outlet(new QCheckBox(this), "showCheck");
+    showCheck = outlet(new CheckBox(this), "showCheck");
     showCheckCaption = outlet(new QLabel(this), "showCheckCaption");
     auto* table = new RightsTable({{"username", L("Col_UserGrp_Name")}},
                                   std::make_unique<TrusteeRows>(editedTrusteeList), this);

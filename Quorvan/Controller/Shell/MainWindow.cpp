@@ -4,6 +4,7 @@
 #include "Quorvan/Controller/Shell/ContainerViewController.h"
 
 #include <QScreen>
+#include <QStyle>
 
 namespace quorvan {
 
@@ -18,7 +19,9 @@ void MainWindow::load() {
 
 void MainWindow::present() {
     container->beginAppearing();
-    resize(sizeHint().boundedTo(screen()->availableSize()));
+    // How wide the desktop's decoration is, shows only with the window; its title bar is what counts.
+    const QSize decoration(0, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this));
+    resize(sizeHint().boundedTo(screen()->availableSize() - decoration));
     show();
     container->endAppearing();
 }

@@ -4,11 +4,11 @@
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/CheckBox.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 
-#include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
@@ -21,7 +21,7 @@ namespace quorvan {
 void SettingsController::loadView() {
     currentPath = outlet(new PathLabel(this), "currentPath", L("Managed_Path_Label"));
     currentPath->setPath(selectedPathName());
-    ListBoth = outlet(new QCheckBox(this), "ListBoth");
+    ListBoth = outlet(new CheckBox(this), "ListBoth");
     AddTrusteesMessage = outlet(new QLabel(this), "AddTrusteesMessage");
     readOnlyLabel = outlet(new QLabel(L("Settings_Read_Only_Label"), this), "readOnlyLabel");
     LogDetailsLabel = outlet(new QLabel(this), "LogDetailsLabel");

@@ -9,6 +9,9 @@
 #include <QAccessible>
 #include <QClipboard>
 #include <QFile>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTabWidget>
 #include <QTemporaryDir>
 
 namespace quorvan::test {
@@ -458,6 +461,45 @@ TEST_F(PagesTest, EndTheProgramWithoutAFeature) {
         }
     bundle->features.reset();
     EXPECT_DEATH(openWindow(), "feature.plist is missing");
+}
+
+/// Whatever the installation offers: menus, tabs, captions of fields and buttons, grey ones too.
+TEST_F(PagesTest, GiveNoMnemonicTwice) {
+    platform::Services services = platform::services();
+    const auto texts = std::make_shared<RealTexts>();
+    services.bundle = texts;
+    const platform::ScopedServices real(services);
+    const char* const flags[] = {"enableSettings", "bothIdentities", "addBothTrustees", "multiForest",
+                                 "newFileBrowser"};
+    for (unsigned mask = 0; mask < 1U << std::size(flags); ++mask)
+        for (const char* page : {"", "rights", "inherited", "effective", "folders", "files", "quota",
+                                 "information", "settings"}) {
+            for (std::size_t flag = 0; flag < std::size(flags); ++flag)
+                texts->features->at(flags[flag]) = (mask & 1U << flag) != 0;
+            if (*page == '\0' || (*page == 's' && (mask & 1U) == 0))
+                openWindow();
+            else
+                open(page);
+            QStringList titles;
+            for (const QAction* menu : window->menuBar()->actions())
+                titles.append(menu->text());
+            for (const auto* each : window->findChildren<QWidget*>()) {
+                if (!each->isVisible())
+                    continue;
+                const auto* label = qobject_cast<const QLabel*>(each);
+                if (each->inherits("QAbstractButton") || (label != nullptr && label->buddy() != nullptr))
+                    titles.append(each->property("text").toString());
+                if (const auto* tabs = qobject_cast<const QTabWidget*>(each))
+                    for (int tab = 0; tab < tabs->count(); ++tab)
+                        titles.append(tabs->tabText(tab));
+            }
+            QStringList letters;
+            for (QString title : titles)
+                if (title.remove(QLatin1String("&&")).contains('&'))
+                    letters.append(title.section('&', 1).left(1).toLower());
+            EXPECT_EQ(letters.removeDuplicates(), 0)
+                << page << ' ' << mask << ": " << titles.join(", ").toStdString();
+        }
 }
 
 TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
