@@ -944,7 +944,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Err_Operation_Failed">
     <source></source>
-    <translation>The server did not complete the operation. Check the connection to the server and try again. The log file has the details.</translation>
+    <translation>The server did not complete the operation. Check the connection to the server, and that your keyring holds its password; then try again. The log file has the details.</translation>
   </message>
   <message id="Err_AD_Connect">
     <source></source>

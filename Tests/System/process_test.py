@@ -63,7 +63,8 @@ GET_TRUSTEES = [
     "pipe closed",
 ]
 ALERT_FAILED = (
-    "The server did not complete the operation. Check the connection to the server and try again. "
+    "The server did not complete the operation. Check the connection to the server, and that your keyring "
+    "holds its password; then try again. "
     "The log file has the details."
 )
 ALERT_NO_PASSWORD = (
@@ -249,6 +250,22 @@ class ProcessTest(unittest.TestCase):
         )
         mode = self.log.stat().st_mode & 0o777
         self.assertEqual(mode, 0o600, "the log holds requests and replies of the server's management")
+
+    def test_what_the_server_does_not_take_is_named(self):
+        self.keyring.store(ADDRESS, "tomas.beran", PASSWORD)  # Access Control, and no Supervisor
+        self.start(ADDRESS)
+        self.press("Trustee Rights")
+        self.view.wait_for("table")
+        names = [name for name, _ in self.trustees_on_screen()]
+        for name in ("Ticketing", "Finance"):
+            self.view.click(self.view.cell(names.index(name), 3))  # W
+        until(lambda: self.view.find("push button", "2 changes wait for Apply"), "both changes")
+        self.server.kelp.ask("set-trustee", PATH, self.sid_of("Finance"), str(0x0141))  # meanwhile a Supervisor
+        self.apply()
+        until(lambda: self.view.find("label", "The server did not take 1 of 2 changes: Finance"), "the outcome")
+        on_screen = dict(self.trustees_on_screen())
+        self.assertEqual((on_screen["Ticketing"], on_screen["Finance"]), (0x0043, 0x0141))
+        self.close("Trustee Rights")
 
     def test_filter_directories_and_quotas_have_pipes_of_their_own(self):
         self.keyring.store(ADDRESS, USER, PASSWORD)
