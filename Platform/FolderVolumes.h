@@ -4,10 +4,10 @@
 #include "Platform/LocalVolumes.h"
 #include "Platform/VolumesFolder.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <optional>
-#include <string_view>
+#include <set>
+#include <string>
 #include <system_error>
 
 namespace quorvan::platform {
@@ -18,7 +18,7 @@ public:
     Kind kindOf(const std::string& path) override {
         const auto place = placeOf(path);
         if (!place)
-            return Kind::nothing;
+            return wayThrough(path).empty() ? Kind::nothing : Kind::folder;
         std::error_code error;
         return kindOf(std::filesystem::status(*place, error));
     }
@@ -44,6 +44,13 @@ public:
 protected:
     /// The folder that is /Volumes/NAME; nothing when no volume of that name is mounted.
     virtual std::optional<std::filesystem::path> folderOf(const std::string& volume) = 0;
+    /// Where "NAME/folder/file" of /Volumes lies.
+    virtual std::optional<std::filesystem::path> placeBelowVolumes(const std::filesystem::path& path) {
+        const auto folder = folderOf(*path.begin());
+        return folder ? std::optional(*folder / path.lexically_relative(*path.begin())) : std::nullopt;
+    }
+    /// The names that lead on from "NAME/folder" of /Volumes, which is not mounted itself, to what is.
+    virtual std::set<std::string> wayThroughVolumes(const std::filesystem::path& /*path*/) { return {}; }
 
 private:
     static Kind kindOf(const std::filesystem::file_status& status) {
@@ -52,29 +59,44 @@ private:
         return std::filesystem::is_directory(status) ? Kind::folder : Kind::file;
     }
 
-    /// Where a path really lies. One that climbs with ".." could leave its volume, and lies nowhere.
-    std::optional<std::filesystem::path> placeOf(const std::string& path) {
+    /// A path below /Volumes without that; nothing for any other, and for one that climbs with "..", which
+    /// could leave its volume.
+    static std::optional<std::filesystem::path> belowVolumes(const std::string& path) {
         const std::string volumes = volumesFolder + std::string("/");
         if (!path.starts_with(volumes))
             return std::nullopt;
-        const std::size_t nameEnd = std::min(path.find('/', volumes.size()), path.size());
-        const std::string name = path.substr(volumes.size(), nameEnd - volumes.size());
-        const auto below = std::filesystem::path(path.substr(nameEnd)).relative_path();
+        const std::filesystem::path below = path.substr(volumes.size());
         for (const auto& part : below)
-            if (part == "..")
+            if (part == ".." || part == ".")
                 return std::nullopt;
-        if (name.empty() || name == "." || name == "..")
+        if (below.empty() || below.is_absolute())
             return std::nullopt;
-        const auto folder = folderOf(name);
-        return folder ? std::optional(*folder / below) : std::nullopt;
+        return below;
+    }
+
+    std::optional<std::filesystem::path> placeOf(const std::string& path) {
+        const auto below = belowVolumes(path);
+        return below ? placeBelowVolumes(*below) : std::nullopt;
+    }
+
+    std::set<std::string> wayThrough(const std::string& path) {
+        const auto below = belowVolumes(path);
+        return below ? wayThroughVolumes(*below) : std::set<std::string>();
     }
 
     /// Hands over entries until one is answered with false; why there was nothing to hand over, or "".
     template <class Take>
     std::string forEachEntry(const std::string& path, Take take) {
         const auto place = placeOf(path);
-        if (!place)
-            return std::make_error_code(std::errc::no_such_file_or_directory).message();
+        if (!place) {
+            const std::set<std::string> names = wayThrough(path);
+            if (names.empty())
+                return std::make_error_code(std::errc::no_such_file_or_directory).message();
+            for (const std::string& name : names)
+                if (!take(LocalEntry{name, true}))
+                    break;
+            return {};
+        }
         std::error_code error;
         for (std::filesystem::directory_iterator at(*place, error), end; !error && at != end;
              at.increment(error)) {

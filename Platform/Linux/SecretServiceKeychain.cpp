@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/SecretServiceKeychain.h"
 
+#include <functional>
 #include <future>
 #include <memory>
 #include <string_view>
 #include <thread>
+#include <utility>
+
+#include <strings.h>
 
 #include <libsecret/secret.h>
 
@@ -45,20 +49,32 @@ std::optional<KeychainItem> contents(SecretItem* item) {
     return found;
 }
 
+using Service = ObjectPointer<SecretService>;
+using Items = std::unique_ptr<GList, ItemsDeleter>;
+
+bool isUtf8(const std::string& text) {
+    return g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr) != FALSE;
+}
+
+/// The items of SMB servers; of one of them unless `server` is null.
+Items search(const char* server, SecretSearchFlags flags, GCancellable* cancellable) {
+    const Service service(secret_service_open_sync(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION,
+                                                   cancellable, nullptr));
+    if (!service)
+        return nullptr;
+    const Table attributes(secret_attributes_build(SECRET_SCHEMA_COMPAT_NETWORK, "protocol", "smb",
+                                                   server != nullptr ? "server" : nullptr, server, nullptr));
+    return Items(secret_service_search_sync(service.get(), SECRET_SCHEMA_COMPAT_NETWORK, attributes.get(),
+                                            flags, cancellable, nullptr));
+}
+
 KeychainResult find(const std::string& server, GCancellable* cancellable) {
     KeychainResult result{errSecItemNotFound, std::nullopt};
-    if (g_utf8_validate(server.data(), static_cast<gssize>(server.size()), nullptr) == FALSE)
+    if (!isUtf8(server))
         return result;
-    const ObjectPointer<SecretService> service(secret_service_open_sync(
-        SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_OPEN_SESSION, cancellable, nullptr));
-    if (!service)
-        return result;
-    const Table attributes(secret_attributes_build(SECRET_SCHEMA_COMPAT_NETWORK, "server", server.c_str(),
-                                                   "protocol", "smb", nullptr));
-    const std::unique_ptr<GList, ItemsDeleter> items(secret_service_search_sync(
-        service.get(), SECRET_SCHEMA_COMPAT_NETWORK, attributes.get(),
-        static_cast<SecretSearchFlags>(SECRET_SEARCH_ALL | SECRET_SEARCH_LOAD_SECRETS), cancellable,
-        nullptr));
+    const Items items =
+        search(server.c_str(), static_cast<SecretSearchFlags>(SECRET_SEARCH_ALL | SECRET_SEARCH_LOAD_SECRETS),
+               cancellable);
     // After the time limit the answer is not waited for, so no password is copied either.
     for (const GList* at = items.get(); at != nullptr && g_cancellable_is_cancelled(cancellable) == FALSE;
          at = at->next) {
@@ -68,22 +84,51 @@ KeychainResult find(const std::string& server, GCancellable* cancellable) {
     return result;
 }
 
+std::string findSpelling(const std::string& server, GCancellable* cancellable) {
+    const Items items = search(nullptr, SECRET_SEARCH_ALL, cancellable);
+    std::string found = server;
+    for (const GList* at = items.get(); at != nullptr; at = at->next) {
+        const Table attributes(secret_item_get_attributes(SECRET_ITEM(at->data)));
+        const auto* name = static_cast<const char*>(g_hash_table_lookup(attributes.get(), "server"));
+        if (name == nullptr || strcasecmp(name, server.c_str()) != 0)
+            continue;
+        if (name == server)
+            return server;
+        found = name;
+    }
+    return found;
+}
+
+/// Carries a look-up out within a time limit: in a thread of its own, because parts of connecting to a bus
+/// cannot be cancelled.
+template <class Result>
+Result within(std::chrono::milliseconds limit, Result otherwise,
+              std::function<Result(GCancellable*)> lookUp) {
+    const std::shared_ptr<GCancellable> cancellable(g_cancellable_new(), ObjectDeleter());
+    std::packaged_task<Result()> task(
+        [lookUp = std::move(lookUp), cancellable] { return lookUp(cancellable.get()); });
+    std::future<Result> answer = task.get_future();
+    std::thread(std::move(task)).detach();
+    if (answer.wait_for(limit) == std::future_status::ready)
+        return answer.get();
+    g_cancellable_cancel(cancellable.get());
+    return otherwise;
+}
+
 } // namespace
 
 SecretServiceKeychain::SecretServiceKeychain(std::chrono::milliseconds timeLimit)
     : timeLimit_(timeLimit) {}
 
 KeychainResult SecretServiceKeychain::findInternetPassword(const std::string& server) {
-    // In a thread of its own, because parts of connecting to a bus cannot be cancelled.
-    const std::shared_ptr<GCancellable> cancellable(g_cancellable_new(), ObjectDeleter());
-    std::packaged_task<KeychainResult()> search(
-        [server, cancellable] { return find(server, cancellable.get()); });
-    std::future<KeychainResult> answer = search.get_future();
-    std::thread(std::move(search)).detach();
-    if (answer.wait_for(timeLimit_) == std::future_status::ready)
-        return answer.get();
-    g_cancellable_cancel(cancellable.get());
-    return {errSecItemNotFound, std::nullopt};
+    return within<KeychainResult>(timeLimit_, {errSecItemNotFound, std::nullopt},
+                                  [server](GCancellable* cancellable) { return find(server, cancellable); });
+}
+
+std::string SecretServiceKeychain::spellingOf(const std::string& server) const {
+    return within<std::string>(timeLimit_, server, [server](GCancellable* cancellable) {
+        return findSpelling(server, cancellable);
+    });
 }
 
 } // namespace quorvan::platform

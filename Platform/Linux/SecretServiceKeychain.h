@@ -19,6 +19,10 @@ public:
 
     KeychainResult findInternetPassword(const std::string& server) override;
 
+    /// How the keyring writes the name of a server for which it holds a password, whatever the case; the
+    /// name itself where it holds none.
+    std::string spellingOf(const std::string& server) const;
+
 private:
     std::chrono::milliseconds timeLimit_;
 };

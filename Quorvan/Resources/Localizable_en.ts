@@ -1312,5 +1312,41 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>%1 is the name of a server.</extracomment>
     <translation>The keyring holds no password for %1. Mount a share of it in the file manager with “Remember password”, then try again.</translation>
   </message>
+  <message id="Handover_Nothing_Label">
+    <source></source>
+    <translation>Choose a file or folder of a mounted share in the file manager, and take “Manage Rights…” from its menu.</translation>
+  </message>
+  <message id="Handover_Several_Label">
+    <source></source>
+    <translation>Quorvan works on one file or folder at a time.</translation>
+  </message>
+  <message id="Handover_No_Share_Label">
+    <source></source>
+    <extracomment>Of the program that the menus of file managers call; %1 is what was chosen there.</extracomment>
+    <translation>“%1” is not on a mounted SMB share.</translation>
+  </message>
+  <message id="Handover_Gone_Label">
+    <source></source>
+    <extracomment>Of the program that the menus of file managers call; %1 is what was chosen there.</extracomment>
+    <translation>“%1” is not there any more.</translation>
+  </message>
+  <message id="Handover_Unknown_Share_Label">
+    <source></source>
+    <extracomment>Of the program that the menus of file managers call; %1 is what was chosen there.</extracomment>
+    <translation>The table of shares, shares.conf, does not say which path of the server “%1” lies below.</translation>
+  </message>
+  <message id="Handover_Odd_Name_Label">
+    <source></source>
+    <extracomment>Of the program that the menus of file managers call; %1 is what was chosen there.</extracomment>
+    <translation>“%1” has a name in its path that cannot be handed over.</translation>
+  </message>
+  <message id="Handover_Not_Written_Label">
+    <source></source>
+    <translation>The selection could not be handed over: group.tarnix.common.plist in your folder of configurations cannot be written.</translation>
+  </message>
+  <message id="Handover_Not_Started_Label">
+    <source></source>
+    <translation>The program quorvan could not be started.</translation>
+  </message>
 </context>
 </TS>

@@ -44,7 +44,7 @@ std::set<std::string> keysInSources() {
     static const QRegularExpression key(
         R"re("((?:[A-Z]\w*_(?:Title|title|Label|Name)|Err_\w+|Rights_Label_Title))")re");
     std::set<std::string> keys;
-    for (const char* folder : {"Common", "Quorvan"}) {
+    for (const char* folder : {"Common", "Handover", "Quorvan"}) {
         QDirIterator files(QStringLiteral(QUORVAN_SOURCE_DIR "/") + folder, {"*.cpp", "*.h"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
