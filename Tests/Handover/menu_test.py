@@ -28,7 +28,7 @@ def load(path, module):
     gi = types.ModuleType("gi")
     gi.require_version = lambda *_: None
     gi.repository = types.ModuleType("gi.repository")
-    gi.repository.GObject = types.SimpleNamespace(GObject=object)
+    gi.repository.GObject = types.SimpleNamespace(GObject=type("GObject", (), {}))
     setattr(gi.repository, module, types.SimpleNamespace(MenuProvider=type("MenuProvider", (), {}), MenuItem=MenuItem))
     with mock.patch.dict(sys.modules, {"gi": gi, "gi.repository": gi.repository}):
         spec = importlib.util.spec_from_file_location("quorvan_menu", path)
