@@ -67,7 +67,8 @@ TEST(MountedVolumes, ListsWhatExistsAndOnlyThat) {
     fs::create_symlink("nowhere", volume / "empty" / "dangling");
     for (const char* file : {".hidden", "100 % #1 \xC3\xBC.txt", "latin-\xFC.txt"})
         std::ofstream(volume / file);
-    platform::MountedVolumes volumes({top.path, {"/nonexistent", "/nonexistent"}, platform::ShareTable(std::vector<fs::path>())});
+    platform::MountedVolumes volumes(
+        {top.path, {"/nonexistent", "/nonexistent"}, platform::ShareTable(std::vector<fs::path>())});
 
     std::vector<std::string> found;
     for (const auto& entry : volumes.list("/Volumes/VOL1").entries)
