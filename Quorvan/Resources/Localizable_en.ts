@@ -1348,5 +1348,147 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <source></source>
     <translation>The program quorvan could not be started.</translation>
   </message>
+  <message id="Why_title">
+    <source></source>
+    <extracomment>In the menu of a table of rights.</extracomment>
+    <translation>&amp;Why Does This User or Group Have These Rights…</translation>
+  </message>
+  <message id="Why_Button_title">
+    <source></source>
+    <extracomment>Beside the chosen user or group, whose rights it explains.</extracomment>
+    <translation>&amp;Why…</translation>
+  </message>
+  <message id="Why_Button_Tip_Label">
+    <source></source>
+    <translation>Show where these rights come from and what stops others</translation>
+  </message>
+  <message id="Why_Window_Title">
+    <source></source>
+    <extracomment>%1 is the name of a user or group.</extracomment>
+    <translation>Why: %1</translation>
+  </message>
+  <message id="Why_Served_Label">
+    <source></source>
+    <translation>What the server grants here:</translation>
+  </message>
+  <message id="Why_Served_More_Label">
+    <source></source>
+    <extracomment>%1 are rights in words.</extracomment>
+    <translation>The server grants %1; from what can be seen here that cannot be explained.</translation>
+  </message>
+  <message id="Why_Served_Less_Label">
+    <source></source>
+    <extracomment>%1 are rights in words.</extracomment>
+    <translation>By what can be seen here %1 should be granted, but the server does not grant it.</translation>
+  </message>
+  <message id="Why_Right_Label">
+    <source></source>
+    <translation>Right</translation>
+  </message>
+  <message id="Why_Holds_Label">
+    <source></source>
+    <translation>Holds</translation>
+  </message>
+  <message id="Why_Reason_Label">
+    <source></source>
+    <translation>Why</translation>
+  </message>
+  <message id="Why_Way_Label">
+    <source></source>
+    <translation>The way from the volume to this path:</translation>
+  </message>
+  <message id="Why_Granted_Label">
+    <source></source>
+    <translation>Granted here</translation>
+  </message>
+  <message id="Why_Passes_Label">
+    <source></source>
+    <translation>Let through from above</translation>
+  </message>
+  <message id="Why_Passes_All_Label">
+    <source></source>
+    <translation>everything</translation>
+  </message>
+  <message id="Why_Not_Visible_Label">
+    <source></source>
+    <extracomment>Of a folder that may not be read.</extracomment>
+    <translation>not visible</translation>
+  </message>
+  <message id="Why_Yes_Label">
+    <source></source>
+    <translation>yes</translation>
+  </message>
+  <message id="Why_No_Label">
+    <source></source>
+    <translation>no</translation>
+  </message>
+  <message id="Why_Granted_Self_Label">
+    <source></source>
+    <extracomment>%1 is the name of a user or group, %2 a path.</extracomment>
+    <translation>Granted to %1 on %2</translation>
+  </message>
+  <message id="Why_Granted_Group_Label">
+    <source></source>
+    <extracomment>%1 is the name of a group or container, %2 a path.</extracomment>
+    <translation>Granted on %2 to %1, of which it is a member</translation>
+  </message>
+  <message id="Why_Filtered_Label">
+    <source></source>
+    <extracomment>Goes on after “Granted to … on …”; %1 is a path.</extracomment>
+    <translation>; stopped by the filter of %1</translation>
+  </message>
+  <message id="Why_Replaced_Label">
+    <source></source>
+    <extracomment>Goes on after “Granted to … on …”; %1 is a path.</extracomment>
+    <translation>; replaced by the assignment on %1</translation>
+  </message>
+  <message id="Why_By_Supervisor_Label">
+    <source></source>
+    <translation>Comes with Supervisor</translation>
+  </message>
+  <message id="Why_Nowhere_Label">
+    <source></source>
+    <translation>Nowhere granted</translation>
+  </message>
+  <message id="Why_Decides_Label">
+    <source></source>
+    <extracomment>For a screen reader; of the folder where the selected right is decided.</extracomment>
+    <translation>decides</translation>
+  </message>
+  <message id="Why_Unknown_Label">
+    <source></source>
+    <translation>This could not be read from the server.</translation>
+  </message>
+  <message id="Why_Invisible_Label">
+    <source></source>
+    <extracomment>%1 is a path.</extracomment>
+    <translation>%1 could not be read; what is granted there and above is not visible.</translation>
+  </message>
+  <message id="Why_Everyone_Label">
+    <source></source>
+    <extracomment>%1 is a path, %2 are rights in words.</extracomment>
+    <translation>Everyone is granted %2 on %1. Whether that counts here, the directory does not say.</translation>
+  </message>
+  <message id="Why_No_Assignment_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Select a reason that names an assignment</translation>
+  </message>
+  <message id="Why_Go_To_title">
+    <source></source>
+    <translation>Show in Trustee &amp;Directories</translation>
+  </message>
+  <message id="Why_Go_To_Tip_Label">
+    <source></source>
+    <translation>Close this sheet and go to the assignment, where it can be changed</translation>
+  </message>
+  <message id="Why_Copy_title">
+    <source></source>
+    <translation>Co&amp;py as Text</translation>
+  </message>
+  <message id="Why_Copy_Tip_Label">
+    <source></source>
+    <translation>Copy all of this, for a ticket or an audit</translation>
+  </message>
 </context>
 </TS>

@@ -19,7 +19,7 @@ class ColumnWidths : public QObject {
 public:
     enum class Kind {
         text,   ///< may be cut off, with dots
-        amount, ///< never cut off
+        amount, ///< an amount, or another text of a few characters; never cut off
         box,    ///< as wide as setBoxWidth() says
     };
 

@@ -10,7 +10,9 @@ namespace quorvan {
 void TextDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     // The end of a name behind a domain tells it from others, and so does the end of a path.
-    option->textElideMode = option->text.contains(QLatin1Char('\\')) ? Qt::ElideLeft : elide_;
+    const QString head = option->text.section(QLatin1Char('\\'), 0, 0);
+    const bool isQualified = head.size() < option->text.size() && !head.contains(QLatin1Char(' '));
+    option->textElideMode = isQualified ? Qt::ElideLeft : elide_;
     const auto* list = dynamic_cast<const ListModel*>(index.model());
     if (const auto pending = list != nullptr ? list->pending(index.row()) : std::nullopt) {
         option->font.setBold(true);

@@ -54,6 +54,12 @@ void showEffectiveRights(const Output& output) {
         stage.press("selectUserBtn");
         pick(stage, "Users", 5);
         stage.photograph("85-effective-chosen", "… and what one that was chosen may do");
+        stage.press("selectUserBtn");
+        pick(stage, "Users", 3);
+        stage.press("whyBtn");
+        stage.select({2}, "reasonTable");
+        stage.photograph("101-why", "… and why");
+        stage.press("closeBtn");
         stage.type("searchField", "team");
         stage.photograph("86-effective-search", "a search");
     }

@@ -146,6 +146,16 @@ void DirectoryTrusteeViewController::initParentDirTable() {
     showLoaded(parent_);
 }
 
+void DirectoryTrusteeViewController::showAssignment(const std::string& id, const std::string& path) {
+    for (const Side* side : {&parent_, &sub_})
+        for (std::size_t row = 0; row < side->edited.size(); ++row)
+            if (side->edited[row].trustee->trusteeID == id && side->edited[row].path == path) {
+                side->table->showRow(static_cast<int>(row));
+                side->table->setFocus();
+                return;
+            }
+}
+
 void DirectoryTrusteeViewController::filterContentForSearchText(Rows& rows,
                                                                 const std::vector<std::string>& paths) {
     Rows kept;

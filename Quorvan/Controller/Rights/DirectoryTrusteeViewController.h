@@ -54,6 +54,9 @@ public:
     bool isSearchingSubDir = false;
     bool isSearchingParentDir = false;
 
+    /// Leads to the row of an identity on a path, above or below; nothing where there is none.
+    void showAssignment(const std::string& id, const std::string& path);
+
     void loadView() override;
     void viewDidLoad() override;
     void viewDidAppear() override;

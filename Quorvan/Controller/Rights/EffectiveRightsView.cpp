@@ -2,6 +2,8 @@
 // The controls of the effective rights tab and their layout.
 #include "Quorvan/Controller/Rights/EffectiveRightsViewController.h"
 
+#include "Quorvan/Controller/Rights/WhyViewController.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/RightsBoxes.h"
@@ -30,6 +32,10 @@ void EffectiveRightsViewController::buildTable() {
                             "effRightsTable", plainL("Effective_Rights_Label"));
     searchField = outlet(new SearchField(effRightsTable, this), "searchField");
     effRightsTable->setSortHandler([this] { sortDescriptorsDidChange(); });
+    addWhyAction(*this, *this, *effRightsTable, [this](int row) {
+        const Trustees& trustee = *trusteeList[static_cast<std::size_t>(row)];
+        return RightsHolder{trustee.trusteeID, trustee.trusteeName};
+    });
     connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });
 }
 
@@ -41,6 +47,13 @@ void EffectiveRightsViewController::buildChosenIdentity() {
     selectUserBtn = outlet(new QPushButton(L("Choose_title"), this), "selectUserBtn");
     selectUserBtn->setEnabled(false);
     connect(selectUserBtn, &QPushButton::clicked, this, [this] { onSelectTrusteeClick(selectUserBtn); });
+    whyBtn = outlet(new QPushButton(L("Why_Button_title"), this), "whyBtn");
+    whyBtn->setToolTip(L("Why_Button_Tip_Label"));
+    whyBtn->setEnabled(false);
+    explainWhenGrey(*whyBtn, "Why_Nobody_Chosen_Label");
+    connect(whyBtn, &QPushButton::clicked, this, [this] {
+        explainRightsOf(*this, *this, {chosenID_, userGroupField->text().toStdString()});
+    });
 
     effectiveBoxes = outlet(new RightsBoxes(4, this), "effectiveBoxes", L("Select_Effective_Trustee_Label"));
     effectiveBoxes->setEnabled(false); // for reading
@@ -63,6 +76,7 @@ void EffectiveRightsViewController::layOutControls() {
     auto* chosen = new QHBoxLayout;
     chosen->addWidget(userGroupLabel);
     chosen->addWidget(userGroupField, 1);
+    chosen->addWidget(whyBtn);
     chosen->addWidget(selectUserBtn);
 
     auto* line = new QFrame(this);
@@ -77,7 +91,7 @@ void EffectiveRightsViewController::layOutControls() {
     page->addWidget(selectTrusteeLabel);
     page->addLayout(chosen);
     page->addWidget(effectiveBoxes);
-    setTabOrders({currentPath, searchField, effRightsTable, userGroupField, selectUserBtn});
+    setTabOrders({currentPath, searchField, effRightsTable, userGroupField, whyBtn, selectUserBtn});
 }
 
 } // namespace quorvan

@@ -113,6 +113,7 @@ bool EffectiveRightsViewController::onReturnSelectedUser(const std::vector<std::
 void EffectiveRightsViewController::initEffRforUser(const std::string& userID) {
     chosenID_ = userID;
     chosenType_ = domainIdentity;
+    whyBtn->setEnabled(true);
     auto pipe = openPipe(pipes::files);
     if (!pipe)
         return effectiveBoxes->setUnknown();

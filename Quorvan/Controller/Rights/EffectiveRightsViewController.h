@@ -35,6 +35,7 @@ public:
     RightsTable* effRightsTable = nullptr;
     PathLabel* userGroupField = nullptr;
     QPushButton* selectUserBtn = nullptr;
+    QPushButton* whyBtn = nullptr;         ///< explains the rights of the chosen identity
     RightsBoxes* effectiveBoxes = nullptr; ///< holds the eight boxes below
     QCheckBox* readChk = nullptr;
     QCheckBox* writeChk = nullptr;

@@ -2,6 +2,7 @@
 // The controls of the trustee rights tab and their layout.
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 
+#include "Quorvan/Controller/Rights/WhyViewController.h"
 #include "Quorvan/Toolkit/CheckBox.h"
 #include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
@@ -30,6 +31,10 @@ void RightsTabViewController::buildControls() {
                                   std::make_unique<TrusteeRows>(editedTrusteeList), this);
     searchField = outlet(new SearchField(table, this), "searchField");
     rightsTable = outlet(table, "rightsTable", plainL("Rights_Label_Title"));
+    addWhyAction(*this, *this, *rightsTable, [this](int row) {
+        const Trustees& trustee = *editedTrusteeList[static_cast<std::size_t>(row)];
+        return RightsHolder{trustee.trusteeID, trustee.trusteeName};
+    });
     addRemoveLabel = outlet(new QLabel(this), "addRemoveLabel");
     addBtn = outlet(new QPushButton(L("Add_title"), this), "addBtn");
     removeBtn = outlet(new QPushButton(L("Remove_title"), this), "removeBtn");

@@ -11,6 +11,7 @@
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 #include "Quorvan/Controller/Rights/GroupRightsViewController.h"
 #include "Quorvan/Controller/Rights/TrusteeRightsTabView.h"
+#include "Quorvan/Controller/Rights/WhyViewController.h"
 #include "Quorvan/Controller/Shell/MainViewController.h"
 #include "Quorvan/Controller/Shell/SalvagePurgeViewController.h"
 #include "Quorvan/Controller/Shell/SettingsController.h"
@@ -32,6 +33,7 @@ void fillMainStoryboard() {
     main.add("oldViewBrowseAD", [] { return new OldBrowseUserListViewController; });
     main.add("fileSystemRightsView", [] { return new FileSystemRightsViewController; });
     main.add("groupRightsView", [] { return new GroupRightsViewController; });
+    main.add("whyView", [] { return new WhyViewController; });
     main.add("NewFileBrowser", [] { return new BrowseFolderViewController; });
     // Installations that ask for the browser with columns get the tree.
     main.add("OldFileBrowser", [] { return new BrowseFolderViewController; });

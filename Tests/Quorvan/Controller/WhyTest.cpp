@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Quorvan/Controller/Rights/WhyViewController.h"
+#include "Quorvan/Controller/Selection/Shared.h"
+#include "Tests/Quorvan/Controller/WindowTest.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QClipboard>
+
+namespace quorvan::test {
+namespace {
+
+struct WhyTest : WindowTest {
+    WhyTest() {
+        bundle->texts = {
+            {"Why_Granted_Self_Label", "to %1 on %2"},    {"Why_Granted_Group_Label", "to group %1 on %2"},
+            {"Why_Filtered_Label", "; stopped on %1"},    {"Why_Replaced_Label", "; replaced on %1"},
+            {"Why_Served_More_Label", "unexplained: %1"}, {"Why_Served_Less_Label", "not granted: %1"},
+            {"Why_Invisible_Label", "%1 is not visible"}, {"Why_Window_Title", "Why: %1"}};
+        auto& outer = world.identities->addDomainGroup("Outer", "S-1-outer");
+        auto& inner = world.identities->addDomainGroup("Inner", "S-1-inner");
+        ann = &world.identities->addDomainUser("Ann", "S-1-ann");
+        inner.groups = {&outer};
+        ann->groups = {&inner};
+        world.server->setTrustee("VOL1:\\Tests", outer, 0x002);
+        world.server->setTrustee("VOL1:\\Tests", *ann, 0x010);
+        world.server->setTrustee("VOL1:\\", *ann, 0x008);
+        world.server->setFilter(box, 0x0EB); // stops Erase
+    }
+    WhyTest& openWhy() {
+        open("effective").take("selectUserBtn", "Users_Title", meridal, {"Ann"});
+        act("whyBtn");
+        return *this;
+    }
+    simulator::Identity* ann = nullptr;
+};
+
+TEST_F(WhyTest, NamesWhereEachRightComesFromAndWhatStopsIt) {
+    EXPECT_EQ(open("effective").state("whyBtn"), "grey");
+    openWhy();
+    EXPECT_EQ(title(), "Why: Ann");
+    EXPECT_FALSE(isShown("differenceLabel")) << value("differenceLabel");
+    EXPECT_THAT(
+        rows("reasonTable"),
+        testing::IsSupersetOf({"Write_Label Why_Yes_Label to group Outer on VOL1:\\Tests",
+                               "Erase_Label Why_No_Label to Ann on VOL1:\\Tests; stopped on Box",
+                               "Create_Label Why_No_Label to Ann on VOL1:\\; replaced on VOL1:\\Tests",
+                               "Modify_Label Why_No_Label Why_Nowhere_Label"}));
+    EXPECT_FALSE(isEnabled("goToBtn"));
+    // By keyboard: the first reasons, then the one of Erase, whose folder is marked for eye and ear.
+    const auto& reasons = control<ListTable>("reasonTable");
+    EXPECT_EQ(focus(), &reasons);
+    const auto marked = [&] {
+        const auto& way = control<ListTable>("wayTable");
+        std::string signs;
+        for (int row = 0; row < way.model()->rowCount(); ++row)
+            if (way.model()->index(row, 0).data().toString().startsWith(QChar(0x25b6)))
+                signs +=
+                    way.model()->index(row, 0).data(Qt::AccessibleTextRole).toString().toStdString() + ' ';
+        return signs;
+    };
+    while (rows("reasonTable")[static_cast<std::size_t>(std::max(reasons.currentIndex().row(), 0))].find(
+               ">Erase") != 0)
+        QTest::keyClick(focus(), Qt::Key_Down);
+    EXPECT_EQ(marked(), "VOL1:\\Tests\\Box, Why_Decides_Label ");
+    EXPECT_EQ(rows("wayTable").size(), 3U);
+    act("copyBtn");
+    const std::string text = QGuiApplication::clipboard()->text().toStdString();
+    EXPECT_THAT(text, testing::HasSubstr("Why: Ann\nVOL1:\\Tests\\Box\nWhy_Served_Label Write_Label\n"));
+    EXPECT_THAT(
+        text, testing::HasSubstr("Write_Label \u2013 Why_Yes_Label \u2013 to group Outer on VOL1:\\Tests\n"));
+
+    // It leads to the assignment, in the table of the folders above.
+    act("goToBtn");
+    EXPECT_EQ(title(), "Trustee_Rights_Title");
+    EXPECT_THAT(rows("parentdirTable"), Contains(testing::StartsWith(">Ann VOL1:\\Tests")));
+    EXPECT_EQ(focus()->objectName(), "parentdirTable");
+}
+
+TEST_F(WhyTest, SaysWhatCannotBeExplainedOrSeen) {
+    world.server->misbehaviour.onlyWith = "VOL1:\\Tests</fileName>";
+    world.server->misbehaviour.code = 20900;
+    openWhy();
+    EXPECT_EQ(value("differenceLabel"), "unexplained: Write_Label");
+    EXPECT_EQ(value("noteLabel"), "VOL1:\\Tests is not visible");
+    EXPECT_THAT(rows("wayTable"),
+                testing::IsSupersetOf({"VOL1:\\ Why_Not_Visible_Label Why_Not_Visible_Label",
+                                       "VOL1:\\Tests Why_Not_Visible_Label Why_Not_Visible_Label"}));
+    EXPECT_THAT(alerts(), IsEmpty());
+    act("closeBtn");
+    breakPipes();
+    act("whyBtn");
+    EXPECT_THAT(alerts(), ElementsAre("Err_Operation_Failed"));
+    EXPECT_THAT(rows("reasonTable"), IsEmpty());
+    EXPECT_EQ(control<ListTable>("reasonTable").emptyText(), "Why_Unknown_Label");
+}
+
+TEST_F(WhyTest, OpensFromTheMenuOfATableForEitherDirectory) {
+    auto& choir = world.identities->addTreeGroup("Choir", "Verlag", "guid-choir");
+    auto& eve = world.identities->addTreeUser("Eve", "Verlag", "guid-eve");
+    eve.groups = {&choir};
+    world.server->setTrustee("VOL1:\\Tests", choir, 0x002);
+    world.server->setTrustee("VOL1:\\", *eve.container, 0x001);
+    world.server->setTrustee(box, eve, 0x080);
+    world.server->setFilter(box, 0x1FB);
+    open("rights", demo::supervisorTree);
+    auto& table = control<ListTable>("rightsTable");
+    auto* why = table.findChild<QAction*>("whyAction");
+    EXPECT_FALSE(why->isEnabled()) << "nobody is selected";
+    for (std::size_t row = 0; row < rows().size(); ++row)
+        if (rows()[row].find("CN=Eve") == 0)
+            table.showRow(static_cast<int>(row));
+    ASSERT_TRUE(why->isEnabled());
+    why->trigger();
+    EXPECT_FALSE(isShown("differenceLabel")) << value("differenceLabel");
+    EXPECT_THAT(
+        rows("reasonTable"),
+        testing::IsSupersetOf(std::vector<testing::Matcher<std::string>>{
+            testing::AllOf(testing::HasSubstr("Read_Label Why_Yes_Label to group"), testing::EndsWith("\\")),
+            testing::AllOf(testing::HasSubstr("Write_Label Why_Yes_Label to group"),
+                           testing::HasSubstr("Choir")),
+            testing::HasSubstr("Modify_Label Why_Yes_Label to CN=Eve.OU=Verlag.O=Meridal on Box")}));
+}
+
+} // namespace
+} // namespace quorvan::test
