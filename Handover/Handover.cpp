@@ -29,7 +29,7 @@ struct Selected {
 
 std::optional<Selected> shareOf(const fs::path& path, const platform::MountPlaces& places) {
     std::optional<Selected> found;
-    for (platform::ShareMount& mount : platform::shareMounts(places)) {
+    for (platform::ShareMount& mount : platform::allMounts(places)) {
         std::error_code error; // a runtime folder may be reached through links
         const fs::path point = fs::weakly_canonical(mount.point, error);
         if (error || !isBelow(path, point))
@@ -39,6 +39,8 @@ std::optional<Selected> shareOf(const fs::path& path, const platform::MountPlace
         const fs::path below = path.lexically_relative(point);
         found = {std::move(mount), below == "." ? fs::path() : below};
     }
+    if (found && (found->mount.server.empty() || found->mount.share.empty()))
+        return std::nullopt;
     return found;
 }
 

@@ -71,13 +71,13 @@ ShareMount parsed(const std::string& line) {
     }
     fields >> kind >> source;
     ShareMount mount;
+    mount.point = unescaped(point);
     if ((kind != "cifs" && kind != "smb3") || !source.starts_with("//"))
         return mount;
     source = trimmed(unescaped(source));
     mount.server = takePart(source);
     mount.share = takePart(source);
     mount.folder = folderOf(source, trimmed(unescaped(root)));
-    mount.point = unescaped(point);
     return mount;
 }
 
@@ -85,6 +85,7 @@ ShareMount parsed(const std::string& line) {
 ShareMount parsedDesktopMount(const fs::path& point) {
     constexpr std::string_view prefix = "smb-share:";
     ShareMount mount;
+    mount.point = point;
     const std::string name = point.filename().native();
     if (!name.starts_with(prefix))
         return mount;
@@ -96,7 +97,6 @@ ShareMount parsedDesktopMount(const fs::path& point) {
         else if (field.starts_with("share="))
             mount.share = value;
     }
-    mount.point = point;
     mount.hasLowerCaseName = true;
     return mount;
 }
@@ -119,11 +119,15 @@ fs::path ownRuntimeFolder() {
 } // namespace
 
 std::vector<ShareMount> shareMounts(const MountPlaces& places) {
+    std::vector<ShareMount> mounts = allMounts(places);
+    std::erase_if(mounts,
+                  [](const ShareMount& mount) { return mount.server.empty() || mount.share.empty(); });
+    return mounts;
+}
+
+std::vector<ShareMount> allMounts(const MountPlaces& places) {
     std::vector<ShareMount> mounts;
-    const auto add = [&mounts](ShareMount mount) {
-        if (!mount.server.empty() && !mount.share.empty())
-            mounts.push_back(std::move(mount));
-    };
+    const auto add = [&mounts](ShareMount mount) { mounts.push_back(std::move(mount)); };
     std::ifstream table(places.mountTable);
     for (std::string line; std::getline(table, line);)
         add(parsed(line));

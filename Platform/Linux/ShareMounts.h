@@ -24,6 +24,8 @@ struct MountPlaces {
 
 /// What is mounted now: by the kernel (cifs, smb3), by GVfs and by kio-fuse, in this order.
 std::vector<ShareMount> shareMounts(const MountPlaces& places = {});
+/// The same and every other mount of the kernel, which has a point alone: it may lie within a share.
+std::vector<ShareMount> allMounts(const MountPlaces& places = {});
 
 /// smb://[USER@]HOST[:PORT]/SHARE/rest, percent-escaped: the share, and with `folder` the rest. A share
 /// without a name when the text is no such address.

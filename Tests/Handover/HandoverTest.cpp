@@ -57,7 +57,8 @@ TEST_F(HandoverTest, FindsTheServerPathOfWhatWasChosen) {
                                    << "/bound rw - cifs //files.example.org/BOB rw\n"
                                    << "39 21 0:44 / " << mnt
                                    << "/big\\040disk/inner rw - cifs //other/VOL9 rw\n"
-                                   << "40 21 8:1 / " << mnt << "/local rw - ext4 /dev/sda1 rw\n";
+                                   << "40 21 8:1 / " << mnt << "/local rw - ext4 /dev/sda1 rw\n"
+                                   << "41 36 8:2 / " << mnt << "/big\\040disk/own rw - ext4 /dev/sda2 rw\n";
     const struct {
         std::string path; ///< made below the folder of the test
         const char* expected;
@@ -82,6 +83,7 @@ TEST_F(HandoverTest, FindsTheServerPathOfWhatWasChosen) {
         {"mnt/big disk/my Volumes/x", "Handover_Odd_Name_Label"},
         {"mnt/big disk/back\\slash", "Handover_Odd_Name_Label"},
         {"mnt/local/x", "Handover_No_Share_Label"},
+        {"mnt/big disk/own/x", "Handover_No_Share_Label"}, // mounted within the share
         {"gvfs/sftp:host=files", "Handover_No_Share_Label"},
     };
     for (const auto& each : cases)

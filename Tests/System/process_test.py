@@ -89,7 +89,7 @@ def end(process):
 class Server:
     """kelp-server behind an SMB server on a loopback address."""
 
-    def __init__(self, address, data, clean_up):
+    def __init__(self, address, data, clean_up, *more):
         kelp_server = subprocess.Popen([KELP_SERVER, "--data", data], stdout=subprocess.PIPE, text=True)
         clean_up(end, kelp_server)
         port = kelp_server.stdout.readline().split()[1]
@@ -97,7 +97,7 @@ class Server:
         clean_up(self.kelp.close)
         self.front = subprocess.Popen(
             [sys.executable, str(HERE / "smb_front.py"), "--address", address, "--kelp-port", port]
-            + ["--password", PASSWORD],
+            + ["--password", PASSWORD, *more],
             stdin=subprocess.PIPE,
             stdout=subprocess.PIPE,
             text=True,

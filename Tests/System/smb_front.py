@@ -2,10 +2,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Publishes the pipe files of a running kelp-server as real SMB shares.
 
-    smb_front.py --address 127.0.0.2 --kelp-port N
+    smb_front.py --address 127.0.0.2 --kelp-port N [--folder NAME=PATH]
 
 Logins are NTLM with the accounts of kelp-server (all with the password PASSWORD when --password is
-given: one that can be told from other text), sessions are signed. Prints "ready" as soon as it
+given: one that can be told from other text), sessions are signed. A folder is published as a share
+beside the pipe files, as a volume is. Prints "ready" as soon as it
 listens, then answers lines on standard input, until that ends:
 
     sessions    the clients that are logged in now, and the files they have open: "1 2"
@@ -78,8 +79,9 @@ class TrackedHandler(SMBSERVERHandler):
 class Front:
     """SMB2 commands on the pipe files; everything else is impacket's own doing."""
 
-    def __init__(self, server, kelp_port):
+    def __init__(self, server, kelp_port, folders):
         self.kelp_port = kelp_port
+        self.folders = [name.upper() for name in folders]
         self.original = {
             command: server.hookSmb2Command(command, hook)
             for command, hook in (
@@ -93,7 +95,7 @@ class Front:
     def tree_connect(self, conn_id, server, packet):
         request = smb2.SMB2TreeConnect(packet["Data"])
         path = packet.getData()[request["PathOffset"]:][:request["PathLength"]].decode("utf-16le")
-        if path.rpartition("\\")[2].upper() not in (share.upper() for share in SHARES):
+        if path.rpartition("\\")[2].upper() not in [share.upper() for share in SHARES] + self.folders:
             return [smb2.SMB2Error()], None, nt_errors.STATUS_BAD_NETWORK_NAME
         return self.original[smb2.SMB2_TREE_CONNECT](conn_id, server, packet)
 
@@ -102,6 +104,8 @@ class Front:
         request = smb2.SMB2Create(packet["Data"])
         name = request["Buffer"][:request["NameLength"]].decode("utf-16le")
         share = data["ConnectedShares"].get(packet["TreeID"], {}).get("shareName", "")
+        if share.upper() in self.folders:
+            return self.original[smb2.SMB2_CREATE](conn_id, server, packet)
         kelp = KelpConnection(self.kelp_port)
         try:
             kelp.ask("open", data["AUTHENTICATE_MESSAGE"]["user_name"].decode("utf-16le"), share, name)
@@ -127,11 +131,13 @@ class Front:
         data["LastRequest"]["SMB2_CREATE"] = response
         return [response], None, nt_errors.STATUS_SUCCESS
 
-    def on_pipe(self, conn_id, server, request, action):
+    def on_pipe(self, conn_id, server, packet, request, action):
         """The answer to a request on an open file; losing kelp-server loses the client, too."""
         file = server.getConnectionData(conn_id)["OpenedFiles"].get(request["FileID"].getData())
         if file is None:
             return [smb2.SMB2Error()], None, nt_errors.STATUS_INVALID_HANDLE
+        if file["FileHandle"] != PIPE_FILE_DESCRIPTOR:
+            return self.original[packet["Command"]](conn_id, server, packet)
         try:
             return action(file["Socket"])
         except KelpError as error:
@@ -149,7 +155,7 @@ class Front:
             response["Remaining"] = 0
             return [response], None, nt_errors.STATUS_SUCCESS
 
-        return self.on_pipe(conn_id, server, request, send)
+        return self.on_pipe(conn_id, server, packet, request, send)
 
     def read(self, conn_id, server, packet):
         request = smb2.SMB2Read(packet["Data"])
@@ -165,7 +171,7 @@ class Front:
             response["Buffer"] = content
             return [response], None, nt_errors.STATUS_SUCCESS
 
-        return self.on_pipe(conn_id, server, request, receive)
+        return self.on_pipe(conn_id, server, packet, request, receive)
 
 
 def obey(server):
@@ -185,6 +191,7 @@ def main():
     parser.add_argument("--port", type=int, default=445)
     parser.add_argument("--kelp-port", type=int, required=True)
     parser.add_argument("--password")
+    parser.add_argument("--folder", action="append", default=[])
     parser.add_argument("--verbose", action="store_true")
     arguments = parser.parse_args()
     logging.basicConfig(stream=sys.stderr, level=logging.DEBUG if arguments.verbose else logging.CRITICAL)
@@ -196,12 +203,15 @@ def main():
     front.setSMB2Support(True)
     front.setSMBChallenge(secrets.token_hex(8))
     front.addShare("_admin", "/nonexistent")
+    folders = dict(folder.split("=", 1) for folder in arguments.folder)
+    for name, path in folders.items():
+        front.addShare(name, path)
     accounts = KelpConnection(arguments.kelp_port)
     for line in accounts.ask("accounts").decode().splitlines():
         user, password, _ = line.split("\t")
         front.addCredential(user, 0, ntlm.compute_lmhash("").hex(), ntlm.compute_nthash(arguments.password or password).hex())
     accounts.close()
-    Front(server, arguments.kelp_port)
+    Front(server, arguments.kelp_port, folders)
     threading.Thread(target=front.start, daemon=True).start()
     print("ready", flush=True)
     obey(server)
