@@ -17,8 +17,9 @@
 namespace quorvan::platform {
 namespace {
 
-/// A hand-over is a few hundred bytes; a file beyond this is not one.
-constexpr std::size_t largestFile = 16U << 20U;
+/// A hand-over is a few hundred bytes; a file beyond this is not one. The library descends by calling itself,
+/// and with more levels than fit in here it would run out of stack.
+constexpr std::size_t largestFile = 64U << 10U;
 
 struct PlistDeleter {
     void operator()(void* node) const { plist_free(node); }

@@ -87,7 +87,12 @@ TEST_F(SharedDefaults, WritesForItsOwnerAloneAndKeepsTheOtherKeys) {
 }
 
 TEST_F(SharedDefaults, NamesTheCauseOnceWhenTheFileIsOfNoUseAndLeavesItAlone) {
+    std::string nested("<plist version=\"1.0\">");
+    for (int depth = 0; depth < 800'000; ++depth) // a reader that descends by calling itself ends there
+        nested += "<array>";
     const std::pair<std::string, const char*> cases[] = {
+        {nested, "Not a property list"},
+        {nested.substr(0, 64 << 10), "Not a property list"},
         {"serverIP = files.example", "Not a property list"},
         {"", "Not a property list"},
         {std::string(handOver).substr(0, 300), "Not a property list"},
