@@ -56,7 +56,7 @@ DirectoryLookup::ask(const std::string& strToQuery, const std::optional<std::str
     if (!surroundings_)
         surroundings_ = std::make_unique<Surroundings>();
     if (!surroundings_->state) {
-        Log("Could not find a Active Directory on the server");
+        logFailure("Could not find a Active Directory on the server");
         return platform::DirectoryRecords();
     }
     platform::DirectoryQuery& query = surroundings_->query;
@@ -81,9 +81,19 @@ DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::opti
     return *std::move(records);
 }
 
+/// A list of two million rows must not fill the disk with two million lines.
+void DirectoryLookup::logFailure(const char* text) const {
+    constexpr std::size_t mostLines = 100;
+    if (failures_ < mostLines)
+        Log("%@", text);
+    else if (failures_ == mostLines)
+        Log("%@ … and so on for the rest of this list", text);
+    ++failures_;
+}
+
 /// A list of two hundred trustees meets a silent directory two hundred times; its user reads of it once.
 void DirectoryLookup::reportFailure() const {
-    Log("Error in Open Directory Session");
+    logFailure("Error in Open Directory Session");
     if (!warned_)
         reportWhenPipeIsClosed([] { displayWarningMsg(errorCode::adConnect); });
     warned_ = true;
@@ -106,7 +116,7 @@ std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
     for (const auto& record : recordsOfID(objectID)) {
         const auto values = record->values(attributeType);
         if (!values) {
-            Log("Error in Opening Session");
+            logFailure("Error in Opening Session");
             return result;
         }
         const std::string first = values->empty() ? "" : values->front();
@@ -145,7 +155,7 @@ std::string DirectoryLookup::getSidforObject(const std::string& objName, const s
     for (const auto& record : *records) {
         const auto values = record->values(kODAttributeTypeSMBSID);
         if (!values) {
-            Log("Error in Open Directory Session");
+            logFailure("Error in Open Directory Session");
             return sid;
         }
         sid = values->empty() ? "" : values->front();

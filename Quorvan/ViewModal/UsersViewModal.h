@@ -4,6 +4,7 @@
 #include "Platform/DirectoryServices.h"
 #include "Quorvan/Modal/Users.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -47,6 +48,9 @@ private:
     void reportFailure() const;
     const platform::DirectoryRecords& recordsOfID(const std::string& objectID) const;
     mutable std::unique_ptr<Surroundings> surroundings_; ///< read by the first look-up
+    void logFailure(const char* text) const;
+
+    mutable std::size_t failures_ = 0;
     mutable bool warned_ = false;
 };
 

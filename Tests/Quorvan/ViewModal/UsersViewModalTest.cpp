@@ -47,6 +47,13 @@ TEST_F(UsersViewModal, SearchesWhereTheMachineIsBound) {
     world.directory->state.reset();
     EXPECT_THAT(getUserGroupInfo(sid, {}, kODAttributeTypeSMBSID), IsEmpty());
     EXPECT_THAT(log.lines, ElementsAre("Could not find a Active Directory on the server"));
+    const DirectoryLookup directory;
+    log.take();
+    for (int row = 0; row < 300; ++row)
+        directory.lookupAttrValueFromID(std::to_string(row), "recordName");
+    EXPECT_EQ(log.lines.size(), 101U);
+    EXPECT_EQ(log.lines.back(),
+              "Could not find a Active Directory on the server … and so on for the rest of this list");
     EXPECT_THAT(world.alerts->shown, IsEmpty());
     world.bundle->features->clear();
     EXPECT_DEATH(getUserGroupInfo(sid, {}, kODAttributeTypeSMBSID), "multiForest");
