@@ -77,7 +77,7 @@ ShareMount parsed(const std::string& line) {
     source = trimmed(unescaped(source));
     mount.server = takePart(source);
     mount.share = takePart(source);
-    mount.folder = folderOf(source, trimmed(unescaped(root)));
+    mount.folder = folderOf(trimmed(source), trimmed(unescaped(root)));
     return mount;
 }
 

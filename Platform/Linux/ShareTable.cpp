@@ -88,7 +88,7 @@ std::string ServerPlace::serverPath() const {
 
 std::string ServerPlace::localPath() const {
     const fs::path root = fs::path(volumesFolder) / volume;
-    return (below.empty() ? root : root / below).native();
+    return (below.empty() ? root : root / below.relative_path()).native();
 }
 
 ShareTable::ShareTable(std::vector<fs::path> files)
@@ -104,8 +104,11 @@ std::optional<ServerPlace> ShareTable::placeOf(const ShareMount& mount) const {
             place = std::move(*said);
             break;
         }
+    if (place.volume.find_first_of("/\\:") != std::string::npos || place.volume == "." ||
+        place.volume == "..")
+        return std::nullopt; // escapes in an address can make any name
     if (!mount.folder.empty())
-        place.below /= mount.folder;
+        place.below /= mount.folder.relative_path();
     return place;
 }
 
