@@ -2,6 +2,7 @@
 #include "Handover/Handover.h"
 
 #include "Common/ServerDetails.h"
+#include "Common/Utf8.h"
 #include "Platform/PercentEscapes.h"
 
 #include <algorithm>
@@ -44,9 +45,11 @@ std::optional<Selected> shareOf(const fs::path& path, const platform::MountPlace
     return found;
 }
 
-/// A few names, such as one that holds "Volumes" or a backslash, would be read as another path, and that must
-/// not be managed.
+/// A few names, such as one that holds "Volumes" or a backslash or is no UTF-8, would be read as another
+/// path, and that must not be managed.
 bool isReadAs(const Handover& handover, const platform::ServerPlace& place) {
+    if (!isUtf8(handover.serverIP) || !isUtf8(handover.selectedPath))
+        return false; // the hand-over holds texts
     for (const fs::path& part : place.below)
         if (part == ".." || part == "." || part.native().find('\\') != std::string::npos)
             return false;

@@ -89,6 +89,7 @@ ShareMount parsedDesktopMount(const fs::path& point) {
     const std::string name = point.filename().native();
     if (!name.starts_with(prefix))
         return mount;
+    bool isOfSmbPort = true;
     std::istringstream fields(name.substr(prefix.size()));
     for (std::string field; std::getline(fields, field, ',');) {
         const std::string value = percentUnescaped(field.substr(std::min(field.find('=') + 1, field.size())));
@@ -96,9 +97,22 @@ ShareMount parsedDesktopMount(const fs::path& point) {
             mount.server = value;
         else if (field.starts_with("share="))
             mount.share = value;
+        else if (field.starts_with("port=") && value != "445")
+            isOfSmbPort = false;
     }
+    if (!isOfSmbPort)
+        mount.server.clear();
     mount.hasLowerCaseName = true;
     return mount;
+}
+
+/// The server of "[USER@]HOST[:PORT]"; "" for a port that is not SMB's own, where another server listens, and
+/// for an IPv6 address.
+std::string serverOf(const std::string& authority) {
+    const std::string host = authority.substr(authority.rfind('@') + 1); // npos + 1 = 0
+    const std::size_t colon = std::min(host.find(':'), host.size());
+    const std::string port = host.substr(colon);
+    return port.empty() || port == ":" || port == ":445" ? host.substr(0, colon) : std::string();
 }
 
 /// Calls `take` with each entry of a folder, as far as it can be read.
@@ -137,9 +151,9 @@ std::vector<ShareMount> allMounts(const MountPlaces& places) {
         if (!entry.filename().native().starts_with("kio-fuse-"))
             return;
         forEachEntry(entry / "smb", [&add](const fs::path& host) {
-            const std::string name = host.filename().native();
+            const std::string server = serverOf(host.filename().native());
             forEachEntry(host, [&](const fs::path& share) {
-                add({name.substr(name.rfind('@') + 1), share.filename().native(), {}, share, false});
+                add({server, share.filename().native(), {}, share, false});
             });
         });
     });
@@ -152,9 +166,7 @@ ShareMount shareOfAddress(const std::string& address) {
     if (!address.starts_with(scheme))
         return found;
     std::string rest = address.substr(scheme.size());
-    std::string host = takePart(rest);
-    host.erase(0, host.rfind('@') + 1);
-    found.server = percentUnescaped(host.substr(0, host.find(':')));
+    found.server = percentUnescaped(serverOf(takePart(rest)));
     found.share = percentUnescaped(takePart(rest));
     found.folder = percentUnescaped(trimmed(rest));
     found.hasLowerCaseName = true;

@@ -85,6 +85,9 @@ TEST_F(HandoverTest, FindsTheServerPathOfWhatWasChosen) {
         {"mnt/local/x", "Handover_No_Share_Label"},
         {"mnt/big disk/own/x", "Handover_No_Share_Label"}, // mounted within the share
         {"gvfs/sftp:host=files", "Handover_No_Share_Label"},
+        {"gvfs/smb-share:port=1445,server=nas,share=vol1", "Handover_No_Share_Label"}, // another server
+        {"kio-fuse-Ab/smb/nas:1445/vol1", "Handover_No_Share_Label"},
+        {"mnt/big disk/latin-\xFC", "Handover_Odd_Name_Label"},
     };
     for (const auto& each : cases)
         EXPECT_EQ(handOver(made(each.path)), each.expected) << each.path;
@@ -97,6 +100,8 @@ TEST_F(HandoverTest, FindsTheServerPathOfWhatWasChosen) {
                                                       "files.example.org, /Volumes/VOL1/users/bob/a b, "
                                                       "VOL1:\\users\\bob, VOL1:\\users\\bob\\a b"},
                                             {"smb://nas/vol1", "nas, /Volumes/VOL1, VOL1:\\, VOL1:\\"},
+                                            {"smb://nas:1445/vol1", "Handover_No_Share_Label"},
+                                            {"smb://[fe80::1]/vol1", "Handover_No_Share_Label"},
                                             {"smb://nas", "Handover_No_Share_Label"},
                                             {"smb:///share/x", "Handover_No_Share_Label"},
                                             {"smb://nas/vol1/a/../../x", "Handover_Odd_Name_Label"}})
