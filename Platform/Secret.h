@@ -2,42 +2,38 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
 #include <string_view>
 
 namespace quorvan::platform {
 
-/// A password: bytes in one place of memory, which is wiped before it is given back.
+/// A password: bytes in one place, which stays out of swap files and core dumps as far as the system allows
+/// it, and is wiped before it is given back.
 ///
-/// A secret moves from owner to owner. Nothing copies it unless copy() is called, nothing converts it into a
-/// text that could be logged, and it never grows, so that no part of it stays behind.
+/// A secret moves from owner to owner, or is shared by several, who then all refer to the same place. Nothing
+/// copies it or converts it into a text that could be logged.
 class Secret {
 public:
     Secret() = default;
-    explicit Secret(std::string_view bytes)
-        : bytes_(new char[bytes.size()], Wipe{bytes.size()}) {
-        bytes.copy(bytes_.get(), bytes.size());
-    }
+    explicit Secret(std::string_view bytes);
 
-    Secret copy() const { return Secret(reveal()); }
+    /// The same secret for another owner.
+    Secret share() const;
 
-    /// The bytes, for whoever sends them to the server or compares them. Valid as long as this owner.
-    std::string_view reveal() const { return {bytes_.get(), size()}; }
+    /// The bytes, for whoever sends them to the server or compares them. Valid as long as an owner.
+    std::string_view reveal() const { return bytes_ ? *bytes_ : std::string_view(); }
 
-    std::size_t size() const { return bytes_ ? bytes_.get_deleter().size : 0; }
-    bool empty() const { return size() == 0; }
+    std::size_t size() const { return reveal().size(); }
+    bool empty() const { return reveal().empty(); }
+
+    Secret(Secret&&) = default;
+    Secret& operator=(Secret&&) = default;
+    Secret(const Secret&) = delete;
+    Secret& operator=(const Secret&) = delete;
+    ~Secret() = default;
 
 private:
-    struct Wipe {
-        std::size_t size = 0;
-        void operator()(char* bytes) const {
-            ::explicit_bzero(bytes, size);
-            delete[] bytes;
-        }
-    };
-
-    std::unique_ptr<char[], Wipe> bytes_;
+    std::shared_ptr<const std::string_view> bytes_;
 };
 
 } // namespace quorvan::platform

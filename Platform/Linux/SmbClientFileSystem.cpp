@@ -23,12 +23,6 @@ int fail(int error) {
     return -1;
 }
 
-/// Tells one name and password from another without keeping the password.
-std::size_t hashOf(const std::string& user, const Secret& password) {
-    const std::size_t hash = std::hash<std::string_view>()(password.reveal());
-    return std::hash<std::string>()(user + '\0' + std::to_string(hash));
-}
-
 } // namespace
 
 struct SmbClientFileSystem::OpenFile {
@@ -144,9 +138,9 @@ MountResult SmbClientFileSystem::mount(const std::string& url, const std::string
     const ServerAddress server{resolver_.resolve(share->host()).any, share->port()};
     if (server.host.empty())
         return {EHOSTUNREACH, {}};
-    const std::size_t credentials = hashOf(user, password);
     if (const auto refused = refused_.find(share->server);
-        refused != refused_.end() && refused->second == credentials)
+        refused != refused_.end() && refused->second.user == user &&
+        refused->second.password.reveal() == password.reveal())
         return {EACCES, {}};
     if (isPausing(server))
         return {ETIMEDOUT, {}};
@@ -158,7 +152,7 @@ MountResult SmbClientFileSystem::mount(const std::string& url, const std::string
         error = ETIMEDOUT;
     if (error != 0) {
         if (error == EACCES)
-            refused_[share->server] = credentials;
+            refused_[share->server] = {user, password.share()};
         attend(server, [&] { session.reset(); });
         return {error, {}};
     }

@@ -86,7 +86,11 @@ private:
     CallThread library_;
     std::map<ServerAddress, Clock::time_point> silentSince_;
     Clock::time_point told_;                                      ///< when `waiting_` was last called
-    std::map<std::string, std::size_t> refused_;                  ///< what was refused, by server
+    struct Login {
+        std::string user;
+        Secret password;
+    };
+    std::map<std::string, Login> refused_;                        ///< by server
     std::map<std::string, std::unique_ptr<SmbSession>> sessions_; ///< by mount point
     std::map<int, std::unique_ptr<OpenFile>> files_;              ///< by descriptor
 };

@@ -14,7 +14,7 @@ SmbSession::SmbSession(const SmbUrl& share, ServerAddress server, std::string us
                        std::chrono::milliseconds timeLimit)
     : server_(std::move(server))
     , share_(share.at(server_.host))
-    , credentials_(share_.host(), std::move(user), password.copy())
+    , credentials_(share_.host(), std::move(user), password.share())
     , timeLimit_(timeLimit) {}
 
 SmbSession::~SmbSession() {

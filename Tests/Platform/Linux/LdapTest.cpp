@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/LdapDirectory.h"
 #include "Platform/Linux/LdapFilter.h"
+#include "Tests/Support/LdapMessages.h"
 #include "Tests/Support/LdapSetting.h"
+#include "Tests/Support/Socket.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <thread>
-
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace quorvan::platform {
 namespace {
 
+using namespace test::ldap;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -72,68 +70,15 @@ TEST(LdapFilter, KeepsValuesFromMeaningAnything) {
     EXPECT_FALSE(isBelow("DC=ab,DC=c", "DC=b,DC=c"));
 }
 
-/// One element of an LDAP message.
-std::string element(int tag, const std::string& content) {
-    std::string text{static_cast<char>(tag), '\x82', static_cast<char>(content.size() >> 8U),
-                     static_cast<char>(content.size() & 0xFFU)};
-    return text + content;
-}
-
-std::string message(int id, const std::string& operation, const std::string& controls = "") {
-    return element(0x30, std::string("\2\1") + static_cast<char>(id) + operation + controls);
-}
-
-std::string entry(int id, const std::vector<std::pair<std::string, std::string>>& attributes) {
-    std::string list;
-    for (const auto& [name, value] : attributes)
-        list += element(0x30, element(4, name) + element(0x31, element(4, value)));
-    return message(id, element(0x64, element(4, "CN=x,DC=a") + element(0x30, list)));
-}
-
-const std::string success("\x0a\1\0\4\0\4\0", 7);
-
-std::string done(int id, const std::string& cookie = "") {
-    const std::string paging = element(0x30, std::string("\2\1\0", 3) + element(4, cookie));
-    return message(id, element(0x65, success),
-                   element(0xA0, element(0x30, element(4, "1.2.840.113556.1.4.319") + element(4, paging))));
-}
-
-/// A server without manners: answers each request with the next of some texts, the last one again and
-/// again, and none at all when there are none. `requests` counts from 1, as a client's message numbers do.
-class RudeServer {
-public:
-    explicit RudeServer(std::function<std::string(int request)> answer) {
-        sockaddr_in address{};
-        socklen_t size = sizeof address;
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
-        ::bind(listener_, reinterpret_cast<const sockaddr*>(&address), size);
-        ::listen(listener_, 8);
-        ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size);
-        port = std::to_string(::ntohs(address.sin_port));
-        thread_ = std::thread([this, answer = std::move(answer)] {
-            for (int client = 0; (client = ::accept(listener_, nullptr, nullptr)) >= 0; ::close(client)) {
-                char request[4096];
-                for (int number = 1; ::recv(client, request, sizeof request, 0) > 0; ++number) {
-                    const std::string text = answer(number);
-                    ::send(client, text.data(), text.size(), MSG_NOSIGNAL);
-                }
-            }
-        });
-    }
-    ~RudeServer() {
-        ::shutdown(listener_, SHUT_RDWR);
-        thread_.join();
-        ::close(listener_);
-    }
-    RudeServer(const RudeServer&) = delete;
-    RudeServer& operator=(const RudeServer&) = delete;
-
-    std::string port;
-
-private:
-    int listener_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    std::thread thread_;
+/// A server without manners: answers each request with a text, whatever it asks. Requests count from 1, as a
+/// client's message numbers do.
+struct RudeServer : test::TestServer {
+    explicit RudeServer(const std::function<std::string(int request)>& answer)
+        : TestServer([answer](const test::Socket& client) {
+            for (int number = 1; !client.receive(4096).empty(); ++number)
+                client.send(answer(number));
+        }) {}
+    std::string address() const { return "127.0.0.1:" + std::to_string(port()); }
 };
 
 struct SameItem : Keychain {
@@ -142,10 +87,6 @@ struct SameItem : Keychain {
     }
 };
 
-const std::string bound = message(1, element(0x61, success));
-const std::string root =
-    entry(2, {{"configurationNamingContext", "CN=C"}, {"namingContexts", "DC=a"}}) + done(2);
-const std::string domains = entry(3, {{"nETBIOSName", "A"}, {"nCName", "DC=a"}}) + done(3);
 const DirectoryQuery everyUser{users, "", DirectoryMatch::any, {}};
 
 struct Client {
@@ -199,7 +140,7 @@ TEST(LdapDirectory, SurvivesRudeServers) {
             }
             return answer == "endless" ? done(request, "more") : answer;
         });
-        Client client(std::string(scheme) + "://127.0.0.1:" + server.port);
+        Client client(std::string(scheme) + "://" + server.address());
         if (const auto node = client.directory.openNetworkNode()) {
             EXPECT_EQ(node->query(everyUser), std::nullopt);
         }
@@ -221,7 +162,7 @@ TEST(LdapDirectory, ReadsAllValuesOfAnAttributeThatComesInRanges) {
                                entry(7, {{"memberOf;range=2-*", "CN=c"}}) + done(7)};
         return request < 8 ? answers[static_cast<std::size_t>(request)] : "";
     });
-    Client client("ldap://127.0.0.1:" + server.port, "dc=a");
+    Client client("ldap://" + server.address(), "dc=a");
     const auto found = client.directory.openNode("/Active Directory/A")->query(everyUser).value();
     ASSERT_EQ(found.size(), 1U);
     EXPECT_THAT(found[0]->values("dsAttrTypeNative:memberOf").value(), ElementsAre("CN=a", "CN=b", "CN=c"));
@@ -234,7 +175,7 @@ TEST(LdapDirectory, TakesBrokenEntriesAsTheyAre) {
         return request <= 3 ? answers[static_cast<std::size_t>(request)]
                             : entry(request, {{"objectSid", "\1\5"}}) + done(request);
     });
-    Client client("ldap://127.0.0.1:" + server.port, "dc=a");
+    Client client("ldap://" + server.address(), "dc=a");
     const auto found = client.directory.openNode("/Active Directory/A")->query(everyUser);
     ASSERT_EQ(found.value().size(), 1U);
     EXPECT_THAT(found->front()->values("dsAttrTypeStandard:RecordName").value(), IsEmpty());

@@ -9,8 +9,11 @@
 #include "Tests/Support/LogRecorder.h"
 #include "Tests/Support/PrivateKeyring.h"
 
+#include <cstdint>
+#include <fstream>
 #include <functional>
 #include <new>
+#include <sstream>
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -69,13 +72,33 @@ static_assert(!std::is_convertible_v<Secret, std::string_view> &&
 static_assert(!std::is_convertible_v<std::string, Secret> &&
               !std::is_constructible_v<FormatArgument, Secret>);
 
+/// What the system does with the memory at an address, in the two-letter words of smaps.
+std::string memoryFlags(const void* address) {
+    std::ifstream maps("/proc/self/smaps");
+    const auto wanted = reinterpret_cast<std::uintptr_t>(address);
+    bool isThere = false;
+    for (std::string line; std::getline(maps, line);) {
+        std::uintptr_t begin = 0;
+        std::uintptr_t end = 0;
+        char dash = 0;
+        if (std::istringstream(line) >> std::hex >> begin >> dash >> end && dash == '-')
+            isThere = begin <= wanted && wanted < end;
+        if (isThere && line.starts_with("VmFlags:"))
+            return line;
+    }
+    return "";
+}
+
 TEST(SecretTest, LeavesNothingOfItInMemory) {
     const std::pair<std::function<void()>, int> cases[] = {
         {[] { std::string unprotected(markedSecret); }, 1},
         {[] { EXPECT_EQ(Secret(markedSecret).reveal(), markedSecret); }, 0},
         {[] {
              Secret secret(markedSecret);
-             Secret other = secret.copy();
+             Secret other = secret.share();
+             EXPECT_EQ(other.reveal().data(), secret.reveal().data());
+             for (const char* kept : {" lo", " dd", " wf"}) // locked, in no dump, in no child
+                 EXPECT_NE(memoryFlags(other.reveal().data()).find(kept), std::string::npos) << kept;
              secret = Secret("x");
              EXPECT_EQ(other.reveal(), markedSecret);
              other = std::move(secret);
@@ -108,7 +131,7 @@ TEST(SecretTest, LeavesNothingOfItBetweenTheKeyringAndTheServer) {
     {
         const ServerDetails& details = ServerDetails::serverInfo();
         ASSERT_EQ(details.password.value().reveal(), markedSecret);
-        const platform::SmbCredentials session("127.0.0.1", *details.username, details.password->copy());
+        const platform::SmbCredentials session("127.0.0.1", *details.username, details.password->share());
     }
     ServerDetails::forget();
     EXPECT_EQ(leftBehind, 0);
