@@ -155,7 +155,8 @@ int LdapSearchRun::readPage(Page& page) {
     ldap_memfree(page.cookie.bv_val);
     page.cookie = {0, nullptr};
     ber_int_t estimate = 0;
-    if (LDAPControl* control = ldap_control_find(LDAP_CONTROL_PAGEDRESULTS, answered, nullptr))
+    LDAPControl* const control = ldap_control_find(LDAP_CONTROL_PAGEDRESULTS, answered, nullptr);
+    if (control != nullptr && control->ldctl_value.bv_val != nullptr) // without one libldap ends the process
         ldap_parse_pageresponse_control(handle_, control, &estimate, &page.cookie);
     for (const Rest& rest : rests) {
         if (const int failed = readRest(rest); failed != LDAP_SUCCESS)
