@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/NameResolver.h"
 
+#include <algorithm>
 #include <future>
 #include <memory>
 #include <thread>
@@ -43,9 +44,14 @@ NameResolver::Addresses NameResolver::resolve(const std::string& host) {
     std::packaged_task<Addresses()> search([host] { return addressesOf(host); });
     std::future<Addresses> answer = search.get_future();
     std::thread(std::move(search)).detach();
-    Addresses addresses;
-    if (answer.wait_for(timeLimit_) == std::future_status::ready)
-        addresses = answer.get();
+    constexpr std::chrono::milliseconds interval{100};
+    const auto begin = std::chrono::steady_clock::now();
+    const auto isThere = [&answer](std::chrono::milliseconds patience) {
+        return answer.wait_for(patience) == std::future_status::ready;
+    };
+    while (!isThere(std::min(interval, timeLimit_)) && std::chrono::steady_clock::now() - begin < timeLimit_)
+        waiting_(begin);
+    const Addresses addresses = isThere({}) ? answer.get() : Addresses();
     answers_[host] = {addresses, std::chrono::steady_clock::now()};
     return addresses;
 }

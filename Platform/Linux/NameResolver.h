@@ -2,8 +2,10 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace quorvan::platform {
 
@@ -15,8 +17,12 @@ public:
     /// How long an answer, and the lack of one, is remembered.
     static constexpr std::chrono::seconds memory{10};
 
-    explicit NameResolver(std::chrono::milliseconds timeLimit)
-        : timeLimit_(timeLimit) {}
+    using Waiting = std::function<void(std::chrono::steady_clock::time_point since)>;
+
+    /// `waiting` is called every now and then while an answer is waited for.
+    NameResolver(std::chrono::milliseconds timeLimit, Waiting waiting)
+        : timeLimit_(timeLimit)
+        , waiting_(std::move(waiting)) {}
 
     /// In numbers; "" where there is none.
     struct Addresses {
@@ -33,6 +39,7 @@ private:
         std::chrono::steady_clock::time_point since;
     };
     std::chrono::milliseconds timeLimit_;
+    Waiting waiting_;
     std::map<std::string, Answer> answers_;
 };
 

@@ -40,7 +40,7 @@ SmbClientFileSystem::SmbClientFileSystem(LogLine log, Waiting waiting, const Smb
     : log_(std::move(log))
     , waiting_(std::move(waiting))
     , limits_(limits)
-    , resolver_(limits.resolving) {}
+    , resolver_(limits.resolving, [this](Clock::time_point since) { tell(since); }) {}
 
 SmbClientFileSystem::~SmbClientFileSystem() {
     while (!sessions_.empty())
@@ -92,6 +92,37 @@ int SmbClientFileSystem::probe(const ServerAddress& server) {
     return probe.state() == SmbProbe::State::answered ? 0 : probe.error();
 }
 
+/// Tells a reply that drips within one call of the library from a server that computes: the library asks
+/// again until a whole piece has come.
+class SmbClientFileSystem::Drip {
+public:
+    explicit Drip(const SmbTimeLimits& limits)
+        : limits_(limits) {}
+
+    /// Whether less came than must, after so many bytes in all.
+    bool goesOnWith(std::int64_t bytes, Clock::time_point now) {
+        constexpr std::int64_t interimAnswer = 256; // "still at work": no part of a reply
+        if (!begin_)
+            begin_ = bytes;
+        if (!stretchBegin_ && bytes - *begin_ <= interimAnswer)
+            return false;
+        const bool isOver = stretchBegin_ && now - *stretchBegin_ >= limits_.silence;
+        const bool isTooLittle =
+            isOver && bytes - stretchBytes_ < static_cast<std::int64_t>(limits_.leastProgress);
+        if (isOver || !stretchBegin_) {
+            stretchBegin_ = now;
+            stretchBytes_ = bytes;
+        }
+        return isTooLittle;
+    }
+
+private:
+    const SmbTimeLimits& limits_;
+    std::optional<std::int64_t> begin_;
+    std::optional<Clock::time_point> stretchBegin_;
+    std::int64_t stretchBytes_ = 0;
+};
+
 /// Runs a library call about a server; false, and ETIMEDOUT, when it had to be ended.
 bool SmbClientFileSystem::attend(const ServerAddress& server, const std::function<void()>& call,
                                  const OpenFile* file) {
@@ -99,13 +130,14 @@ bool SmbClientFileSystem::attend(const ServerAddress& server, const std::functio
     auto answered = begin; // when the server was last seen to answer elsewhere
     bool isEnded = false;
     std::optional<SmbProbe> second;
+    Drip drip(limits_);
     library_.run(call, [&] {
         const auto now = Clock::now();
         tell(begin);
-        const auto heard = timeSinceHeard(server, second ? second->descriptor() : -1);
+        const auto heard = heardFrom(server, second ? second->descriptor() : -1);
         auto silence = std::chrono::duration_cast<std::chrono::milliseconds>(now - answered);
         if (heard)
-            silence = std::min(silence, *heard);
+            silence = std::min(silence, heard->ago);
         if (silence < limits_.silence - limits_.secondTry) {
             second.reset();
         } else {
@@ -120,8 +152,9 @@ bool SmbClientFileSystem::attend(const ServerAddress& server, const std::functio
         const bool isGone = silence >= limits_.silence;
         if (isGone)
             silentSince_[server] = now;
-        isEnded =
-            isEnded || isGone || now - begin >= limits_.computing || (file != nullptr && isTooSlow(*file));
+        const bool drips =
+            file != nullptr && (isTooSlow(*file) || (heard && drip.goesOnWith(heard->bytes, now)));
+        isEnded = isEnded || isGone || drips || now - begin >= limits_.computing;
         if (isEnded)
             endConnections(server);
     });
@@ -146,7 +179,8 @@ MountResult SmbClientFileSystem::mount(const std::string& url, const std::string
         return {ETIMEDOUT, {}};
     if (const int error = probe(server); error != 0)
         return {error, {}};
-    auto session = std::make_unique<SmbSession>(*share, server, user, password, limits_.computing);
+    auto session =
+        std::make_unique<SmbSession>(*share, server, user, password, limits_.computing + limits_.silence);
     int error = 0;
     if (!attend(server, [&] { error = session->connect(); }))
         error = ETIMEDOUT;
@@ -227,8 +261,10 @@ bool SmbClientFileSystem::isTooSlow(const OpenFile& file) const {
            file.stretch < limits_.leastProgress;
 }
 
+/// Whatever becomes of the reply, closing the file must not wait for the server once more.
 void SmbClientFileSystem::lose(OpenFile& file, int error) {
     file.loss = error;
+    endConnections(file.session->server());
     log_("Lost the server at " + file.path + ": " + std::generic_category().message(error));
 }
 

@@ -60,6 +60,7 @@ public:
     void forgetRefusals() override;
 
 private:
+    class Drip;
     struct OpenFile;
     struct Place {
         SmbSession* session = nullptr; ///< null when nothing is mounted there
@@ -85,7 +86,7 @@ private:
     NameResolver resolver_;
     CallThread library_;
     std::map<ServerAddress, Clock::time_point> silentSince_;
-    Clock::time_point told_;                                      ///< when `waiting_` was last called
+    Clock::time_point told_; ///< when `waiting_` was last called
     struct Login {
         std::string user;
         Secret password;

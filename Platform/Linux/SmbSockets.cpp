@@ -9,8 +9,8 @@
 #include <vector>
 
 #include <arpa/inet.h>
+#include <linux/tcp.h>
 #include <netinet/in.h>
-#include <netinet/tcp.h>
 
 namespace quorvan::platform {
 namespace {
@@ -63,17 +63,19 @@ std::optional<sockaddr_storage> ServerAddress::forSockets() const {
     return address;
 }
 
-std::optional<std::chrono::milliseconds> timeSinceHeard(const ServerAddress& server, int leftOut) {
-    std::optional<std::chrono::milliseconds> shortest;
+std::optional<Heard> heardFrom(const ServerAddress& server, int leftOut) {
+    std::optional<Heard> heard;
     for (const int descriptor : connectionsTo(server)) {
         tcp_info info{};
         socklen_t size = sizeof info;
         if (descriptor == leftOut || ::getsockopt(descriptor, IPPROTO_TCP, TCP_INFO, &info, &size) != 0)
             continue;
         const std::chrono::milliseconds since(info.tcpi_last_data_recv);
-        shortest = std::min(shortest.value_or(since), since);
+        const Heard before = heard.value_or(Heard{since, 0});
+        heard = {std::min(before.ago, since),
+                 before.bytes + static_cast<std::int64_t>(info.tcpi_bytes_received)};
     }
-    return shortest;
+    return heard;
 }
 
 void endConnections(const ServerAddress& server) {

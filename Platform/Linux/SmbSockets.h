@@ -24,9 +24,14 @@ struct ServerAddress {
 
 // The SMB library keeps its connections to itself; the system knows them.
 
-/// How long ago a server was last heard on any of this process's connections to it, one descriptor left out;
-/// nothing without one.
-std::optional<std::chrono::milliseconds> timeSinceHeard(const ServerAddress& server, int leftOut);
+/// What came from a server on this process's connections to it.
+struct Heard {
+    std::chrono::milliseconds ago; ///< the last of it
+    std::int64_t bytes;            ///< all of it
+};
+
+/// One descriptor is left out; nothing without any other.
+std::optional<Heard> heardFrom(const ServerAddress& server, int leftOut);
 
 /// Ends this process's connections to a server. Whatever waits on one of them fails at once.
 void endConnections(const ServerAddress& server);

@@ -11,13 +11,14 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 namespace quorvan {
 namespace {
 
 constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
-constexpr unsigned secondsToTheEventLoop = 1;
+constexpr itimerval toTheEventLoop{{0, 0}, {0, 700'000}}; ///< within a second
 constexpr unsigned secondsToTheEnd = 3; ///< from there, with servers to log off from
 int writeEnd = -1;
 
@@ -30,7 +31,7 @@ void endAtOnce(int) {
 
 void tellTheEventLoop(int) {
     const int savedErrno = errno;
-    alarm(secondsToTheEventLoop);
+    setitimer(ITIMER_REAL, &toTheEventLoop, nullptr);
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, 1);
     errno = savedErrno;
