@@ -13,6 +13,7 @@
 #include "Quorvan/Application.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <QIcon>
 
@@ -52,6 +53,16 @@ void keepMemoryPrivate() {
 #endif
 }
 
+#ifdef QUORVAN_SHORT_LIMITS // the program that tests leave waiting
+constexpr quorvan::platform::SmbTimeLimits limits{.silence = std::chrono::seconds(2),
+                                                  .secondTry = std::chrono::seconds(1),
+                                                  .computing = std::chrono::seconds(6),
+                                                  .pause = std::chrono::seconds(1),
+                                                  .resolving = std::chrono::seconds(2)};
+#else
+constexpr quorvan::platform::SmbTimeLimits limits;
+#endif
+
 quorvan::platform::Services platformServices() {
     using namespace quorvan::platform;
     const LogLine log = [](std::string_view text) { quorvan::Log("%@", text); };
@@ -61,7 +72,7 @@ quorvan::platform::Services platformServices() {
     services.busy = std::make_shared<QtWaitCursor>(
         [](std::chrono::seconds soFar) { return quorvan::L("Waiting_Label").arg(soFar.count()); });
     services.network = std::make_shared<SmbClientFileSystem>(
-        log, [busy = services.busy](std::chrono::seconds soFar) { busy->waiting(soFar); });
+        log, [busy = services.busy](std::chrono::seconds soFar) { busy->waiting(soFar); }, limits);
     services.directory = std::make_shared<LdapDirectory>(services.keychain, log);
     services.volumes = std::make_shared<MountedVolumes>();
     services.bundle = std::make_shared<QtBundle>();
@@ -86,6 +97,9 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "quorvan: unknown argument: %s\n%s", argv[1], helpText);
         return 2;
     }
+#ifdef QUORVAN_SHORT_LIMITS
+    quorvan::XMLReadWriteController::longestReply = std::size_t{2} << 20U;
+#endif
     QApplication::setApplicationVersion(QUORVAN_VERSION);
     QApplication::setDesktopFileName("org.tarnix.Quorvan");
     QApplication::setWindowIcon(QIcon(":/icons/quorvan.svg"));

@@ -64,9 +64,6 @@ public:
     ExchangeScope& operator=(const ExchangeScope&) = delete;
 };
 
-/// In bytes. The rights of all paths of a volume with a million trustees come to half of it.
-constexpr std::size_t longestReply = std::size_t{512} << 20U;
-
 /// Lets a reply grow by leaps. Memory that is reserved and never touched costs nothing, whereas copying a
 /// long reply from one place to the next costs as much as reading it.
 void makeRoom(std::string& reply) {
@@ -79,6 +76,7 @@ void makeRoom(std::string& reply) {
 } // namespace
 
 std::int32_t XMLReadWriteController::fileDes = -1;
+std::size_t XMLReadWriteController::longestReply = std::size_t{512} << 20U;
 
 std::int32_t XMLReadWriteController::openPipe(const std::string& server, const std::string& share,
                                               const std::string& pipe) {

@@ -43,6 +43,8 @@ struct ExchangeLog {
 class XMLReadWriteController {
 public:
     static constexpr int MEM_SIZE = 4096; ///< the server hands out a reply in pieces of this many bytes
+    /// In bytes. The rights of all paths of a volume with a million trustees come to half of it.
+    static std::size_t longestReply;
 
     XMLReadWriteController();
     ~XMLReadWriteController();
@@ -76,7 +78,7 @@ public:
     static void dropPipe();
     /// Writes a request to the open pipe and returns the whole reply, well-formed UTF-8. Without an
     /// open pipe the process ends with status 1; in the middle of another exchange it is fatal. Empty after a
-    /// loss, to which a reply of more than 512 MB counts.
+    /// loss, to which a reply beyond `longestReply` counts.
     std::string exchangeRequest(const std::string& request, const ExchangeLog& log);
     /// Whether the connection was lost in an exchange since openPipe: the errno, or 0. What the last request
     /// was to change may or may not have been changed.

@@ -64,8 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     answers = std::make_shared<const Answers>(answersIn(test::textOf(data, size)));
     int lines = 0;
     LdapDirectory directory(
-        std::make_shared<SameItem>(), [&lines](std::string_view) { ++lines; },
-        std::chrono::milliseconds(100));
+        std::make_shared<SameItem>(), [&lines](std::string_view) { ++lines; }, std::chrono::milliseconds(30));
     ask(directory);
     test::expect(lines <= 2);
     return 0;

@@ -117,6 +117,18 @@ class Screen:
         )
         self.display.sync()
 
+    def windows(self):
+        """What the windows on the screen look like, by their titles."""
+        from Xlib import X
+
+        seen = {}
+        for window in self.display.screen().root.query_tree().children:
+            if window.get_attributes().map_state == X.IsViewable:
+                size = window.get_geometry()
+                image = window.get_image(0, 0, size.width, size.height, X.ZPixmap, 0xFFFFFFFF)
+                seen[window.get_wm_name()] = bytes(image.data)
+        return seen
+
     def stop(self):
         self.display.close()
         self.server.terminate()
@@ -195,6 +207,16 @@ class View:
         box = control.get_extents(Atspi.CoordType.SCREEN)
         middle = 8 if control.get_role_name() == "check box" else box.width // 2
         self.screen.click(box.x + middle, box.y + box.height // 2)
+
+    def answer(self, button):
+        """Presses a button of a box that may be gone before the press arrives."""
+        from gi.repository import GLib
+
+        try:
+            self.find("push button", button).get_action_iface().do_action(0)
+        except (AttributeError, GLib.Error):
+            pass
+        time.sleep(0.2)  # for a tenth of a second the button is seen pressed; another press would begin it anew
 
     def cell(self, row, column):
         return self.wait_for("table").get_table_iface().get_accessible_at(row, column)

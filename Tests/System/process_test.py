@@ -32,7 +32,7 @@ USER = "ingrid.holm"
 PASSWORD = "pl3nty-0f-s3crets"
 PATH = "VOL1:\\Projects\\Aurora"
 RIGHTS = (0x0100, 0x0001, 0x0002, 0x0010, 0x0008, 0x0080, 0x0040, 0x0020)  # S R W E C M F A
-PREFIX = re.compile(r"\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{6}[+-]\d{4} quorvan\[\d+:\d+\] ")
+PREFIX = re.compile(r"\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{6}[+-]\d{4} quorvan\w*\[\d+:\d+\] ")
 
 NO_DIRECTORY = "Could not find a Active Directory on the server"  # once for each trustee; kept once
 OPEN_PIPE = [
@@ -105,10 +105,13 @@ class Server:
         clean_up(end, self.front)
         assert self.front.stdout.readline() == "ready\n"
 
-    def sessions(self):
-        self.front.stdin.write("sessions\n")
+    def ask(self, line):
+        self.front.stdin.write(line + "\n")
         self.front.stdin.flush()
         return self.front.stdout.readline().strip()
+
+    def sessions(self):
+        return self.ask("sessions")
 
     def rows(self, path):
         """SID, mask and name of the Active Directory trustees, in the server's order."""
@@ -119,7 +122,9 @@ class Server:
         return [(name, int(mask, 16)) for _, mask, name in self.rows(path)]
 
 
-class ProcessTest(unittest.TestCase):
+class WindowTest(unittest.TestCase):
+    """The program on a screen, with a keyring, in front of a server."""
+
     @classmethod
     def setUpClass(cls):
         cls.screen = desktop.Screen()
@@ -131,15 +136,16 @@ class ProcessTest(unittest.TestCase):
         self.home = pathlib.Path(os.environ["HOME"])
         self.log = self.home / "Library/Logs/tarnix/Quorvan.log"
         self.log.unlink(missing_ok=True)
-        self.view = desktop.View("quorvan", self.screen)
+        self.view = desktop.View(pathlib.Path(QUORVAN).name, self.screen)
 
-    def start(self, server, **more):
-        """Hands a selection over, of the whole volume unless told otherwise, and starts the program."""
+    def start(self, server, *before, **more):
+        """Hands a selection over, of the whole volume unless told otherwise, and starts the program, with words
+        before its name where there are any."""
         hand_over = {"serverIP": server, "selectedPath": "/Volumes/VOL1/Projects/Aurora", "mappedPath": "VOL1:\\"}
         file = self.home / ".config/group.tarnix.common.plist"
         file.parent.mkdir(exist_ok=True)
         file.write_bytes(plistlib.dumps({**hand_over, **more}))
-        self.quorvan = subprocess.Popen([QUORVAN])
+        self.quorvan = subprocess.Popen([*before, QUORVAN])
         self.addCleanup(end, self.quorvan)
 
     def close(self, title="Rights Management"):
@@ -200,6 +206,8 @@ class ProcessTest(unittest.TestCase):
         self.maxDiff = None
         self.assertEqual(texts, expected)
 
+
+class ProcessTest(WindowTest):
     def test_a_right_ticked_in_the_window_arrives_at_the_server(self):
         self.keyring.store(ADDRESS, USER, PASSWORD)
         self.start(ADDRESS)
@@ -393,7 +401,8 @@ def obstacle():
     return desktop.missing() or ("" if can_serve(ADDRESS) else f"port 445 of {ADDRESS} cannot be opened")
 
 
-if __name__ == "__main__":
+def main():
+    global QUORVAN, KELP_SERVER
     if not desktop.in_session():
         reason = obstacle()
         if reason:
@@ -405,3 +414,7 @@ if __name__ == "__main__":
     for _, reason in result.skipped:
         print("SKIPPED:", reason)
     sys.exit(1 if not result.wasSuccessful() else 77 if result.skipped else 0)
+
+
+if __name__ == "__main__":
+    main()

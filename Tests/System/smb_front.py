@@ -11,14 +11,22 @@ listens, then answers lines on standard input, until that ends:
 
     sessions    the clients that are logged in now, and the files they have open: "1 2"
     drop        "ok"; ends every connection, as a server does that loses its power
+    logins      how many logins were asked for so far
+    fail HOW PLACE
+                "ok"; from now on what is read fails at a PLACE: before the reply, within it (after 90 bytes) or
+                after it (where it would end). HOW is close or reset, of the connection; silence, of the whole
+                server; drip, a byte at a time; endless. A login fails by "fail guest -": it makes a guest.
+    mend        "ok"; nothing fails any more
 """
 import argparse
 import errno
 import logging
 import secrets
 import socket
+import struct
 import sys
 import threading
+import time
 
 from impacket import nt_errors, ntlm, smb3structs as smb2
 from impacket.smbserver import PIPE_FILE_DESCRIPTOR, SimpleSMBServer, SMBSERVERHandler
@@ -44,6 +52,8 @@ class KelpError(OSError):
 class KelpConnection:
     """One conversation with kelp-server."""
 
+    pieces = 0  # of the reply that is being read
+
     def __init__(self, port):
         self.socket = socket.create_connection(("127.0.0.1", port))
         self.stream = self.socket.makefile("rwb")
@@ -64,16 +74,33 @@ class KelpConnection:
 
 
 class TrackedHandler(SMBSERVERHandler):
-    """A client connection that can be ended from outside."""
+    """A client connection that can be ended from outside, in a thread of its own."""
 
     open_sockets = set()
+    own = threading.local()
+    speaks = threading.Event()  # cleared, no connection gets an answer
 
     def handle(self):
         self.open_sockets.add(self.request)
+        self.own.socket = self.request
+        self.speaks.wait()
         try:
             super().handle()
         finally:
             self.open_sockets.discard(self.request)
+
+    @classmethod
+    def end(cls, how):
+        """Ends the connection of this thread."""
+        if how == "silence":
+            cls.speaks.clear()
+            cls.speaks.wait()
+        if how == "reset":  # what is closed without lingering is
+            cls.own.socket.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
+            cls.own.socket.close()
+        else:
+            cls.own.socket.shutdown(socket.SHUT_RDWR)
+        raise ConnectionAbortedError
 
 
 class Front:
@@ -81,16 +108,28 @@ class Front:
 
     def __init__(self, server, kelp_port, folders):
         self.kelp_port = kelp_port
+        self.fault = ("", "")
+        self.logins = 0
         self.folders = [name.upper() for name in folders]
         self.original = {
             command: server.hookSmb2Command(command, hook)
             for command, hook in (
+                (smb2.SMB2_SESSION_SETUP, self.session_setup),
                 (smb2.SMB2_TREE_CONNECT, self.tree_connect),
                 (smb2.SMB2_CREATE, self.create),
                 (smb2.SMB2_WRITE, self.write),
                 (smb2.SMB2_READ, self.read),
             )
         }
+
+    def session_setup(self, conn_id, server, packet):
+        answer = self.original[smb2.SMB2_SESSION_SETUP](conn_id, server, packet)
+        if answer[2] != nt_errors.STATUS_MORE_PROCESSING_REQUIRED:
+            self.logins += 1
+            if self.fault[0] == "guest":
+                answer[0][0]["SessionFlags"] = 1
+                server.getConnectionData(conn_id)["SignatureEnabled"] = False
+        return answer
 
     def tree_connect(self, conn_id, server, packet):
         request = smb2.SMB2TreeConnect(packet["Data"])
@@ -138,6 +177,7 @@ class Front:
             return [smb2.SMB2Error()], None, nt_errors.STATUS_INVALID_HANDLE
         if file["FileHandle"] != PIPE_FILE_DESCRIPTOR:
             return self.original[packet["Command"]](conn_id, server, packet)
+        TrackedHandler.speaks.wait()
         try:
             return action(file["Socket"])
         except KelpError as error:
@@ -149,6 +189,7 @@ class Front:
         def send(kelp):
             content = request["Buffer"][:request["Length"]]
             kelp.ask("write", request["Offset"], len(content), data=content)
+            kelp.pieces = 0
             response = smb2.SMB2Write_Response()
             response["Buffer"] = b"\x00"
             response["Count"] = len(content)
@@ -157,11 +198,27 @@ class Front:
 
         return self.on_pipe(conn_id, server, packet, request, send)
 
+    def spoil(self, kelp, length):
+        """The next piece of a reply, with the fault that is due in it."""
+        how, place = self.fault
+        is_due = how == "endless" or place == "before" or (place == "within" and kelp.pieces > 0)
+        content = b"" if is_due else kelp.ask("read", length)
+        if is_due or (place == "after" and not content):
+            if how == "drip":
+                time.sleep(0.1)
+            elif how != "endless":
+                TrackedHandler.end(how)
+            content = b" " * (1 if how == "drip" else length)
+        elif place == "within":
+            content = content[:90]
+        kelp.pieces += 1
+        return content
+
     def read(self, conn_id, server, packet):
         request = smb2.SMB2Read(packet["Data"])
 
         def receive(kelp):
-            content = kelp.ask("read", request["Length"])
+            content = self.spoil(kelp, request["Length"])
             if not content:
                 return [smb2.SMB2Error()], None, nt_errors.STATUS_END_OF_FILE
             response = smb2.SMB2Read_Response()
@@ -174,9 +231,16 @@ class Front:
         return self.on_pipe(conn_id, server, packet, request, receive)
 
 
-def obey(server):
+def obey(server, front):
     for line in sys.stdin:
-        if line.strip() == "sessions":
+        words = line.split()
+        if words[0] in ("fail", "mend"):
+            front.fault = tuple(words[1:]) or ("", "")
+            TrackedHandler.speaks.set()
+            print("ok", flush=True)
+        elif words[0] == "logins":
+            print(front.logins, flush=True)
+        elif line.strip() == "sessions":
             clients = [data for data in list(server.getActiveConnections().values()) if data["SignatureEnabled"]]
             print(len(clients), sum(len(data["OpenedFiles"]) for data in clients), flush=True)
         elif line.strip() == "drop":
@@ -211,10 +275,11 @@ def main():
         user, password, _ = line.split("\t")
         front.addCredential(user, 0, ntlm.compute_lmhash("").hex(), ntlm.compute_nthash(arguments.password or password).hex())
     accounts.close()
-    Front(server, arguments.kelp_port, folders)
+    hooks = Front(server, arguments.kelp_port, folders)
+    TrackedHandler.speaks.set()
     threading.Thread(target=front.start, daemon=True).start()
     print("ready", flush=True)
-    obey(server)
+    obey(server, hooks)
 
 
 if __name__ == "__main__":
