@@ -19,7 +19,7 @@ namespace {
 
 constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
 constexpr itimerval toTheEventLoop{{0, 0}, {0, 700'000}}; ///< within a second
-constexpr unsigned secondsToTheEnd = 3; ///< from there, with servers to log off from
+constexpr unsigned secondsToTheEnd = 3;                   ///< from there, with servers to log off from
 int writeEnd = -1;
 
 /// Whatever the program is waiting for, its sessions end with it.
