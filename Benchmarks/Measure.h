@@ -48,18 +48,19 @@ inline double median(std::vector<double> values) {
 }
 
 /// Runs a baseline and our own work in turn. What the work returns is its user's, so its end is not timed.
-/// The time of the benchmark is the processor time of our work; the counter "ratio" is its median over the
-/// baseline's.
+/// The time of the benchmark is the processor time of our work, or that of another clock; the counter "ratio"
+/// is its median over the baseline's.
 template <class Baseline, class Work>
-void compare(benchmark::State& state, std::size_t bytes, Baseline&& baseline, Work&& work) {
-    const auto seconds = [](auto&& what) {
-        const double begin = threadSeconds();
+void compare(benchmark::State& state, std::size_t bytes, Baseline&& baseline, Work&& work,
+             double (*now)() = threadSeconds) {
+    const auto seconds = [now](auto&& what) {
+        const double begin = now();
         if constexpr (std::is_void_v<decltype(what())>) {
             what();
-            return threadSeconds() - begin;
+            return now() - begin;
         } else {
             const auto result = what();
-            return threadSeconds() - begin;
+            return now() - begin;
         }
     };
     std::vector<double> baselines;

@@ -2,6 +2,7 @@
 #include "Platform/Linux/CallThread.h"
 
 #include <cerrno>
+#include <utility>
 
 namespace quorvan::platform {
 
@@ -17,32 +18,42 @@ CallThread::~CallThread() {
     thread_.join();
 }
 
-void CallThread::run(const std::function<void()>& call, const std::function<void()>& watch) {
-    std::unique_lock lock(mutex_);
-    call_ = &call;
+void CallThread::post(std::function<void()> call) {
+    const std::lock_guard lock(mutex_);
+    calls_.push_back(std::move(call));
+    ++posted_;
     changed_.notify_all();
-    while (!changed_.wait_for(lock, interval, [this] { return call_ == nullptr; })) {
+}
+
+void CallThread::run(const std::function<void()>& call, const std::function<void()>& watch) {
+    int error = 0;
+    post([&] {
+        errno = 0;
+        call();
+        error = errno;
+    });
+    std::unique_lock lock(mutex_);
+    const std::uint64_t own = posted_;
+    while (!changed_.wait_for(lock, interval, [this, own] { return ended_ >= own; })) {
         lock.unlock();
         watch();
         lock.lock();
     }
-    errno = error_;
+    errno = error;
 }
 
 void CallThread::serve() {
     std::unique_lock lock(mutex_);
     for (;;) {
-        changed_.wait(lock, [this] { return ends_ || call_ != nullptr; });
-        if (ends_)
+        changed_.wait(lock, [this] { return ends_ || !calls_.empty(); });
+        if (calls_.empty())
             return;
-        const auto& call = *call_;
+        const auto call = std::move(calls_.front());
+        calls_.pop_front();
         lock.unlock();
-        errno = 0;
         call();
-        const int error = errno;
         lock.lock();
-        error_ = error;
-        call_ = nullptr;
+        ++ended_;
         changed_.notify_all();
     }
 }

@@ -3,6 +3,8 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
+#include <deque>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -20,6 +22,9 @@ public:
     CallThread(const CallThread&) = delete;
     CallThread& operator=(const CallThread&) = delete;
 
+    /// Runs `call` after those before it. Nobody waits for that, unless with the next run().
+    void post(std::function<void()> call);
+
     /// Returns when `call` has ended, with the errno that it left. Until then `watch` runs in the calling
     /// thread at every interval.
     void run(const std::function<void()>& call, const std::function<void()>& watch);
@@ -29,8 +34,9 @@ private:
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    const std::function<void()>* call_ = nullptr; ///< null when there is nothing to do
-    int error_ = 0;
+    std::deque<std::function<void()>> calls_;
+    std::uint64_t posted_ = 0;
+    std::uint64_t ended_ = 0; ///< of those
     bool ends_ = false;
     std::thread thread_;
 };

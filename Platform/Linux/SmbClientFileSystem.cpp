@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <optional>
 #include <string_view>
 #include <system_error>
@@ -25,12 +26,21 @@ int fail(int error) {
 
 } // namespace
 
+/// What one read has brought.
+struct SmbClientFileSystem::Piece {
+    ssize_t count; ///< -1 for an error
+    int error;     ///< errno of that
+    std::string bytes;
+};
+
 struct SmbClientFileSystem::OpenFile {
     SmbSession* session;
     SMBCFILE* file;
     std::string path;
     off_t offset = 0;
     int loss = 0;                                    ///< errno
+    int writeError = 0;                              ///< errno of the latest write, for the read after it
+    std::deque<Piece> ahead{};                       ///< of the reply, not asked for yet
     std::optional<Clock::time_point> troubleBegin{}; ///< of the latest errors without a success between them
     std::optional<Clock::time_point> stretchBegin{}; ///< nothing before the reply begins
     std::size_t stretch = 0;                         ///< bytes of the reply since then
@@ -240,7 +250,7 @@ int SmbClientFileSystem::open(const std::string& path) {
     if (file == nullptr || !stayed)
         return -1;
     const int descriptor = files_.empty() ? 1 : files_.rbegin()->first + 1;
-    files_.emplace(descriptor, std::make_unique<OpenFile>(OpenFile{place.session, file, path}));
+    files_.emplace(descriptor, std::make_shared<OpenFile>(OpenFile{place.session, file, path}));
     return descriptor;
 }
 
@@ -268,54 +278,78 @@ void SmbClientFileSystem::lose(OpenFile& file, int error) {
     log_("Lost the server at " + file.path + ": " + std::generic_category().message(error));
 }
 
+/// Reads pieces until the reply ends, in one go of the library's thread as long as they come without delay:
+/// waking a thread for each costs as much as a near server's answer.
+void SmbClientFileSystem::readAhead(OpenFile& file, std::size_t size) {
+    constexpr std::size_t most = 16;
+    const auto end = Clock::now() + CallThread::interval;
+    do {
+        Piece piece{-1, file.writeError, std::string(size, '\0')};
+        if (piece.error == 0) {
+            piece.count = file.session->read(file.file, file.offset, piece.bytes.data(), size);
+            piece.error = errno;
+        }
+        file.ahead.push_back(std::move(piece));
+    } while (file.ahead.back().count > 0 && file.ahead.size() < most && Clock::now() < end);
+}
+
 ssize_t SmbClientFileSystem::read(int descriptor, void* buffer, std::size_t size) {
     OpenFile* file = find(descriptor);
     if (file == nullptr || file->loss != 0)
         return 0;
-    ssize_t count = -1;
-    const bool stayed = attend(
-        file->session->server(), [&] { count = file->session->read(file->file, file->offset, buffer, size); },
-        file);
-    const int error = errno;
+    if (file->ahead.empty() && !attend(
+                                   file->session->server(), [&] { readAhead(*file, size); }, file)) {
+        lose(*file, ETIMEDOUT);
+        return 0;
+    }
+    const Piece piece = std::move(file->ahead.front());
+    file->ahead.pop_front();
     const auto now = Clock::now();
-    if (stayed && count >= 0) {
-        file->troubleBegin.reset();
-        if (count > 0 && !file->stretchBegin)
-            file->stretchBegin = now;
-        file->stretch += static_cast<std::size_t>(count);
-        file->offset += count;
-        if (count == 0) {
-            file->stretchBegin.reset();
-            file->stretch = 0;
-        } else if (isTooSlow(*file)) {
-            lose(*file, ETIMEDOUT);
-            return 0;
-        } else if (now - *file->stretchBegin >= limits_.silence) {
-            file->stretchBegin = now;
-            file->stretch = 0;
-        }
-        return count;
+    if (piece.count >= 0) {
+        const auto count = std::min(static_cast<std::size_t>(piece.count), size);
+        piece.bytes.copy(static_cast<char*>(buffer), count);
+        return progress(*file, count, now);
     }
     file->troubleBegin = file->troubleBegin.value_or(now);
-    if (stayed && (error == EINTR || error == EAGAIN) && now - *file->troubleBegin < limits_.silence)
-        return fail(error);
-    lose(*file, stayed ? error : ETIMEDOUT);
+    if ((piece.error == EINTR || piece.error == EAGAIN) && now - *file->troubleBegin < limits_.silence)
+        return fail(piece.error);
+    lose(*file, piece.error);
     return 0;
 }
 
-ssize_t SmbClientFileSystem::write(int descriptor, const void* data, std::size_t size) {
-    OpenFile* file = find(descriptor);
-    if (file == nullptr)
-        return fail(EBADF);
-    ssize_t count = -1;
-    if (!attend(file->session->server(),
-                [&] { count = file->session->write(file->file, file->offset, data, size); })) {
-        lose(*file, ETIMEDOUT);
-        return -1;
+/// Takes note of a piece of a reply; its size, or 0 when the reply drips.
+ssize_t SmbClientFileSystem::progress(OpenFile& file, std::size_t count, Clock::time_point now) {
+    file.troubleBegin.reset();
+    file.stretch += count;
+    file.offset += static_cast<off_t>(count);
+    if (count > 0 && !file.stretchBegin)
+        file.stretchBegin = now;
+    if (count > 0 && isTooSlow(file)) {
+        lose(file, ETIMEDOUT);
+        return 0;
     }
-    if (count > 0)
-        file->offset += count;
-    return count;
+    if (count == 0 || now - *file.stretchBegin >= limits_.silence) {
+        file.stretchBegin.reset();
+        file.stretch = 0;
+    }
+    return static_cast<ssize_t>(count);
+}
+
+/// Is waited for with the read that follows, which fails where this does.
+ssize_t SmbClientFileSystem::write(int descriptor, const void* data, std::size_t size) {
+    const auto entry = files_.find(descriptor);
+    if (entry == files_.end())
+        return fail(EBADF);
+    entry->second->ahead.clear();
+    library_.post([file = entry->second, text = std::string(static_cast<const char*>(data), size),
+                   offset = entry->second->offset] {
+        errno = 0;
+        const ssize_t count = file->session->write(file->file, offset, text.data(), text.size());
+        const bool isWhole = count == static_cast<ssize_t>(text.size());
+        file->writeError = isWhole ? 0 : count < 0 && errno != 0 ? errno : EIO;
+    });
+    entry->second->offset += static_cast<off_t>(size);
+    return static_cast<ssize_t>(size);
 }
 
 int SmbClientFileSystem::lossOn(int descriptor) const {
@@ -323,14 +357,14 @@ int SmbClientFileSystem::lossOn(int descriptor) const {
     return file == nullptr ? 0 : file->loss;
 }
 
+/// Is not waited for: what is to be known of an exchange is known by then.
 int SmbClientFileSystem::close(int descriptor) {
-    const OpenFile* file = find(descriptor);
-    if (file == nullptr)
+    const auto entry = files_.find(descriptor);
+    if (entry == files_.end())
         return fail(EBADF);
-    int result = -1;
-    attend(file->session->server(), [&] { result = file->session->close(file->file); });
-    files_.erase(descriptor);
-    return result;
+    library_.post([file = std::move(entry->second)] { file->session->close(file->file); });
+    files_.erase(entry);
+    return 0;
 }
 
 SmbClientFileSystem::Place SmbClientFileSystem::locate(const std::string& path) const {

@@ -27,6 +27,9 @@ class SmbSession;
 /// the share is unmounted. A refused login is not repeated with the same name and password before
 /// forgetRefusals().
 ///
+/// Files are pipes: every read gives the next piece of the reply, whatever the offset, and pieces are fetched
+/// ahead. A request that could not be written whole is a loss.
+///
 /// Each library call runs in a thread of its own, while the calling thread keeps to the time limits and tells
 /// `waiting` every second how long it has been waiting. A server that is gone is a loss: the call fails with
 /// ETIMEDOUT, lossOn() says so of the file, and for a pause the server is not asked again.
@@ -61,6 +64,7 @@ public:
 
 private:
     class Drip;
+    struct Piece;
     struct OpenFile;
     struct Place {
         SmbSession* session = nullptr; ///< null when nothing is mounted there
@@ -79,6 +83,8 @@ private:
     bool isTooSlow(const OpenFile& file) const;
     void lose(OpenFile& file, int error);
     void tell(Clock::time_point since);
+    static void readAhead(OpenFile& file, std::size_t size);
+    ssize_t progress(OpenFile& file, std::size_t count, Clock::time_point now);
 
     LogLine log_;
     Waiting waiting_;
@@ -93,7 +99,7 @@ private:
     };
     std::map<std::string, Login> refused_;                        ///< by server
     std::map<std::string, std::unique_ptr<SmbSession>> sessions_; ///< by mount point
-    std::map<int, std::unique_ptr<OpenFile>> files_;              ///< by descriptor
+    std::map<int, std::shared_ptr<OpenFile>> files_;              ///< by descriptor
 };
 
 } // namespace quorvan::platform

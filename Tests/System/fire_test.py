@@ -156,11 +156,11 @@ class FireTest(process_test.WindowTest):
             self.assertGreaterEqual(len(pictures), 3, "the seconds count in the window")
             if ends:
                 self.view.wait_for("table")
-                self.back_to_menu()
             else:
                 self.assert_fails(lambda: None, COMPUTING - 2 * SILENCE)
-                self.answer_alerts()
             self.server.kelp.ask("behave")
+            self.answer_alerts()
+            self.back_to_menu()
         self.close()
 
     def test_signals_end_a_waiting_program_within_a_second(self):
