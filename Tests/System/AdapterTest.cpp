@@ -116,6 +116,7 @@ TEST_F(Adapter, EndsAnExchangeWhoseServerGoesAndNoOther) {
     } cases[] = {
         {{"cutAfter\t0"}, 0, 0, ""},
         {{"passingReadErrors\t3"}, 100, 200, ""},
+        {{"passingReadErrors\t1000000"}, 0, 0, "Lost the server at /Volumes/IPC$/ZelSmbPipe: "},
         {{"replyMegabytes\t20"}, 20U << 20U, 21U << 20U, ""},
         {{"delay\t4000"}, 100, 200, ""}, // slower than the time limit, but a second connection is answered
         {{"replyMegabytes\t1", "dropAfter\t8192"},

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <cerrno>
 
 namespace quorvan::platform {
@@ -148,6 +149,24 @@ TEST(LdapDirectory, SurvivesRudeServers) {
         EXPECT_THAT(client.log, ElementsAre(HasSubstr(line))) << answers.back();
         EXPECT_EQ(client.directory.activeDirectoryState().value().at("NodeName"), "/Active Directory/NORTH");
     }
+}
+
+TEST(LdapDirectory, SendsARefusedPasswordNowhereElseAndNotAgain) {
+    std::atomic<int> first = 0;
+    std::atomic<int> second = 0;
+    const RudeServer refusing([&first](int id) {
+        first += id == 1; // and not the farewell
+        return message(id, element(0x61, "\x0a\1\x31\4\0\4\0"s));
+    });
+    const RudeServer next([&second](int) {
+        ++second;
+        return bound;
+    });
+    Client client("ldap://" + refusing.address() + " ldap://" + next.address());
+    for (int times = 0; times < 2; ++times)
+        EXPECT_EQ(client.directory.openNetworkNode(), nullptr);
+    EXPECT_THAT(client.log, ElementsAre(HasSubstr("refuses the keyring's password of u@north.example")));
+    EXPECT_EQ(std::pair(first.load(), second.load()), std::pair(1, 0));
 }
 
 TEST(LdapDirectory, ReadsAllValuesOfAnAttributeThatComesInRanges) {

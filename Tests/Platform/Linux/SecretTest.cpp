@@ -114,6 +114,17 @@ TEST(SecretTest, LeavesNothingOfItInMemory) {
     }
 }
 
+TEST(SecretTest, IsForOneServer) {
+    const platform::SmbCredentials credentials("192.0.2.1", "bob", Secret("s3cret"));
+    for (const auto& [host, expected] :
+         {std::pair{"192.0.2.1", "bob s3cret"}, {"192.0.2.10", " "}, {"", " "}}) {
+        char user[8] = "";
+        char password[8] = "";
+        credentials.answer(host, user, password);
+        EXPECT_EQ(std::string(user) + " " + password, expected) << host;
+    }
+}
+
 TEST(SecretTest, LeavesNothingOfItBetweenTheKeyringAndTheServer) {
     if (const std::string missing = PrivateKeyring::missingProgram(); !missing.empty())
         GTEST_SKIP() << missing << " is not installed";
