@@ -169,6 +169,25 @@ TEST(LdapDirectory, SendsARefusedPasswordNowhereElseAndNotAgain) {
     EXPECT_EQ(std::pair(first.load(), second.load()), std::pair(1, 0));
 }
 
+TEST(LdapDirectory, FollowsNoReferral) {
+    std::atomic<int> asked = 0;
+    const RudeServer elsewhere([&asked](int) {
+        ++asked;
+        return bound;
+    });
+    const std::string address = element(4, "ldap://" + elsewhere.address() + "/DC=a");
+    const std::string reference = message(4, element(0x73, address)) + done(4);
+    const std::string referral = message(4, element(0x65, "\x0a\1\x0a\4\0\4\0"s + element(0xA3, address)));
+    for (const auto& [answer, found] : {std::pair{reference, true}, {referral, false}}) {
+        const RudeServer server([&all = answer](int request) {
+            return Texts{"", bound, root, domains, all}[static_cast<std::size_t>(request) % 5];
+        });
+        Client client("ldap://" + server.address(), "dc=a");
+        EXPECT_EQ(client.directory.openNetworkNode()->query(everyUser).has_value(), found);
+        EXPECT_EQ(asked, 0);
+    }
+}
+
 TEST(LdapDirectory, ReadsAllValuesOfAnAttributeThatComesInRanges) {
     const RudeServer server([](int request) {
         const Texts answers = {"",
