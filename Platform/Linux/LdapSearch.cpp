@@ -156,7 +156,7 @@ int LdapSearchRun::readPage(Page& page) {
     page.cookie = {0, nullptr};
     ber_int_t estimate = 0;
     LDAPControl* const control = ldap_control_find(LDAP_CONTROL_PAGEDRESULTS, answered, nullptr);
-    if (control != nullptr && control->ldctl_value.bv_val != nullptr) // without one libldap ends the process
+    if (control != nullptr && control->ldctl_value.bv_len > 0) // of nothing libldap makes a crash
         ldap_parse_pageresponse_control(handle_, control, &estimate, &page.cookie);
     for (const Rest& rest : rests) {
         if (const int failed = readRest(rest); failed != LDAP_SUCCESS)

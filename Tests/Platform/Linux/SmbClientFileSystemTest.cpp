@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/SmbClientFileSystem.h"
 #include "Platform/Linux/SmbUrl.h"
+#include "Tests/Support/Socket.h"
 
 #include <cerrno>
 
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace quorvan {
 namespace {
@@ -15,29 +13,10 @@ namespace {
 using platform::SmbClientFileSystem;
 using platform::SmbUrl;
 
-/// A TCP port of this machine that nobody serves: refused, or, once it listens, accepted in silence.
-class Port {
-public:
-    Port() {
-        socklen_t size = sizeof address_;
-        address_.sin_family = AF_INET;
-        address_.sin_addr.s_addr = ::htonl(INADDR_LOOPBACK);
-        EXPECT_EQ(::bind(socket_, reinterpret_cast<const sockaddr*>(&address_), size), 0);
-        EXPECT_EQ(::getsockname(socket_, reinterpret_cast<sockaddr*>(&address_), &size), 0);
-    }
-    ~Port() { ::close(socket_); }
-    Port(const Port&) = delete;
-    Port& operator=(const Port&) = delete;
-
-    void listen() const { ::listen(socket_, 8); }
-    std::string url() const {
-        return "smb://127.0.0.1:" + std::to_string(::ntohs(address_.sin_port)) + "/IPC$";
-    }
-
-private:
-    int socket_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address_{};
-};
+/// On a port of this machine: refused, or, once it listens, accepted in silence.
+std::string urlOf(const test::Socket& server) {
+    return "smb://127.0.0.1:" + std::to_string(server.port()) + "/IPC$";
+}
 
 TEST(SmbUrlTest, TakesShareUrlsApartAndPutsThemTogether) {
     const struct {
@@ -68,18 +47,19 @@ TEST(SmbClientFileSystemTest, GivesEachFailedMountItsOwnErrorWithinTheTimeLimit)
     SmbClientFileSystem network([](std::string_view line) { ADD_FAILURE() << line; }, {},
                                 platform::SmbTimeLimits{.silence = std::chrono::milliseconds(300),
                                                         .secondTry = std::chrono::milliseconds(100)});
-    const Port refused;
-    const Port silent;
+    const test::Socket refused;
+    const test::Socket silent;
+    ASSERT_TRUE(refused.bind() && silent.bind());
     silent.listen();
     const struct {
         std::string url, password;
         int error;
     } cases[] = {
         {"not a url", "x", EINVAL},
-        {refused.url(), std::string(256, 'x'), EINVAL},
+        {urlOf(refused), std::string(256, 'x'), EINVAL},
         {"smb://no.such.host.invalid/IPC$", "x", EHOSTUNREACH},
-        {refused.url(), "x", ECONNREFUSED},
-        {silent.url(), "x", ETIMEDOUT},
+        {urlOf(refused), "x", ECONNREFUSED},
+        {urlOf(silent), "x", ETIMEDOUT},
     };
     for (const auto& item : cases) {
         const platform::MountResult result =
