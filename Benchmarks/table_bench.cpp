@@ -77,7 +77,7 @@ public:
         const std::string wanted = foldedForSearch(text);
         std::size_t found = 0;
         for (const auto& trustee : tab_->trusteeList)
-            found += foldedForSearch(trustee->trusteeName).find(wanted) != std::string::npos ? 1 : 0;
+            found += foldedForSearch(trustee->trusteeName.str()).find(wanted) != std::string::npos ? 1 : 0;
         return found;
     }
 

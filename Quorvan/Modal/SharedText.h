@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -45,6 +47,21 @@ public:
 
 private:
     std::shared_ptr<const std::string> text_; ///< null for ""
+};
+
+/// Stores the texts of a list that come again and again once. Only those that were seen lately are known, so
+/// that a list without any takes no more memory.
+class SharedTexts {
+public:
+    const SharedText& shared(std::string_view text) {
+        SharedText& recent = recent_[std::hash<std::string_view>()(text) % recent_.size()];
+        if (recent != text)
+            recent = SharedText(text);
+        return recent;
+    }
+
+private:
+    std::array<SharedText, 1024> recent_;
 };
 
 } // namespace quorvan

@@ -5,8 +5,8 @@
 
 namespace quorvan {
 
-UserQuotaData::UserQuotaData(std::string name, std::string id, std::string type, std::int64_t limit,
-                             std::int64_t used, std::string identity)
+UserQuotaData::UserQuotaData(std::string name, std::string id, SharedText type, std::int64_t limit,
+                             std::int64_t used, SharedText identity)
     : displayName(std::move(name))
     , SID(std::move(id))
     , userType(std::move(type))

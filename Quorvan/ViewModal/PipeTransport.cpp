@@ -221,7 +221,7 @@ std::string XMLReadWriteController::exchangeRequest(const std::string& request, 
     } while (length != 0 && reply.size() <= longestReply);
     Log(log.completion);
     loss_ = length == 0 ? files.lossOn(descriptor) : EOVERFLOW;
-    Log(log.response, loss_ == EOVERFLOW ? "a reply without end" : reply);
+    Log(log.response, loss_ == EOVERFLOW ? std::string_view("a reply without end") : std::string_view(reply));
     if (loss_ == 0)
         return reply;
     Log("The connection to the server was lost: %d", loss_);

@@ -119,7 +119,7 @@ std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
             logFailure("Error in Opening Session");
             return result;
         }
-        const std::string first = values->empty() ? "" : values->front();
+        const std::string_view first = values->empty() ? std::string_view() : values->front();
         result = first.substr(0, first.find(':'));
         if (result.empty())
             result = "Unknown";

@@ -288,11 +288,12 @@ public:
                                             const std::string& identityType);
 
 private:
-    /// Reads a reply once: its entries into dictResponse, and for other readers. The rest of what the event
-    /// pass learned comes back.
+    /// Reads a reply once: its entries into dictResponse, or for other readers instead. The rest of what the
+    /// event pass learned comes back.
     template <class... Readers>
     XMLResponseParser parse(const std::string& reply, const ElementPath& resultPath, Readers&... others) {
-        XMLResponseParser entries(resultPath);
+        using Entries = XMLResponseParser::Entries;
+        XMLResponseParser entries(resultPath, sizeof...(others) == 0 ? Entries::gathered : Entries::leftOut);
         entries.error = readReply(reply, entries, others...);
         dictResponse = std::move(entries.arrStack);
         return entries;

@@ -2,6 +2,7 @@
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include "Common/Log.h"
+#include "Quorvan/ViewModal/Replies/ElementReaders.h"
 #include "Quorvan/ViewModal/Replies/RightsReplies.h"
 #include "Quorvan/ViewModal/Replies/TrusteeReader.h"
 

@@ -50,7 +50,7 @@ QVariant UserQuotaRows::data(const QModelIndex& index, int role) const {
     if (role == Qt::AccessibleTextRole && index.column() == 0)
         return accessibleText(index.row(), columns_.front().text(user));
     if (role == Qt::DecorationRole && index.column() == 0)
-        return userIcon(user.domainIdentity.value_or(""));
+        return userIcon(user.domainIdentity.value_or("").str());
     const UserQuotaColumn& column = columns_[static_cast<std::size_t>(index.column())];
     if (column.text == UserQuotaColumn::usedOf && isOverLimit(user)) {
         if (role == Qt::DecorationRole)

@@ -8,39 +8,94 @@
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvan {
-namespace {
-
-/// The bit of a right by the name of its element; 0 for any other name.
-std::uint16_t bitOf(std::string_view tag) {
-    const auto right = std::find_if(rightTags.begin(), rightTags.end(),
-                                    [tag](const RightTag& known) { return known.tag == tag; });
-    return right == rightTags.end() ? std::uint16_t{0} : right->bit;
+void TrusteeRights::add(std::string_view right) {
+    const auto known = std::find_if(rightTags.begin(), rightTags.end(),
+                                    [right](const RightTag& tag) { return tag.tag == right; });
+    if (known != rightTags.end())
+        mask_ |= known->bit;
 }
-
-} // namespace
 
 FileRightsReader::FileRightsReader(const std::vector<std::string>& identities,
                                    std::vector<IdentityFileRights>& rows)
     : identities_(identities.begin(), identities.end())
     , rows_(rows)
-    , before_(rows.size())
-    , files_({}, [this](XMLElement file) { readFile(file); }) {}
+    , before_(rows.size()) {}
 
-void FileRightsReader::readFile(XMLElement file) {
-    if (file.name() != "file")
-        return;
-    const auto list = getXMLElement({"rightsInfo", "trusteeList"}, file);
-    const auto path = file.firstChild("path");
-    complete_ = complete_ && list && path;
-    if (!complete_ || !list->hasChildren())
-        return;
-    const SharedText pathText = path->stringValue();
-    for (const XMLElement trustee : list->children()) {
-        if (trustee.hasChildren())
-            XMLReadWriteController::decodeFSRTrusteeInfo(trustee, pathText, identities_, rows_);
+void FileRightsReader::didStartElement(std::string_view name, XMLAttributes) {
+    if (text_ != nullptr)
+        endTextPart(*text_, textPart_);
+    const std::size_t level = depth_++;
+    if (level == onTheWay_ && leadsOn(level, name))
+        ++onTheWay_;
+}
+
+bool FileRightsReader::leadsOn(std::size_t level, std::string_view name) {
+    switch (level) {
+    case root:
+        return true;
+    case file:
+        fileBegin_ = rows_.size();
+        hasRightsInfo_ = hasList_ = hasPath_ = false;
+        return name == "file";
+    case inFile:
+        if (name == "path" && !std::exchange(hasPath_, true))
+            read(path_);
+        return name == "rightsInfo" && !std::exchange(hasRightsInfo_, true);
+    case inRightsInfo:
+        return name == "trusteeList" && !std::exchange(hasList_, true);
+    case trustee:
+        trustee_.begin();
+        return true;
+    case inTrustee:
+        if (name == "id")
+            read(id_);
+        return name == "rights" && trustee_.isOneOf(identities_);
+    case inRights:
+        trustee_.add(name);
+        return false;
+    default:
+        return false;
     }
+}
+
+void FileRightsReader::read(std::string& text) {
+    text.clear();
+    text_ = &text;
+    textDepth_ = depth_;
+    textPart_ = 0;
+}
+
+void FileRightsReader::foundCharacters(std::string_view text) {
+    if (text_ != nullptr)
+        *text_ += text;
+}
+
+void FileRightsReader::didEndElement(std::string_view) {
+    if (text_ != nullptr) {
+        endTextPart(*text_, textPart_);
+        if (depth_ == textDepth_ && std::exchange(text_, nullptr) == &id_)
+            trustee_.setID(id_);
+    }
+    const std::size_t level = --depth_;
+    if (onTheWay_ <= level)
+        return;
+    onTheWay_ = level;
+    if (level == inTrustee)
+        rows_.push_back(trustee_.on({}));
+    else if (level == file)
+        endFile();
+}
+
+void FileRightsReader::endFile() {
+    isComplete_ = isComplete_ && hasList_ && hasPath_;
+    if (fileBegin_ == rows_.size())
+        return;
+    const SharedText path(path_);
+    for (std::size_t at = fileBegin_; at < rows_.size(); ++at)
+        rows_[at].rights.fpath = path;
 }
 
 void FileRightsReader::finish(const std::optional<XMLError>& error) {
@@ -49,7 +104,7 @@ void FileRightsReader::finish(const std::optional<XMLError>& error) {
         rows_.resize(before_);
         return;
     }
-    require(complete_, "A file of the reply has no path or no list of trustees");
+    require(isComplete_, "A file of the reply has no path or no list of trustees");
 }
 
 void XMLReadWriteController::decodeFSRInfo(const std::string& xmlResp, const std::vector<std::string>& userID,
@@ -61,15 +116,14 @@ void XMLReadWriteController::decodeFSRInfo(const std::string& xmlResp, const std
 void XMLReadWriteController::decodeFSRTrusteeInfo(XMLElement xmlNodeArr, const SharedText& path,
                                                   const IdentitySet& userID,
                                                   std::vector<IdentityFileRights>& arr) {
-    std::string current;
-    std::uint16_t mask = 0;
+    TrusteeRights trustee;
     for (const XMLElement child : xmlNodeArr.children()) {
         if (child.name() == "id") {
-            current = child.stringValue();
-        } else if (child.name() == "rights" && userID.contains(current)) {
+            trustee.setID(child.stringValue());
+        } else if (child.name() == "rights" && trustee.isOneOf(userID)) {
             for (const XMLElement right : child.children())
-                mask |= bitOf(right.name());
-            arr.push_back({current, {path, mask}});
+                trustee.add(right.name());
+            arr.push_back(trustee.on(path));
         }
     }
 }

@@ -53,14 +53,9 @@ void TextRowReader::foundCharacters(std::string_view text) {
         texts_[current_] += text;
 }
 
-/// As in a tree, text of nothing but whitespace between two tags is none.
 void TextRowReader::endText() {
-    if (current_ == none)
-        return;
-    std::string& text = texts_[current_];
-    if (isXMLWhitespace(std::string_view(text).substr(pieceBegin_)))
-        text.resize(pieceBegin_);
-    pieceBegin_ = text.size();
+    if (current_ != none)
+        endTextPart(texts_[current_], pieceBegin_);
 }
 
 } // namespace quorvan

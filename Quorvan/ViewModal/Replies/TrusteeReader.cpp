@@ -31,9 +31,9 @@ TrusteeReader::TrusteeReader(const ReplyEntries& entries, std::string identityTy
 
 std::shared_ptr<Trustees> TrusteeReader::read(const ReplyEntry& entry) {
     if (entry.trusteeName)
-        name_ = SharedText(*entry.trusteeName);
+        name_ = texts_.shared(*entry.trusteeName);
     if (entry.trusteeType)
-        type_ = SharedText(*entry.trusteeType);
+        type_ = texts_.shared(*entry.trusteeType);
     if (entry.rights)
         rights_ = entry.rights;
     if (!entry.trusteeID)

@@ -28,6 +28,7 @@ private:
     std::string identityType_;
     bool typesFromDirectory_;
     DirectoryLookup lookup_;
+    SharedTexts texts_;
     std::optional<SharedText> name_;
     SharedText type_;
     std::optional<std::uint16_t> rights_;

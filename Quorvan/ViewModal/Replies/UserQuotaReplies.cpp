@@ -8,6 +8,8 @@
 #include "Quorvan/ViewModal/UsersViewModal.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
+#include <algorithm>
+#include <functional>
 #include <span>
 #include <utility>
 
@@ -43,6 +45,7 @@ void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
 UserQuotaReader::UserQuotaReader(UserQuotaList& users, std::string identityType)
     : users_(users)
     , identityType_(std::move(identityType))
+    , identity_(identityType_)
     , before_(users.size())
     , rows_({"userQuota", "browse", "userList"}, {"userName", "id", "quota", "spaceUsed"},
             [this](std::vector<std::string>& texts) { append(texts); }) {}
@@ -51,10 +54,12 @@ void UserQuotaReader::append(std::vector<std::string>& texts) {
     const bool fromDirectory = identityType_ == identityActiveDirectory;
     if (!fromDirectory && identityType_ != identityMorvane)
         return;
+    if (std::all_of(texts.begin(), texts.end(), std::mem_fn(&std::string::empty)) &&
+        ++rowsOfNothing_ > mostRowsOfNothing)
+        return;
     users_.push_back(std::make_shared<UserQuotaData>(
-        fromDirectory ? std::string() : std::move(texts[userName]), std::move(texts[id]),
-        std::string(UserQuotaConstants::ObjectTypes::USERS), amount(texts[quota]), amount(texts[spaceUsed]),
-        identityType_));
+        fromDirectory ? std::string() : std::move(texts[userName]), std::move(texts[id]), userType_,
+        amount(texts[quota]), amount(texts[spaceUsed]), identity_));
 }
 
 void UserQuotaReader::finish(const std::optional<XMLError>& error) {
@@ -64,6 +69,8 @@ void UserQuotaReader::finish(const std::optional<XMLError>& error) {
         return;
     }
     rows_.requireList();
+    if (rowsOfNothing_ > mostRowsOfNothing)
+        Log("%d rows of the reply say nothing and are left out", rowsOfNothing_ - mostRowsOfNothing);
     if (identityType_ == identityActiveDirectory)
         nameFromDirectory(std::span(users_).subspan(before_));
 }

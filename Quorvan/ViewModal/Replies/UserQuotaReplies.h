@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/UserQuotaData.h"
 #include "Quorvan/ViewModal/Replies/TextRowReader.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -12,6 +14,10 @@ namespace quorvan {
 /// Reads the users of a volume with their quotas out of the reply that lists them.
 class UserQuotaReader {
 public:
+    /// Rows without any text that a list may have. More are left out, because a row takes seventy times the
+    /// four bytes in which a server can write one.
+    static constexpr std::size_t mostRowsOfNothing = 1'000;
+
     /// The rows are appended to `users`. An identity type that is neither gives none.
     UserQuotaReader(UserQuotaList& users, std::string identityType);
     UserQuotaReader(const UserQuotaReader&) = delete;
@@ -32,7 +38,10 @@ private:
 
     UserQuotaList& users_;
     std::string identityType_;
+    SharedText identity_; ///< the same, for all rows at once
+    SharedText userType_{UserQuotaConstants::ObjectTypes::USERS};
     std::size_t before_; ///< how many rows there were
+    std::size_t rowsOfNothing_ = 0;
     TextRowReader rows_;
 };
 

@@ -8,8 +8,8 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <unordered_set>
-#include <utility>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
@@ -17,21 +17,24 @@
 namespace quorvan {
 namespace {
 
-/// Counts how many different names libxml2 keeps, by their addresses in its dictionary. That has a fixed
-/// number of buckets: millions of names would be compared with each other.
-class NameCount {
+/// The names that libxml2 keeps in its dictionary, known by their addresses there. That has a fixed number of
+/// buckets: millions of names would be compared with each other, so they are counted.
+class Names {
 public:
-    /// False once there are more than any reply has.
-    bool add(const void* name) {
-        const void*& recent =
-            recent_[std::hash<const void*>()(name) / alignof(std::max_align_t) % recent_.size()];
-        if (std::exchange(recent, name) == name)
-            return true;
-        return all_.insert(name).second ? all_.size() <= XMLEventParser::mostNames : true;
+    /// Counts a name and measures it.
+    std::string_view text(const xmlChar* name) {
+        const auto* begin = reinterpret_cast<const char*>(name);
+        std::string_view& recent = recent_[std::hash<const void*>()(name) % recent_.size()];
+        if (recent.data() != begin) {
+            recent = begin;
+            all_.insert(name);
+        }
+        return recent;
     }
+    bool areTooMany() const { return all_.size() > XMLEventParser::mostNames; }
 
 private:
-    std::array<const void*, 256> recent_{};
+    std::array<std::string_view, 256> recent_{};
     std::unordered_set<const void*> all_;
 };
 
@@ -41,7 +44,7 @@ struct Run {
     xmlParserCtxtPtr context = nullptr;
     std::optional<XMLError> error;
     std::exception_ptr exception; ///< must not pass through libxml2's frames
-    NameCount names;
+    Names names;
     bool isRefused = false;
 };
 
@@ -71,18 +74,19 @@ const char* text(const xmlChar* bytes) {
 
 void startElement(void* data, const xmlChar* name, const xmlChar** attributes) {
     Run& run = *static_cast<Run*>(data);
-    bool areFew = run.names.add(name);
+    const std::string_view element = run.names.text(name);
     for (const xmlChar** each = attributes; each != nullptr && *each != nullptr; each += 2)
-        areFew = run.names.add(*each) && areFew;
-    if (!areFew)
+        run.names.text(*each);
+    if (run.names.areTooMany())
         return refuse(run, "the document has too many different names");
     forward(data, [&](XMLEventHandler& delegate) {
-        delegate.didStartElement(text(name), XMLAttributes(reinterpret_cast<const char**>(attributes)));
+        delegate.didStartElement(element, XMLAttributes(reinterpret_cast<const char**>(attributes)));
     });
 }
 
 void endElement(void* data, const xmlChar* name) {
-    forward(data, [&](XMLEventHandler& delegate) { delegate.didEndElement(text(name)); });
+    const std::string_view element = static_cast<Run*>(data)->names.text(name);
+    forward(data, [&](XMLEventHandler& delegate) { delegate.didEndElement(element); });
 }
 
 void characters(void* data, const xmlChar* bytes, int length) {
@@ -119,12 +123,15 @@ void keepError(void* data, const char*, ...) {
 bool hasHugeTag(const std::string& document) {
     constexpr std::size_t longTag = 8192;
     for (std::size_t begin = document.find('<'); begin != std::string::npos;) {
-        const std::size_t end = document.find('<', begin + 1);
-        const std::string_view stretch = std::string_view(document).substr(begin, end - begin);
-        if (stretch.size() > longTag &&
-            std::count(stretch.begin(), stretch.end(), '=') > XMLEventParser::mostAttributes)
-            return true;
-        begin = end;
+        // As far as a tag may reach before it is looked at: the last "<" there, without those between.
+        std::size_t next = document.rfind('<', begin + longTag);
+        if (next == begin) {
+            next = document.find('<', begin + 1);
+            const std::string_view stretch = std::string_view(document).substr(begin, next - begin);
+            if (std::count(stretch.begin(), stretch.end(), '=') > XMLEventParser::mostAttributes)
+                return true;
+        }
+        begin = next;
     }
     return false;
 }

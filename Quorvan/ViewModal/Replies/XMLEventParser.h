@@ -66,6 +66,14 @@ inline bool isXMLWhitespace(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
+/// Ends the part of a text that lies between two tags. Nothing but whitespace only sets elements apart and is
+/// taken back. `begin`: where the part begins in `text`; moves on to the next one.
+inline void endTextPart(std::string& text, std::size_t& begin) {
+    if (isXMLWhitespace(std::string_view(text).substr(begin)))
+        text.resize(begin);
+    begin = text.size();
+}
+
 /// Is told what an XMLEventParser reads. Names are as written, prefixes included.
 class XMLEventHandler {
 public:

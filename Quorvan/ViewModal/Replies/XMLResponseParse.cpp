@@ -17,6 +17,14 @@ void close(ReplyEntries& entries, const std::shared_ptr<ReplyEntry>& entry, std:
 
 } // namespace
 
+EntryText::EntryText(std::string_view text, std::pmr::memory_resource& memory) {
+    const std::size_t size = text.size();
+    auto* copy = static_cast<char*>(memory.allocate(sizeof size + size, 1));
+    std::memcpy(copy, &size, sizeof size);
+    std::memcpy(copy + sizeof size, text.data(), size);
+    begin_ = copy;
+}
+
 void ResultElement::didStartElement(std::string_view name, XMLAttributes attributes) {
     if (!search_.didStartElement(name))
         return;
@@ -39,16 +47,16 @@ std::shared_ptr<ReplyEntry> XMLResponseParser::makeEntry() {
     return {storage_, &storage_->entries.emplace_back()};
 }
 
-std::string_view XMLResponseParser::keep(std::string_view text) {
-    auto* copy = static_cast<char*>(storage_->memory.allocate(text.size() + 1, 1));
-    std::memcpy(copy, text.data(), text.size());
-    return {copy, text.size()};
-}
-
 void XMLResponseParser::didStartElement(std::string_view name, XMLAttributes attributes) {
     result.didStartElement(name, attributes);
     currentElement = name;
     const ReplyTag& tag = ReplyTag::named(name);
+    if (tag.kind == ReplyTag::Kind::result) {
+        if (const auto value = attributes.value("value"))
+            resValue = *value;
+    }
+    if (!gathers_)
+        return;
     switch (tag.kind) {
     case ReplyTag::Kind::trusteeInfo:
         dictForTrustees = makeEntry();
@@ -66,16 +74,14 @@ void XMLResponseParser::didStartElement(std::string_view name, XMLAttributes att
     case ReplyTag::Kind::file:
         dictForDir = makeEntry();
         break;
-    case ReplyTag::Kind::result:
-        if (const auto value = attributes.value("value"))
-            resValue = *value;
-        break;
     default:
         break;
     }
 }
 
 void XMLResponseParser::foundCharacters(std::string_view text) {
+    if (!gathers_)
+        return;
     if (text == "\n")
         textInProgress.clear();
     else
@@ -86,19 +92,38 @@ void XMLResponseParser::didEndElement(std::string_view name) {
     result.didEndElement(name);
     const ReplyTag& tag = ReplyTag::named(name);
     switch (tag.kind) {
+    case ReplyTag::Kind::addTrustee:
+        nAddFailed += resValue != "0" ? 1 : 0;
+        break;
+    case ReplyTag::Kind::removeTrustee:
+        nRemFailed += resValue != "0" ? 1 : 0;
+        break;
+    case ReplyTag::Kind::result:
+        if (resValue != "0")
+            xmlReqStatus = unwrap(decimalNumber(resValue), "The result \"%@\" is not a number", resValue);
+        break;
+    default:
+        if (gathers_)
+            endEntryElement(tag);
+    }
+    textInProgress.clear();
+}
+
+void XMLResponseParser::endEntryElement(const ReplyTag& tag) {
+    switch (tag.kind) {
     case ReplyTag::Kind::trusteeInfo:
-        close(arrStack, dictForTrustees, name);
+        close(arrStack, dictForTrustees, tag.name);
         break;
     case ReplyTag::Kind::inheritedRightsFilter:
-        close(arrStack, dictForIRF, name);
+        close(arrStack, dictForIRF, tag.name);
         dictForIRF->inheritedRightsFilter = std::exchange(rightsBit, std::uint16_t{0});
         break;
     case ReplyTag::Kind::effectiveRights:
-        close(arrStack, dictForEffRights, name);
+        close(arrStack, dictForEffRights, tag.name);
         dictForEffRights->effectiveRights = std::exchange(rightsBit, std::uint16_t{0});
         break;
     case ReplyTag::Kind::file:
-        close(arrStack, dictForDir, name);
+        close(arrStack, dictForDir, tag.name);
         break;
     case ReplyTag::Kind::path:
         if (dictForDir && !dictForDir->path)
@@ -120,20 +145,9 @@ void XMLResponseParser::didEndElement(std::string_view name) {
     case ReplyTag::Kind::right:
         rightsBit |= tag.bit;
         break;
-    case ReplyTag::Kind::addTrustee:
-        nAddFailed += resValue != "0" ? 1 : 0;
-        break;
-    case ReplyTag::Kind::removeTrustee:
-        nRemFailed += resValue != "0" ? 1 : 0;
-        break;
-    case ReplyTag::Kind::result:
-        if (resValue != "0")
-            xmlReqStatus = unwrap(decimalNumber(resValue), "The result \"%@\" is not a number", resValue);
-        break;
-    case ReplyTag::Kind::other:
+    default:
         break;
     }
-    textInProgress.clear();
 }
 
 } // namespace quorvan

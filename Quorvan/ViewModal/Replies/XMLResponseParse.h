@@ -5,7 +5,9 @@
 #include "Quorvan/ViewModal/Replies/XMLElementSearch.h"
 #include "Quorvan/ViewModal/Replies/XMLEventParser.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <deque>
 #include <memory>
 #include <memory_resource>
@@ -16,16 +18,40 @@
 
 namespace quorvan {
 
+/// A text of a reply, or none, in the size of a pointer: a reply may have a million entries, most of whose
+/// texts are absent.
+class EntryText {
+public:
+    EntryText() = default;
+    /// A copy of `text` that lies in `memory` as long as that does.
+    EntryText(std::string_view text, std::pmr::memory_resource& memory);
+
+    bool has_value() const { return begin_ != nullptr; }
+    explicit operator bool() const { return has_value(); }
+    std::string_view operator*() const {
+        std::size_t size = 0;
+        std::memcpy(&size, begin_, sizeof size);
+        return {begin_ + sizeof size, size};
+    }
+    std::string_view value_or(std::string_view other) const { return has_value() ? **this : other; }
+    friend bool operator==(const EntryText& text, std::string_view other) {
+        return text.has_value() && *text == other;
+    }
+
+private:
+    const char* begin_ = nullptr; ///< the size, and the bytes
+};
+
 /// What the event pass gathered about one entry of a reply; a key that the reply did not give is absent.
 ///
 /// Entries "trusteeInfo" and "accessRights" carry the trustee keys, "inheritedRightsFilter" and
 /// "effectiveRights" their mask, "file" its path. The texts are valid as long as any entry of the same
 /// reply is.
 struct ReplyEntry {
-    std::optional<std::string_view> trusteeName;
-    std::optional<std::string_view> trusteeID;
-    std::optional<std::string_view> trusteeType;
-    std::optional<std::string_view> path;
+    EntryText trusteeName;
+    EntryText trusteeID;
+    EntryText trusteeType;
+    EntryText path;
     std::optional<std::uint16_t> rights;
     std::optional<std::uint16_t> inheritedRightsFilter;
     std::optional<std::uint16_t> effectiveRights;
@@ -60,8 +86,12 @@ class XMLResponseParser final : public XMLEventHandler {
 public:
     XMLResponseParser()
         : XMLResponseParser(ElementPath{}) {}
-    explicit XMLResponseParser(ElementPath resultPath)
-        : result(std::move(resultPath)) {}
+    enum class Entries { gathered, leftOut };
+    /// Entries may be left out where no one reads them; the rest of what a reply says is learned all the
+    /// same.
+    explicit XMLResponseParser(ElementPath resultPath, Entries entries = Entries::gathered)
+        : result(std::move(resultPath))
+        , gathers_(entries == Entries::gathered) {}
 
     /// Parses a reply and returns the entries in the order in which their elements closed. A parse
     /// error stops the events early; what was gathered until then is returned.
@@ -97,8 +127,10 @@ private:
         std::pmr::deque<ReplyEntry> entries{&memory};
     };
     std::shared_ptr<ReplyEntry> makeEntry();
-    std::string_view keep(std::string_view text);
+    EntryText keep(std::string_view text) { return {text, storage_->memory}; }
+    void endEntryElement(const ReplyTag& tag);
 
+    bool gathers_;
     std::shared_ptr<Storage> storage_ = std::make_shared<Storage>();
 };
 

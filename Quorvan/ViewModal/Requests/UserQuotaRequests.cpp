@@ -21,7 +21,7 @@ constexpr std::string_view setMorvane = "<set><volumeName>%@</volumeName><id>%@<
 
 using Actions = UserQuotaConstants::Actions;
 
-bool isChange(const std::optional<std::string>& action) {
+bool isChange(const std::optional<SharedText>& action) {
     return action == Actions::ADD || action == Actions::MODIFY || action == Actions::REMOVE;
 }
 
@@ -49,7 +49,7 @@ std::string XMLReadWriteController::createXMLforUsers(const std::string& volumeN
             Log("skipping user: ");
             continue;
         }
-        const std::string_view set = variantFor(user->domainIdentity.value_or(""), setAD, setMorvane);
+        const std::string_view set = variantFor(user->domainIdentity.value_or("").str(), setAD, setMorvane);
         if (!set.empty())
             elements +=
                 fill(set, {volume, unwrap(user->SID, "A changed quota has no user"), quotaText(*user)});
