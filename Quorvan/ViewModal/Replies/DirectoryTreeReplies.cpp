@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/ViewModal/Replies/DirectoryTreeReplies.h"
 
+#include "Quorvan/ViewModal/Replies/RowsOfNothing.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <algorithm>
 #include <iterator>
+#include <string>
+#include <utility>
 
 namespace quorvan {
 namespace {
@@ -45,8 +48,13 @@ std::string TreeGuidReader::answer(std::string status) const {
 }
 
 std::string TreeGroupsReader::answer(std::string status) const {
-    for (const XMLElement child : element().children())
-        groups_.push_back({child.name() == "value" ? child.stringValue() : "", "", ""});
+    RowsOfNothing ofNothing;
+    for (const XMLElement child : element().children()) {
+        std::string name = child.name() == "value" ? child.stringValue() : "";
+        if (!name.empty() || !ofNothing.isOneTooMany())
+            groups_.push_back({std::move(name), "", ""});
+    }
+    ofNothing.report();
     return status;
 }
 

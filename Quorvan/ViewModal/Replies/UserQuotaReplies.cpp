@@ -55,7 +55,7 @@ void UserQuotaReader::append(std::vector<std::string>& texts) {
     if (!fromDirectory && identityType_ != identityMorvane)
         return;
     if (std::all_of(texts.begin(), texts.end(), std::mem_fn(&std::string::empty)) &&
-        ++rowsOfNothing_ > mostRowsOfNothing)
+        ofNothing_.isOneTooMany())
         return;
     users_.push_back(std::make_shared<UserQuotaData>(
         fromDirectory ? std::string() : std::move(texts[userName]), std::move(texts[id]), userType_,
@@ -69,8 +69,7 @@ void UserQuotaReader::finish(const std::optional<XMLError>& error) {
         return;
     }
     rows_.requireList();
-    if (rowsOfNothing_ > mostRowsOfNothing)
-        Log("%d rows of the reply say nothing and are left out", rowsOfNothing_ - mostRowsOfNothing);
+    ofNothing_.report();
     if (identityType_ == identityActiveDirectory)
         nameFromDirectory(std::span(users_).subspan(before_));
 }

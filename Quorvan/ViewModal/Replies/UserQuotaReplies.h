@@ -3,6 +3,7 @@
 
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/UserQuotaData.h"
+#include "Quorvan/ViewModal/Replies/RowsOfNothing.h"
 #include "Quorvan/ViewModal/Replies/TextRowReader.h"
 
 #include <cstddef>
@@ -14,11 +15,8 @@ namespace quorvan {
 /// Reads the users of a volume with their quotas out of the reply that lists them.
 class UserQuotaReader {
 public:
-    /// Rows without any text that a list may have. More are left out, because a row takes seventy times the
-    /// four bytes in which a server can write one.
-    static constexpr std::size_t mostRowsOfNothing = 1'000;
-
-    /// The rows are appended to `users`. An identity type that is neither gives none.
+    /// The rows are appended to `users`. An identity type that is neither gives none, and rows
+    /// without any text are few (RowsOfNothing.h).
     UserQuotaReader(UserQuotaList& users, std::string identityType);
     UserQuotaReader(const UserQuotaReader&) = delete;
     UserQuotaReader& operator=(const UserQuotaReader&) = delete;
@@ -41,7 +39,7 @@ private:
     SharedText identity_; ///< the same, for all rows at once
     SharedText userType_{UserQuotaConstants::ObjectTypes::USERS};
     std::size_t before_; ///< how many rows there were
-    std::size_t rowsOfNothing_ = 0;
+    RowsOfNothing ofNothing_;
     TextRowReader rows_;
 };
 

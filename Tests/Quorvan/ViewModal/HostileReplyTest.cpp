@@ -41,6 +41,17 @@ TEST_F(HostileReply, MayBeLong) {
     EXPECT_TRUE(log.lines.empty());
 }
 
+TEST_F(HostileReply, MayHaveAThousandRowsOfNothing) {
+    const std::string row = "<user><id>S-1</id></user>";
+    UserQuotaList users;
+    controller.decodeUserQuotaInfo("<r><userQuota><browse><userList>" + repeated("<a/>", 1'002) + row +
+                                       "</userList></browse></userQuota></r>",
+                                   users, "Morvane");
+    EXPECT_EQ(users.size(), 1'001U);
+    EXPECT_EQ(users.back()->SID, "S-1");
+    EXPECT_THAT(log.lines, testing::ElementsAre("2 rows of the reply say nothing and are left out"));
+}
+
 TEST_F(HostileReply, ExpandsAndFetchesNothing) {
     const std::string secretFile = testing::TempDir() + "quorvan-secret-" + std::to_string(getpid());
     std::ofstream(secretFile) << "secret";
