@@ -18,6 +18,8 @@
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -115,6 +117,7 @@ void AppDelegate::addMenus() {
     QMenuBar* bar = window_->menuBar();
     bar->addMenu(L("Application_Menu_Label"))->addAction(QuitQuorvan);
     Help->addAction(QuorvanHelp);
+    Help->addAction(L("Help_Contents_title"), this, [] { showGuide(); });
     Help->addAction(L("Show_Log_title"), this, [] { showLogFile(); });
     Help->addSeparator();
     Help->addAction(AboutQuorvan);
@@ -125,6 +128,13 @@ void AppDelegate::showLogFile() {
     const QString file = QString::fromStdString(logFile());
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file)))
         NoticeLine::tell(NoticeLine::Kind::problem, L("No_Log_Viewer_Label").arg(file));
+}
+
+void AppDelegate::showGuide() {
+    const QString guide =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + "/" QUORVAN_GUIDE_FROM_BIN);
+    if (!QFileInfo::exists(guide) || !QDesktopServices::openUrl(QUrl::fromLocalFile(guide)))
+        NoticeLine::tell(NoticeLine::Kind::problem, L("No_Guide_Label").arg(guide));
 }
 
 int AppDelegate::run() {

@@ -60,6 +60,7 @@ public:
 private:
     /// In whatever program the desktop opens texts with.
     static void showLogFile();
+    static void showGuide();
     void buildMenuItems();
     void addMenus();
 

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QLocale>
+#include <QLibraryInfo>
 
 #include <plist/plist.h>
 
@@ -39,12 +39,17 @@ std::optional<bool> booleanOf(plist_t node) {
 
 } // namespace
 
-QtBundle::QtBundle(QString featureFile)
+QtBundle::QtBundle(QString featureFile, const QLocale& locale)
     : featureFile_(std::move(featureFile)) {
-    if (!translator_.load(QLocale(), "Localizable", "_", stringTables) &&
-        !translator_.load("Localizable_en", stringTables))
-        return; // every text is its key
-    QCoreApplication::installTranslator(&translator_);
+    if (english_.load("Localizable_en", stringTables)) // otherwise every text is its key
+        QCoreApplication::installTranslator(&english_);
+    if (!translator_.load(locale, "Localizable", "_", stringTables))
+        return;
+    // Qt's words follow the table that was found: a window speaks one language.
+    const QLocale found(translator_.language());
+    if (qtTranslator_.load(found, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&qtTranslator_);
+    QCoreApplication::installTranslator(&translator_); // asked before the English one
 }
 
 std::string QtBundle::localizedString(const std::string& key) {
@@ -75,6 +80,13 @@ std::optional<FeatureDictionary> QtBundle::featureDictionary() {
         const std::unique_ptr<char, decltype(&std::free)> key(keyMemory, &std::free);
         features[key.get()] = booleanOf(value);
     }
+}
+
+QStringList QtBundle::languages() {
+    QStringList names = QDir(stringTables).entryList({"Localizable_*.qm"});
+    for (QString& name : names)
+        name = name.section('.', 0, 0).section('_', 1);
+    return names;
 }
 
 QString QtBundle::installedFeatureFile() {

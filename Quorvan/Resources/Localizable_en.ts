@@ -1490,5 +1490,15 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <source></source>
     <translation>Copy all of this, for a ticket or an audit</translation>
   </message>
+  <message id="Help_Contents_title">
+    <source></source>
+    <extracomment>In the Help menu: opens the user guide.</extracomment>
+    <translation>&amp;Contents</translation>
+  </message>
+  <message id="No_Guide_Label">
+    <source></source>
+    <extracomment>%1 is its path.</extracomment>
+    <translation>The user guide could not be opened: %1</translation>
+  </message>
 </context>
 </TS>

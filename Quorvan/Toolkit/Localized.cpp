@@ -3,6 +3,7 @@
 
 #include "Platform/Services.h"
 
+#include <QRegularExpression>
 #include <QtGlobal>
 
 namespace quorvan {
@@ -16,7 +17,8 @@ QString L(const std::string& key, int count) {
 }
 
 QString plainL(const std::string& key) {
-    return L(key).remove(QLatin1Char('&'));
+    static const QRegularExpression mnemonic(QStringLiteral("\\(&.\\)|&")); // "適用(&A)" or "&Apply"
+    return L(key).remove(mnemonic);
 }
 
 } // namespace quorvan

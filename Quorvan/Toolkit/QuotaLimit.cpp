@@ -7,6 +7,7 @@
 #include "Quorvan/Toolkit/Localized.h"
 
 #include <QComboBox>
+#include <QLocale>
 
 #include <array>
 #include <cmath>
@@ -25,11 +26,12 @@ std::int64_t bytesOf(int unit) {
 }
 
 QString withoutTrailingZeros(long long hundredths) {
+    const QString point = QLocale().decimalPoint();
     QString number = QString::number(hundredths / 100);
     if (const auto decimals = static_cast<int>(hundredths % 100); decimals % 10 != 0)
-        number += QStringLiteral(".%1").arg(decimals, 2, 10, QLatin1Char('0'));
+        number += point + QStringLiteral("%1").arg(decimals, 2, 10, QLatin1Char('0'));
     else if (decimals != 0)
-        number += QStringLiteral(".%1").arg(decimals / 10);
+        number += point + QString::number(decimals / 10);
     return number;
 }
 

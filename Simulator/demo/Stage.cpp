@@ -7,6 +7,7 @@
 #include "Platform/Qt/QtWaitCursor.h"
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Controller/Shell/MainWindow.h"
+#include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
@@ -115,7 +116,10 @@ void Stage::tick(int row, const char* right, const char* tableName) {
 
 void Stage::choose(const char* popUp, const char* item) {
     auto* box = find<QComboBox>(popUp);
-    const int index = box->findText(QString::fromUtf8(item));
+    int index =
+        box->findText(plainL(std::string(item) + "_Title")); // a category is shown in the user's language
+    if (index < 0)
+        index = box->findText(QString::fromUtf8(item));
     box->setCurrentIndex(index);
     emit box->activated(index);
     QApplication::processEvents();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // quorvan-demo: the application on a simulated server inside the process, selection included. It is the
 // real thing but for the server, the keyring and the shared defaults.
+#include "Platform/Qt/QtBundle.h"
 #include "Quorvan/Application.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Simulator/demo/Palettes.h"
@@ -9,6 +10,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
+#include <QLocale>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -40,6 +42,7 @@ const QCommandLineOption tourOption("tour", "Walk through every page and leave p
                                     "folder");
 const QCommandLineOption lookOption("look", "Walk in this style of the desktop, such as Fusion.", "style",
                                     "Fusion");
+const QCommandLineOption languageOption("language", "Speak this language, such as de or pt_BR.", "language");
 const QCommandLineOption scaledOption("main-pages", "Walk through the main pages only.");
 
 bool hasDisplay() {
@@ -66,8 +69,9 @@ int walkThroughAtTwiceTheSize(const QString& folder, const QString& style) {
     environment.insert("QT_SCALE_FACTOR", "2");
     second.setProcessEnvironment(environment);
     second.setProcessChannelMode(QProcess::ForwardedChannels);
-    second.start(QCoreApplication::applicationFilePath(),
-                 {"--tour", folder, "--look", style, "--main-pages"});
+    QStringList arguments = QCoreApplication::arguments().mid(1); // the language among them
+    arguments += {"--tour", folder, "--look", style, "--main-pages"};
+    second.start(QCoreApplication::applicationFilePath(), arguments);
     return second.waitForFinished(120000) ? second.exitCode() : 1;
 }
 
@@ -127,7 +131,7 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription("Quorvan on a simulated server.");
     parser.addHelpOption();
-    parser.addOptions({asOption, pathOption, tourOption, lookOption, scaledOption});
+    parser.addOptions({asOption, pathOption, tourOption, lookOption, languageOption, scaledOption});
     parser.process(application);
     if (!users.contains(parser.value(asOption)))
         parser.showHelp(2);
@@ -135,6 +139,16 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "quorvan-demo: \"%s\" is no path of the form VOL1:\\folder\\file\n",
                      qPrintable(parser.value(pathOption)));
         return 2;
+    }
+
+    if (const QString language = parser.value(languageOption); !language.isEmpty()) {
+        const QStringList known = quorvan::platform::QtBundle::languages();
+        if (!known.contains(language)) {
+            std::fprintf(stderr, "quorvan-demo: no texts in the language \"%s\", only in %s\n",
+                         qPrintable(language), qPrintable(known.join(", ")));
+            return 2;
+        }
+        QLocale::setDefault(QLocale(language));
     }
 
     return quorvan::Application::run([&] {

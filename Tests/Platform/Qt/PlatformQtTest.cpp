@@ -71,6 +71,21 @@ TEST(QtBundle, EveryKeyOfTheSourcesHasAText) {
     EXPECT_THAT(bundle.localizedString("Err_Keychain_Not_Found"), testing::HasSubstr("“Remember password”"));
 }
 
+TEST(QtBundle, SpeaksTheLanguageOfTheLocaleOrEnglish) {
+    EXPECT_EQ(QtBundle::languages().join(' ').toStdString(), "de en es fr ja pl pt_BR");
+    const struct {
+        const char* locale;
+        const char* cancel; ///< of Qt's own words
+        const char* apply;
+    } cases[] = {
+        {"de_AT", "Abbrechen", "&Anwenden"}, {"pt_BR", "Cancelar", "A&plicar"}, {"it", "Cancel", "&Apply"}};
+    for (const auto& [locale, cancel, apply] : cases) {
+        QtBundle bundle({}, QLocale(locale));
+        EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString(), cancel) << locale;
+        EXPECT_EQ(bundle.localizedString("Apply_title"), apply) << locale;
+    }
+}
+
 TEST(QtBundle, ReadsTheFeatureFileAnewAndTrustsNothingInIt) {
     const FeatureDictionary shipped = {{"MorvaneSupport", true}, {"addBothTrustees", true},
                                        {"bothIdentities", true}, {"enableSettings", true},
