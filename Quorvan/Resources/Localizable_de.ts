@@ -181,7 +181,7 @@
   </message>
   <message id="Add_Remove_Label">
     <source></source>
-    <translation>Trustees hinzufügen oder entfernen:</translation>
+    <translation>Trustees:</translation>
   </message>
   <message id="Apply_title">
     <source></source>
@@ -687,7 +687,7 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
   </message>
   <message id="Add_Remove_Path_Label">
     <source></source>
-    <translation>Pfade hinzufügen oder entfernen:</translation>
+    <translation>Pfade:</translation>
   </message>
   <message id="Add_Path_Tip_Label">
     <source></source>
@@ -988,8 +988,8 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
   <message id="Pending_Count_Label" numerus="yes">
     <source></source>
     <translation>
-      <numerusform>%n Änderung noch nicht angewendet</numerusform>
-      <numerusform>%n Änderungen noch nicht angewendet</numerusform>
+      <numerusform>%n offene Änderung</numerusform>
+      <numerusform>%n offene Änderungen</numerusform>
     </translation>
   </message>
   <message id="Pending_More_Label" numerus="yes">

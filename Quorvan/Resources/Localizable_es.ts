@@ -181,7 +181,7 @@
   </message>
   <message id="Add_Remove_Label">
     <source></source>
-    <translation>Añadir o quitar titulares:</translation>
+    <translation>Titulares:</translation>
   </message>
   <message id="Apply_title">
     <source></source>
@@ -687,7 +687,7 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
   </message>
   <message id="Add_Remove_Path_Label">
     <source></source>
-    <translation>Añadir o quitar rutas:</translation>
+    <translation>Rutas:</translation>
   </message>
   <message id="Add_Path_Tip_Label">
     <source></source>
@@ -988,8 +988,8 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
   <message id="Pending_Count_Label" numerus="yes">
     <source></source>
     <translation>
-      <numerusform>%n cambio pendiente de aplicar</numerusform>
-      <numerusform>%n cambios pendientes de aplicar</numerusform>
+      <numerusform>%n cambio pendiente</numerusform>
+      <numerusform>%n cambios pendientes</numerusform>
     </translation>
   </message>
   <message id="Pending_More_Label" numerus="yes">

@@ -181,7 +181,7 @@
   </message>
   <message id="Add_Remove_Label">
     <source></source>
-    <translation>Ajouter ou supprimer des ayants droit :</translation>
+    <translation>Ayants droit :</translation>
   </message>
   <message id="Apply_title">
     <source></source>
@@ -687,7 +687,7 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
   </message>
   <message id="Add_Remove_Path_Label">
     <source></source>
-    <translation>Ajouter ou supprimer des chemins :</translation>
+    <translation>Chemins :</translation>
   </message>
   <message id="Add_Path_Tip_Label">
     <source></source>

@@ -181,7 +181,7 @@
   </message>
   <message id="Add_Remove_Label">
     <source></source>
-    <translation>Dodawanie i usuwanie dysponentów:</translation>
+    <translation>Dysponenci:</translation>
   </message>
   <message id="Apply_title">
     <source></source>
@@ -687,7 +687,7 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
   </message>
   <message id="Add_Remove_Path_Label">
     <source></source>
-    <translation>Dodawanie i usuwanie ścieżek:</translation>
+    <translation>Ścieżki:</translation>
   </message>
   <message id="Add_Path_Tip_Label">
     <source></source>

@@ -181,7 +181,7 @@
   </message>
   <message id="Add_Remove_Label">
     <source></source>
-    <translation>Adicionar ou remover titulares:</translation>
+    <translation>Titulares:</translation>
   </message>
   <message id="Apply_title">
     <source></source>
@@ -687,7 +687,7 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
   </message>
   <message id="Add_Remove_Path_Label">
     <source></source>
-    <translation>Adicionar ou remover caminhos:</translation>
+    <translation>Caminhos:</translation>
   </message>
   <message id="Add_Path_Tip_Label">
     <source></source>
@@ -988,8 +988,8 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
   <message id="Pending_Count_Label" numerus="yes">
     <source></source>
     <translation>
-      <numerusform>%n alteração aguarda aplicação</numerusform>
-      <numerusform>%n alterações aguardam aplicação</numerusform>
+      <numerusform>%n alteração pendente</numerusform>
+      <numerusform>%n alterações pendentes</numerusform>
     </translation>
   </message>
   <message id="Pending_More_Label" numerus="yes">
