@@ -209,7 +209,7 @@ class View:
         self.screen.click(box.x + middle, box.y + box.height // 2)
 
     def answer(self, button):
-        """Presses a button of a box that may be gone before the press arrives."""
+        """Presses a button, wherever it is, that may be gone before the press arrives."""
         from gi.repository import GLib
 
         try:
