@@ -76,8 +76,12 @@ void ListTable::changeEvent(QEvent* event) {
 }
 
 void ListTable::resizeEvent(QResizeEvent* event) {
+    const QRect current = visualRect(currentIndex());
+    const bool wasInView = QRect(QPoint(), event->oldSize()).intersects(current);
     QTableView::resizeEvent(event);
     fitColumns();
+    if (wasInView) // a line that appears below takes room from the table
+        scrollTo(currentIndex());
 }
 
 /// Only a user's own step counts: a reset, too, moves the keyboard, but not to where anybody wanted it.
@@ -125,12 +129,14 @@ void ListTable::reloadData() {
     viewport()->update();
 }
 
-void ListTable::showRow(int row) {
-    const auto mode = selectionMode() == NoSelection
-                          ? QItemSelectionModel::NoUpdate
-                          : QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
-    selectionModel()->setCurrentIndex(list_->index(row, 0), mode);
-    scrollTo(currentIndex());
+void ListTable::showRows(int first, int count) {
+    const QModelIndex last = list_->index(first + count - 1, 0);
+    selectionModel()->setCurrentIndex(last, QItemSelectionModel::NoUpdate);
+    if (selectionMode() != NoSelection)
+        selectionModel()->select({list_->index(first, 0), last},
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(list_->index(first, 0));
+    scrollTo(last);
 }
 
 bool ListTable::lists(const std::string& identity) const {

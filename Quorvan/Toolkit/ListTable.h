@@ -35,8 +35,8 @@ public:
     /// Shows the rows as they are now. The keyboard and the selection stay with what the rows are about;
     /// where that is gone, they are on nothing. The list does not scroll.
     void reloadData();
-    /// Selects a row, and brings keyboard and eye to it.
-    void showRow(int row);
+    /// Selects these rows alone, and brings keyboard and eye to the last of them.
+    void showRows(int first, int count = 1);
     /// Marks the rows whose changes wait to be applied.
     void setPending(std::unordered_map<std::string, ListModel::Pending> pending) {
         list_->setPending(std::move(pending));

@@ -129,7 +129,7 @@ void UserQuotaViewController::goToNextOverLimit() {
     for (int step = 1; step <= rows; ++step) {
         const int row = (current + step) % rows;
         if (isOverLimit(*usersDisplay[static_cast<std::size_t>(row)])) {
-            userQuotaTable->showRow(row);
+            userQuotaTable->showRows(row);
             userQuotaTable->setFocus();
             return;
         }
@@ -278,6 +278,7 @@ bool UserQuotaViewController::onReturnAddedUsers(const UserQuotaList& returned) 
             usersDisplay.push_back(before[position]);
     forgetSearch();
     redisplay();
+    userQuotaTable->showRows(0, static_cast<int>(returned.size()));
     setChangesEnabled(true, revert, applyButton, userQuotaTable);
     return true;
 }

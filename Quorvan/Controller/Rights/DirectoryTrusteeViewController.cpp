@@ -150,7 +150,7 @@ void DirectoryTrusteeViewController::showAssignment(const std::string& id, const
     for (const Side* side : {&parent_, &sub_})
         for (std::size_t row = 0; row < side->edited.size(); ++row)
             if (side->edited[row].trustee->trusteeID == id && side->edited[row].path == path) {
-                side->table->showRow(static_cast<int>(row));
+                side->table->showRows(static_cast<int>(row));
                 side->table->setFocus();
                 return;
             }

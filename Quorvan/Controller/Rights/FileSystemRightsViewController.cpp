@@ -204,6 +204,7 @@ void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std:
     std::unordered_set<std::string> listed;
     for (const auto& row : editedfrightsList)
         listed.insert(row->fpath);
+    const std::size_t shown = editedfrightsList.size();
     QStringList outside;
     for (const std::string& address : selpath) {
         // The address is a URL, the server's path is not.
@@ -217,6 +218,10 @@ void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std:
             outside.append(shownText(path));
     }
     redisplay();
+    if (const auto added = editedfrightsList.size() - shown; added > 0) {
+        fsrTable->setSortDescriptor({}); // the new rows stand at the end, whatever the order was
+        fsrTable->showRows(static_cast<int>(shown), static_cast<int>(added));
+    }
     setChangesEnabled(true);
     if (!outside.isEmpty())
         NoticeLine::tell(

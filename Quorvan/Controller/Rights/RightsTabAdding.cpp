@@ -52,10 +52,10 @@ bool RightsTabViewController::add(const TrusteeList& chosen) {
         trackTrusteeList.push_back(std::make_shared<Trustees>(*chosen[at]));
     });
     redisplay();
-    if (editedTrusteeList.size() != before) {
+    if (const auto added = editedTrusteeList.size() - before; added > 0) {
         setChangesEnabled(true);
         rightsTable->setSortDescriptor({}); // the new rows stand at the end, whatever the order was
-        rightsTable->showRow(static_cast<int>(editedTrusteeList.size()) - 1);
+        rightsTable->showRows(static_cast<int>(before), static_cast<int>(added));
     }
     if (!areNew)
         reportDuplicate();

@@ -44,7 +44,7 @@ TEST_F(FileSystemRightsTest, SendsOneRequestForEachChangeInTheOrderOfTheEdits) {
     act("tick 2E, pick 0, removeBtn");                              // the tick goes into the pending addition
     addPaths({"Tests/Box"});
     play(R"(
-                            | rows Box\Low RWF, Box\50% #1 ü REF, Box RF | applyBtn ready | revertBtn ready
+                            | rows Box\Low RWF, Box\50% #1 ü REF, >Box RF | applyBtn ready | revertBtn ready
         pick 1, applyBtn    | sent add admin Box\Low / add admin Box\50% #1 ü / remove admin Box / add admin Box
                             | rows Box RF, >Box\50% #1 ü REF, Box\Low RWF | applyBtn grey | revertBtn grey | alerts
     )");

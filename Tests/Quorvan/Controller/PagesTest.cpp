@@ -2,6 +2,7 @@
 // What holds for every page and sheet: what the user's rights open, what happens when the server fails, and
 // that all of it can be used without mouse and screen.
 #include "Platform/Qt/QtBundle.h"
+#include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Toolkit/PendingChanges.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
@@ -285,80 +286,116 @@ TEST_F(PagesTest, SayWhyAControlIsGrey) {
     EXPECT_EQ(open("rights").act("removeBtn").value("applyBtn", "toolTip"), "Apply_Tip_Label");
 }
 
-/// The keyboard, the selection and the place in the list belong to who is in the row, not to its number.
+/// The keyboard, the selection and the place in the list belong to who is in the row, not to its number: in
+/// every list of a page, whichever way its rows come about.
 TEST_F(PagesTest, KeepTheKeyboardWithTheIdentity) {
+    const auto& admin = *world.identities->findById("admin");
+    for (int i = 10; i < 70; ++i) {
+        const std::string number = std::to_string(i);
+        const auto& user = world.identities->addDomainUser("user" + number, "user" + number);
+        for (const char* path : {"VOL1:\\Tests", box})
+            world.server->setTrustee(path, user, 0x041);
+        world.server->setTrustee(std::string(box) + "\\Low" + number, admin, 0x041);
+        world.server->volumes().userQuotas("VOL1")->of(user).limit = 1 << 30;
+    }
+    const Texts boxes = {"tick @E, REVERT", "tick @E, APPLY", "key F5"};
+    const Texts limit = {"EDIT, REVERT", "EDIT, APPLY", "key F5"};
     const struct {
-        const char *page, *table, *search, *pick, *apply, *revert, *identity;
+        const char *page, *table, *search, *revert, *apply, *remove, *choose;
+        Texts ways;
+        const char* added;
     } cases[] = {
-        {"rights", "rightsTable", "searchField", "1", "applyBtn", "revertBtn", "admin"},
-        {"folders", "subdirTable", "searchInSubField", "1", "applybtn", "revertbtn", "admin"},
-        {"files", "fsrTable", nullptr, "1", "applyBtn", "revertBtn", "Box\\Low"},
-        {"quota", "userQuotaTable", "searchField", "1", "applyButton", "revert", nullptr},
+        {"rights", "rightsTable", "searchField", "revertBtn", "applyBtn", "removeBtn", "", boxes,
+         "lea.fournier"},
+        {"effective", "effRightsTable", "searchField", "", "", nullptr, "", {"key F5"}, nullptr},
+        {"folders", "subdirTable", "searchInSubField", "revertbtn", "applybtn", "removeBtnSub", "", boxes,
+         nullptr},
+        {"folders", "parentdirTable", "searchInParentField", "revertbtn", "applybtn", "removeBtnParent", "",
+         boxes, nullptr},
+        {"files", "fsrTable", nullptr, "revertBtn", "applyBtn", "removeBtn", "selectUserBtn", boxes, "Tests"},
+        {"quota", "userQuotaTable", "searchField", "revert", "applyButton", "removeUQButton", "", limit,
+         "lea.fournier"},
+        {"rights", "userListTable", "searchField", "", "", nullptr, "addBtn", {}, nullptr},
     };
     for (const auto& each : cases) {
         open(each.page);
         if (each.page == std::string_view("files"))
-            take("selectUserBtn", "Users_Title", meridal, {"admin"});
+            take(each.choose, "Users_Title", meridal, {"admin"});
+        else if (*each.choose != '\0')
+            browse(each.choose, "Users_Title", meridal);
         auto& list = control<ListTable>(each.table);
-        const auto name = [&](int row) {
-            return list.model()->index(row, 0).data().toString().toStdString();
+        const auto name = [&list](int row) { return list.model()->index(row, 0).data().toString(); };
+        const auto isInView = [&list](const QModelIndex& cell) {
+            return list.viewport()->rect().contains(list.visualRect(cell).center());
         };
-        const auto current = [&] {
-            return list.currentIndex().isValid() ? name(list.currentIndex().row()) : std::string("nothing");
-        };
-        act(std::string("pick:") + each.table + " " + each.pick);
-        const std::string who = name(1);
-        const auto expectKept = [&](const std::string& script) {
-            SCOPED_TRACE(std::string(each.page) + ": " + script);
-            act(script);
-            EXPECT_EQ(current(), who);
-            const auto selected = list.selectedRowIndexes();
-            EXPECT_THAT(selected, SizeIs(1));
-            EXPECT_EQ(name(selected.at(0)), who);
+        const auto go = [&](const std::string& script) {
+            QString way = QString::fromStdString(script);
+            way.replace("tick @", QString("tick:%1 %2").arg(each.table).arg(list.currentIndex().row()));
+            way.replace("EDIT", "editUQButton, type quotaLimitTextField 5, okBtn");
+            act(way.replace("REVERT", each.revert).replace("APPLY", each.apply).toStdString());
         };
         const std::string header = std::string("header:") + each.table;
-        expectKept(header);
-        expectKept(header);
-        if (each.search != nullptr) {
-            expectKept(std::string("type ") + each.search + " " + who);
-            expectKept(std::string("type ") + each.search);
+        const std::string row = std::to_string(list.model()->rowCount() / 2);
+        act(std::string("pick:") + each.table + ' ' + row);
+        const QString who = name(list.currentIndex().row());
+        Texts ways = {header, header};
+        if (each.search != nullptr)
+            for (const std::string& text : {' ' + who.right(4).toStdString(), std::string()})
+                ways.push_back(std::string("type ") + each.search + text);
+        ways.insert(ways.end(), each.ways.begin(), each.ways.end());
+        for (const std::string& way : ways) {
+            SCOPED_TRACE(std::string(each.page) + ' ' + each.table + ": " + way);
+            if (way.starts_with("key"))
+                list.setFocus();
+            go(way);
+            ASSERT_TRUE(list.currentIndex().isValid());
+            EXPECT_EQ(name(list.currentIndex().row()), who);
+            EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(list.currentIndex().row()));
+            EXPECT_TRUE(isInView(list.currentIndex()));
         }
-        const bool hasBoxes = dynamic_cast<RightsTable*>(&list) != nullptr;
-        if (hasBoxes) {
-            const std::string row = std::to_string(list.currentIndex().row());
-            const std::string tick = std::string("tick:") + each.table + " " + row + "E";
-            expectKept(tick);
-            expectKept(each.revert);
-            expectKept(std::string("tick:") + each.table + " " + std::to_string(list.currentIndex().row()) +
-                       "E");
-            expectKept(each.apply);
-            // The box that was clicked is where the keyboard goes on, and nobody else's.
-            act(std::string("tick:") + each.table + " 0C");
-            EXPECT_EQ(list.currentIndex().row(), 0);
-            const std::string before = rows(each.table)[0];
-            QTest::keyClick(focus(), Qt::Key_Space);
-            EXPECT_NE(rows(each.table)[0], before);
+        SCOPED_TRACE(std::string(each.page) + ' ' + each.table);
+        if (each.remove != nullptr && !each.ways.empty()) {
+            // Who is gone is not followed by the next one.
+            act(each.remove);
+            EXPECT_FALSE(list.currentIndex().isValid());
+            EXPECT_THAT(list.selectedRowIndexes(), IsEmpty());
+        }
+        if (each.added != nullptr) {
+            list.scrollToTop();
+            if (each.page == std::string_view("files")) {
+                view<FileSystemRightsViewController>().onReturnSelectedPath({"file:///Volumes/VOL1/Tests"});
+            } else if (each.page == std::string_view("quota")) {
+                click("addUQButton");
+                take("selectTrusteeBtn", "Users_Title", meridal, {each.added});
+                act("type quotaLimitTextField 2, okBtn");
+            } else {
+                take("addBtn", "Users_Title", meridal, {each.added});
+            }
+            const int row = list.currentIndex().row();
+            EXPECT_THAT(name(row).toStdString(), testing::EndsWith(each.added));
+            EXPECT_FALSE(list.sortDescriptor());
+            EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(row));
+            EXPECT_TRUE(isInView(list.currentIndex()));
             act(each.revert);
         }
-        // Who is gone is not followed by the next one; the first step down leads to the first row.
-        act(std::string("pick:") + each.table + " 0");
-        const std::string gone = name(0);
-        act(hasBoxes ? each.page == std::string_view("folders") ? "removeBtnSub" : "removeBtn"
-                     : "removeUQButton");
-        EXPECT_EQ(current(), "nothing") << gone;
-        EXPECT_THAT(list.selectedRowIndexes(), IsEmpty());
-        list.setFocus();
-        QTest::keyClick(focus(), Qt::Key_Down);
-        EXPECT_EQ(list.currentIndex().row(), 0);
-        EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(0));
-        QTest::keyClick(focus(), Qt::Key_End);
-        EXPECT_EQ(list.currentIndex().row(), list.model()->rowCount() - 1);
-        if (each.search != nullptr) {
+        // Nothing is chosen: the first step down leads to the first row, from the search to the first hit.
+        list.clearSelection();
+        list.setCurrentIndex({});
+        if (each.search != nullptr)
             control(each.search).setFocus();
-            QTest::keyClick(focus(), Qt::Key_Down);
-            EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(0));
+        else
+            list.setFocus();
+        QTest::keyClick(focus(), Qt::Key_Down);
+        EXPECT_EQ(focus(), &list);
+        EXPECT_THAT(list.selectedRowIndexes(), ElementsAre(0));
+        for (const auto& [key, row] :
+             {std::pair{Qt::Key_End, list.model()->rowCount() - 1}, {Qt::Key_Home, 0}}) {
+            QTest::keyClick(focus(), key);
+            EXPECT_EQ(list.currentIndex().row(), row);
         }
         alerts();
+        if (front().isModal())
+            act("cancelButton");
     }
 }
 

@@ -76,7 +76,7 @@ TEST_F(UserQuotaTest, AddsEditsAndRemovesInOneGo) {
     view<AddUserQuotaViewController>().onReturnMorvaneSelectedUser(chosen);
     play(R"(
         | alerts Err_Msg_Duplicate_Trustee | logged Trustee is already present | rows:userList guid-1, guid-4, guid-0, Pavel
-        choose selectUnit TB, type quotaLimitTextField 2, okBtn | rows CN=User 1.OU=Verlag.O=Meridal 2 TB 0 KB 2 TB, CN=User 4.OU=Verlag.O=Meridal 2 TB 0 KB 2 TB, guid-0 2 TB 0 KB 2 TB, Pavel 2 TB 0 KB 2 TB, CN=User 2.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
+        choose selectUnit TB, type quotaLimitTextField 2, okBtn | rows >CN=User 1.OU=Verlag.O=Meridal 2 TB 0 KB 2 TB, >CN=User 4.OU=Verlag.O=Meridal 2 TB 0 KB 2 TB, >guid-0 2 TB 0 KB 2 TB, >Pavel 2 TB 0 KB 2 TB, CN=User 2.OU=Verlag.O=Meridal 5 GB 0 KB 5 GB
     )");
     EXPECT_THAT(act("applyButton").changes(),
                 ElementsAre("guid-0 9223372036854775807; guid-3 9223372036854775807; guid-1 2199023255552; "

@@ -109,7 +109,7 @@ TEST_F(WhyTest, OpensFromTheMenuOfATableForEitherDirectory) {
     EXPECT_FALSE(why->isEnabled()) << "nobody is selected";
     for (std::size_t row = 0; row < rows().size(); ++row)
         if (rows()[row].find("CN=Eve") == 0)
-            table.showRow(static_cast<int>(row));
+            table.showRows(static_cast<int>(row));
     ASSERT_TRUE(why->isEnabled());
     why->trigger();
     EXPECT_FALSE(isShown("differenceLabel")) << value("differenceLabel");
