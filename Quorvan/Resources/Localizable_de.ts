@@ -1408,5 +1408,21 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
     <source></source>
     <translation>Das Benutzerhandbuch konnte nicht geöffnet werden: %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <translation>Der Server hat die Auskunft verweigert.</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <translation>Die Antwort des Servers war nicht lesbar.</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>Die Liste ist unvollständig: Der Server hat zumindest einen Teil verweigert.</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>Die Liste ist unvollständig: Eine Antwort des Servers war nicht lesbar.</translation>
+  </message>
 </context>
 </TS>

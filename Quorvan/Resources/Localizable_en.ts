@@ -1500,5 +1500,23 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <extracomment>%1 is its path.</extracomment>
     <translation>The user guide could not be opened: %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <extracomment>In an empty list.</extracomment>
+    <translation>The server refused to list them.</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <extracomment>In an empty list.</extracomment>
+    <translation>The server’s answer could not be read.</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>Not everything is listed: the server refused at least a part of it.</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>Not everything is listed: an answer of the server could not be read.</translation>
+  </message>
 </context>
 </TS>

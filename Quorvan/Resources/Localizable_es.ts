@@ -1408,5 +1408,21 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
     <source></source>
     <translation>No se pudo abrir la guía del usuario: %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <translation>El servidor se negó a enumerarlos.</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <translation>No se pudo leer la respuesta del servidor.</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>La lista está incompleta: el servidor denegó al menos una parte.</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>La lista está incompleta: no se pudo leer una respuesta del servidor.</translation>
+  </message>
 </context>
 </TS>

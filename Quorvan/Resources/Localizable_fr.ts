@@ -1408,5 +1408,21 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
     <source></source>
     <translation>Le guide de l’utilisateur n’a pas pu être ouvert : %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <translation>Le serveur a refusé d’en donner la liste.</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <translation>La réponse du serveur n’a pas pu être lue.</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>La liste est incomplète : le serveur en a refusé au moins une partie.</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>La liste est incomplète : une réponse du serveur n’a pas pu être lue.</translation>
+  </message>
 </context>
 </TS>

@@ -1403,5 +1403,21 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
     <source></source>
     <translation>ユーザーガイドを開けませんでした: %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <translation>サーバーが一覧の取得を拒否しました。</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <translation>サーバーの応答を読み取れませんでした。</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>一覧は完全ではありません。サーバーが少なくとも一部を拒否しました。</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>一覧は完全ではありません。サーバーの応答を読み取れませんでした。</translation>
+  </message>
 </context>
 </TS>

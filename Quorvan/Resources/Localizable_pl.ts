@@ -1413,5 +1413,21 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
     <source></source>
     <translation>Nie udało się otworzyć podręcznika użytkownika: %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <translation>Serwer odmówił podania listy.</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <translation>Nie udało się odczytać odpowiedzi serwera.</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>Lista jest niepełna: serwer odmówił podania przynajmniej jej części.</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>Lista jest niepełna: nie udało się odczytać odpowiedzi serwera.</translation>
+  </message>
 </context>
 </TS>

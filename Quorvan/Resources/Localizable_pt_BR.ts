@@ -1408,5 +1408,21 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
     <source></source>
     <translation>Não foi possível abrir o guia do usuário: %1</translation>
   </message>
+  <message id="List_Refused_Label">
+    <source></source>
+    <translation>O servidor se recusou a listá-los.</translation>
+  </message>
+  <message id="List_Unreadable_Label">
+    <source></source>
+    <translation>Não foi possível ler a resposta do servidor.</translation>
+  </message>
+  <message id="List_Partly_Refused_Label">
+    <source></source>
+    <translation>A lista está incompleta: o servidor recusou pelo menos uma parte.</translation>
+  </message>
+  <message id="List_Partly_Unreadable_Label">
+    <source></source>
+    <translation>A lista está incompleta: não foi possível ler uma resposta do servidor.</translation>
+  </message>
 </context>
 </TS>

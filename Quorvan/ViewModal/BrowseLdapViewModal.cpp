@@ -120,7 +120,8 @@ std::vector<LdapRow> BrowseLdapViewModal::searchAD(const std::string& text, cons
 
 std::vector<std::string> BrowseLdapViewModal::getGroupMembership(const std::string& id) {
     const auto node = platform::services().directory->openNetworkNode();
-    if (!node) {
+    listingFailed = node == nullptr;
+    if (listingFailed) {
         Log("Error in Open Directory Session");
         displayWarningMsg(errorCode::adConnect);
         return {};

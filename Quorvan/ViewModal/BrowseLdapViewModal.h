@@ -25,7 +25,7 @@ public:
     std::string selectedDomain; ///< name of the node to search
     std::vector<LdapRow> ldapUserList;
     std::vector<LdapRow> ldapGroupList;
-    bool listingFailed = false; ///< the domain did not answer the latest listing
+    bool listingFailed = false; ///< the directory did not answer the latest listing
 
     /// The names of the nodes that stand for one domain each.
     static std::vector<std::string> getAvaialbleDomains();
@@ -40,7 +40,7 @@ public:
     std::vector<LdapRow> searchAD(const std::string& text, const std::string& type) const;
 
     /// The distinguished names of the groups that the account with a SID is a member of.
-    static std::vector<std::string> getGroupMembership(const std::string& id);
+    std::vector<std::string> getGroupMembership(const std::string& id);
     static std::string getSidforObject(const std::string& objName, const std::string& objType,
                                        const std::string& attributeName);
 };

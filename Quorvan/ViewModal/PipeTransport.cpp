@@ -82,6 +82,7 @@ std::int32_t XMLReadWriteController::openPipe(const std::string& server, const s
                                               const std::string& pipe) {
     require(!inUse.isOpen && !inUse.inExchange, "%@ was to be opened while a pipe is in use", pipe);
     loss_ = 0;
+    reading_ = Reading::whole;
     const platform::BusyScope busy(platform::services().busy);
     std::string mountPath;
     const std::int32_t status = mountIPCPipe(server, share, pipe, mountPath);

@@ -83,6 +83,10 @@ public:
     /// Whether the connection was lost in an exchange since openPipe: the errno, or 0. What the last request
     /// was to change may or may not have been changed.
     std::int32_t loss() const { return loss_; }
+    /// What became of the lists that were read since openPipe. Several operations promise success whatever
+    /// the server has answered; a list that is empty or short because of that must not look whole.
+    enum class Reading { whole, refused, unreadable };
+    Reading reading() const { return reading_; }
 
     // Replies
 
@@ -295,6 +299,10 @@ private:
         using Entries = XMLResponseParser::Entries;
         XMLResponseParser entries(resultPath, sizeof...(others) == 0 ? Entries::gathered : Entries::leftOut);
         entries.error = readReply(reply, entries, others...);
+        if (entries.error)
+            reading_ = Reading::unreadable;
+        else if (entries.xmlReqStatus != 0 && reading_ == Reading::whole)
+            reading_ = Reading::refused;
         dictResponse = std::move(entries.arrStack);
         return entries;
     }
@@ -307,6 +315,7 @@ private:
     std::string statusOfExchange() const { return std::to_string(loss_); }
 
     std::int32_t loss_ = 0;
+    Reading reading_ = Reading::whole;
 
     std::string setOneTrustee(const std::string& request, const ElementPath& resultPath,
                               const ExchangeLog& log);

@@ -93,10 +93,11 @@ void UserQuotaViewController::getUserQuotaInfo() {
                 xmlController->getUserQuotaInfo(selectedPath, users, identityType);
         }
         pipe.reset();
-        if (reportLoss()) { // half a list would look whole
-            wasRead_ = false;
-            users.clear();
-        }
+        wasRead_ = !reportLoss();
+        if (wasRead_)
+            reading_ = readingOfList();
+        else
+            users.clear(); // half a list would look whole
         usersEdited = users;
         usersDisplay = users;
     }
@@ -115,7 +116,7 @@ void UserQuotaViewController::forgetSearch() {
 
 void UserQuotaViewController::redisplay() {
     quorvan::redisplay(*userQuotaTable, !searchString.empty(), *searchField,
-                       wasRead_ ? "No_User_Quotas_Label" : "User_Quotas_Unknown_Label");
+                       wasRead_ ? emptyListKey(reading_, "No_User_Quotas_Label") : "User_Quotas_Unknown_Label");
     showPending();
     const auto over =
         std::ranges::count_if(usersDisplay, [](const auto& user) { return isOverLimit(*user); });
@@ -305,7 +306,7 @@ void UserQuotaViewController::setUserQuotaInfo() {
     setChangesEnabled(false, revert, applyButton, userQuotaTable);
     if (result == "0") {
         getUserQuotaInfo();
-        if (wasRead_)
+        if (wasRead_ && reading_ == Reading::whole)
             tellOutcomeOf(sent);
     } else {
         reportFailedResult(result);

@@ -119,11 +119,14 @@ void DirectoryTrusteeViewController::initTable(const std::string& path, Rows& li
     std::vector<std::string> identityTypes = {domainIdentity};
     if (Shared::value().bothID)
         identityTypes = {std::string(identityActiveDirectory), std::string(identityMorvane)};
+    Reading& reading = (subDirFlag ? sub_ : parent_).reading;
+    reading = Reading::whole;
     std::int32_t status = 0; // of the last one, which alone tells whether the load has failed
     for (const std::string& identityType : identityTypes) {
         status = renewController().getIRRequestHandleDFS(server, list, mappedPath, sent, identityType);
         if (xmlController->loss() != 0)
             break; // half a list would look whole
+        reading = readingOfList(reading);
     }
     if (status == 0)
         return;
@@ -172,7 +175,8 @@ void DirectoryTrusteeViewController::showLoaded(Side& side) {
 }
 
 void DirectoryTrusteeViewController::redisplay(const Side& side) {
-    quorvan::redisplay(*side.table, side.isSearching, *side.field, side.emptyKey, "No_Match_Path_Label");
+    quorvan::redisplay(*side.table, side.isSearching, *side.field,
+                       emptyListKey(side.reading, side.emptyKey), "No_Match_Path_Label");
 }
 
 void DirectoryTrusteeViewController::updateRigthsWithCheckbox(DirectoryRights& row,
@@ -270,7 +274,7 @@ void DirectoryTrusteeViewController::onApplyClick(QObject* /*sender*/) {
     trackTrusteeList.clear();
     loadAgain();
     setChangesEnabled(false);
-    if (!wasRead_)
+    if (!wasRead_ || sub_.reading != Reading::whole || parent_.reading != Reading::whole)
         return;
     std::unordered_map<std::string, std::int64_t> now;
     for (const Rows* rows : {&subtrusteeList, &parenttrusteeList})

@@ -101,6 +101,7 @@ private:
         bool& isSearching;
         const char* emptyKey;
         RowSearch<DirectoryRights> search;
+        SelectionContext::Reading reading = SelectionContext::Reading::whole;
     };
     Side makeSide(bool isSub);
 

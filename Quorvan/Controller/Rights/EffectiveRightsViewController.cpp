@@ -51,13 +51,16 @@ void EffectiveRightsViewController::checkMappedInUserRights() {
 
 void EffectiveRightsViewController::initEffRightsTable() {
     trusteeList.clear();
+    reading_ = Reading::whole;
     effRightsTable->setSortDescriptor({});
     const std::int32_t status = Shared::value().bothID
                                     ? loadBothIdentities()
                                     : renewController().getEffectiveRightsforPathHandleDFS(
                                           serverIP, trusteeList, selectedPath, mappedPath, domainIdentity);
-    if (status == 0)
+    if (status == 0) {
+        reading_ = readingOfList(reading_);
         return;
+    }
     reportFailed(status);
     onReturnMainMenu();
 }
@@ -72,6 +75,7 @@ std::int32_t EffectiveRightsViewController::loadBothIdentities() {
         std::ranges::copy(copyOf(loaded), std::back_inserter(trusteeList));
         if (xmlController->loss() != 0)
             break; // half a list would look whole
+        reading_ = readingOfList(reading_);
     }
     return status;
 }
@@ -88,7 +92,8 @@ void EffectiveRightsViewController::readAgain() {
 }
 
 void EffectiveRightsViewController::redisplay() {
-    quorvan::redisplay(*effRightsTable, isSearching, *searchField);
+    quorvan::redisplay(*effRightsTable, isSearching, *searchField,
+                       emptyListKey(reading_, "No_Trustees_Label"));
 }
 
 bool EffectiveRightsViewController::onReturnMorvaneSelectedUser(const std::vector<User>& users) {

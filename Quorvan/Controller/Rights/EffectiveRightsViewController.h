@@ -81,6 +81,7 @@ private:
 
     std::string chosenID_; ///< whose rights the eight boxes show; empty before the first choice
     std::string chosenType_;
+    Reading reading_ = Reading::whole; ///< of the table
     RowSearch<std::shared_ptr<Trustees>> search_{
         trusteeList, backupEditedTrusteeList, isSearching, {trusteeNameOf}};
 };

@@ -87,7 +87,9 @@ bool FileSystemRightsViewController::initFSRRightsTable(const std::string& userI
         xmlController->getFSRights(selectedPath, {userID}, frightsList, domainIdentity);
     pipe.reset();
     const bool wasRead = isOpen && !reportLoss();
-    if (!wasRead)
+    if (wasRead)
+        reading_ = readingOfList();
+    else
         onReturnMainMenu();
     showLoadedRows();
     return wasRead;
@@ -102,7 +104,7 @@ void FileSystemRightsViewController::showLoadedRows() {
 
 void FileSystemRightsViewController::redisplay() {
     fsrTable->reloadData();
-    fsrTable->setEmptyText(L(!selectedTrusteeID.empty() ? "FSR_No_Paths_Label"
+    fsrTable->setEmptyText(L(!selectedTrusteeID.empty() ? emptyListKey(reading_, "FSR_No_Paths_Label")
                              : isSupervisor             ? "FSR_Nobody_Label"
                                                         : "FSR_Not_Allowed_Label"));
     showPending();
@@ -267,7 +269,7 @@ void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
                 return; // that change and those after it stay pending
             trackfrightsList.erase(trackfrightsList.begin());
         }
-        if (initFSRRightsTable(selectedTrusteeID))
+        if (initFSRRightsTable(selectedTrusteeID) && reading_ == Reading::whole)
             tellOutcomeOf(sent);
     }
     redisplay();

@@ -102,7 +102,7 @@ void GroupRightsViewController::viewDidAppear() {
 
 void GroupRightsViewController::redisplay() {
     quorvan::redisplay(*groupRightsTable, isSearching, *searchField,
-                       wasRead_ ? "No_Group_Rights_Label" : "Group_Rights_Unknown_Label");
+                       wasRead_ ? emptyListKey(reading_, "No_Group_Rights_Label") : "Group_Rights_Unknown_Label");
 }
 
 BrowseLdapViewModal& GroupRightsViewController::ldapList() {
@@ -121,6 +121,8 @@ std::vector<std::string> GroupRightsViewController::initgroupRightsTable(const s
         if (!sid.empty())
             sids.push_back(std::move(sid));
     }
+    if (ldapList().listingFailed)
+        reading_ = Reading::unreadable;
     return sids;
 }
 
@@ -150,6 +152,8 @@ std::vector<std::string> GroupRightsViewController::groupsOfTheTree() {
     pipe.reset();
     if (reportLoss()) // some of the groups would look like all of them
         guids.clear();
+    else
+        reading_ = readingOfList();
     return guids;
 }
 
@@ -161,8 +165,10 @@ void GroupRightsViewController::initEffRightsTable(const std::vector<std::string
     xmlController->getFSRights(selectedPath, ids, frightsList, domainIdentity);
     pipe.reset();
     wasRead_ = !reportLoss();
-    if (wasRead_)
-        addToDataSource(frightsList);
+    if (!wasRead_)
+        return;
+    reading_ = readingOfList(reading_);
+    addToDataSource(frightsList);
 }
 
 void GroupRightsViewController::addToDataSource(const std::vector<IdentityFileRights>& arr) {

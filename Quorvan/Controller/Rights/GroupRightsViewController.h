@@ -63,6 +63,7 @@ public:
 
 private:
     bool wasRead_ = false; ///< the rows are what the server has
+    Reading reading_ = Reading::whole;
     std::vector<std::string> groupsOfTheTree();
     void redisplay();
 

@@ -79,6 +79,7 @@ void RightsTabViewController::viewWillAppear() {
 
 bool RightsTabViewController::readAgain() {
     wasRead_ = true;
+    reading = Reading::whole;
     showCheck->setChecked(Shared::value().bothID);
     if (showCheck->isChecked())
         onShowBothMorvaneAD(showCheck);
@@ -132,7 +133,8 @@ void RightsTabViewController::setChangesEnabled(bool enabled) {
 }
 
 void RightsTabViewController::redisplay() {
-    quorvan::redisplay(*rightsTable, isSearching, *searchField);
+    quorvan::redisplay(*rightsTable, isSearching, *searchField,
+                       emptyListKey(reading, "No_Trustees_Label"));
     showPending();
 }
 
@@ -245,7 +247,7 @@ void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
     trackTrusteeList.clear();
     loadAgain();
     setChangesEnabled(false);
-    if (!wasRead_)
+    if (!wasRead_ || reading != Reading::whole)
         return;
     std::unordered_map<std::string, std::int64_t> now;
     for (const auto& trustee : trusteeList)
@@ -255,6 +257,7 @@ void RightsTabViewController::onApplyClick(QObject* /*sender*/) {
 
 void RightsTabViewController::loadAgain() {
     wasRead_ = true;
+    reading = Reading::whole;
     search_.end(*searchField);
     if (showCheck->isChecked()) {
         onShowBothMorvaneAD(showCheck);

@@ -5,6 +5,10 @@
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Selection/FailedOperation.h"
 #include "Quorvan/Toolkit/FailedStatus.h"
+#include "Quorvan/Toolkit/Localized.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
+
+#include <algorithm>
 
 namespace quorvan {
 
@@ -40,6 +44,21 @@ bool SelectionContext::reportLoss(std::size_t changesInDoubt) const {
     if (xmlController->loss() != 0)
         reportFailed(xmlController->loss(), changesInDoubt);
     return xmlController->loss() != 0;
+}
+
+SelectionContext::Reading SelectionContext::readingOfList(Reading before) const {
+    const Reading reading = std::max(before, xmlController->reading());
+    if (reading != Reading::whole)
+        NoticeLine::tell(NoticeLine::Kind::problem, L(reading == Reading::refused
+                                                          ? "List_Partly_Refused_Label"
+                                                          : "List_Partly_Unreadable_Label"));
+    return reading;
+}
+
+const char* SelectionContext::emptyListKey(Reading reading, const char* none) {
+    return reading == Reading::whole     ? none
+           : reading == Reading::refused ? "List_Refused_Label"
+                                         : "List_Unreadable_Label";
 }
 
 QString SelectionContext::selectedPathName() {

@@ -31,6 +31,12 @@ struct SelectionContext {
     void reportFailed(std::int32_t status, std::size_t changesInDoubt = 0) const;
     /// The same when the connection was lost in it, of which most replies tell nothing else; whether it was.
     bool reportLoss(std::size_t changesInDoubt = 0) const;
+    /// What became of the list that the controller's operation has read, and whatever was read for it before.
+    /// Where that is not all, a line in the window says so.
+    using Reading = XMLReadWriteController::Reading;
+    Reading readingOfList(Reading before = Reading::whole) const;
+    /// What an empty list says: `none` where it was read and holds nothing.
+    static const char* emptyListKey(Reading reading, const char* none);
 
     /// The path that was selected, to be shown; requests go to where a link on it leads.
     static QString selectedPathName();

@@ -12,9 +12,12 @@ bool TrusteeContext::loadTrustees(TrusteeList& trustees, const std::string& iden
     irfList = irf;
     isSupervisor = isSupervisor || (effRights.uright & KelpRights::supervisor) != 0;
     isAccessControl = isAccessControl || (effRights.uright & KelpRights::accessControl) != 0;
-    if (status != 0)
+    if (status != 0) {
         reportFailed(status);
-    return status == 0;
+        return false;
+    }
+    reading = readingOfList(reading);
+    return true;
 }
 
 } // namespace quorvan

@@ -208,6 +208,47 @@ struct RealTexts : FakeBundle {
 };
 
 /// Every table can be copied and exported, and what comes from a server stays a text in a spreadsheet.
+/// Where the status of a list says nothing, or that of a half of it, the list says that it is not whole.
+TEST_F(PagesTest, NeverShowPartOfAListAsTheWhole) {
+    const struct {
+        const char *page, *table, *only;
+        bool both;
+    } cases[] = {{"rights", "rightsTable", "<getFileInfo", false},
+                 {"effective", "effRightsTable", "getAllEffectiveRights", false},
+                 {"effective", "effRightsTable", "getAllEffectiveRights><adOnly/>", true},
+                 {"folders", "subdirTable", "<rightsRequest", false},
+                 {"folders", "parentdirTable", "<rightsRequest><adOnly/>", true},
+                 {"files", "fsrTable", "<rightsRequest", false},
+                 {"quota", "userQuotaTable", "<browse", false},
+                 {"quota", "userQuotaTable", "<browse", true}};
+    for (const auto& [page, table, only, both] : cases)
+        for (const bool isRefused : {true, false}) {
+            SCOPED_TRACE(std::string(page) + ' ' + only + (isRefused ? " refused" : " garbled"));
+            const auto spoil = [&, request = only] {
+                Shared::value().bothID = both;
+                if (isRefused)
+                    world.server->misbehaviour.code = 7;
+                else
+                    world.server->misbehaviour.garbage = "<kelp";
+                world.server->misbehaviour.onlyWith = request;
+            };
+            mend();
+            open(page, demo::supervisor, spoil);
+            if (page == std::string_view("files"))
+                take("selectUserBtn", "Users_Title", meridal, {"admin"});
+            if (!alerts().empty()) { // that says it, and leads back
+                EXPECT_EQ(title(), "Rights Management");
+                continue;
+            }
+            EXPECT_EQ(isShown("noticeText") ? value("noticeText") : "",
+                      isRefused ? "List_Partly_Refused_Label" : "List_Partly_Unreadable_Label");
+            if (!both) {
+                EXPECT_EQ(control<ListTable>(table).emptyText().toStdString(),
+                          isRefused ? "List_Refused_Label" : "List_Unreadable_Label");
+            }
+        }
+}
+
 TEST_F(PagesTest, HandOnWhatTheTablesShow) {
     world.server->setTrustee(box, world.identities->addDomainUser("=1+1,\"x\"", "formula"), 1);
     open("rights").act("pick 1");

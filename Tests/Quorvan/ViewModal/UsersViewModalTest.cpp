@@ -112,7 +112,7 @@ TEST_F(UsersViewModal, FindsGroupsAndSidsOfNamedObjects) {
     EXPECT_EQ(sidOf("Groups"), "S-3");
     EXPECT_EQ(world.directory->queries.back().attribute, "dsAttrTypeNative:distinguishedName");
     EXPECT_THAT(world.directory->queries.back().recordTypes, ElementsAre("dsRecTypeStandard:Groups"));
-    EXPECT_THAT(BrowseLdapViewModal::getGroupMembership(sid), ElementsAre("CN=a", "CN=b"));
+    EXPECT_THAT(BrowseLdapViewModal("All").getGroupMembership(sid), ElementsAre("CN=a", "CN=b"));
     EXPECT_EQ(world.directory->queries.back().attribute, "dsAttrTypeStandard:SMBSID");
     EXPECT_THAT(log.lines, IsEmpty());
     add({});
@@ -120,7 +120,7 @@ TEST_F(UsersViewModal, FindsGroupsAndSidsOfNamedObjects) {
     EXPECT_THAT(log.lines, ElementsAre("Error in Open Directory Session"));
     EXPECT_THAT(world.alerts->shown, IsEmpty());
     world.directory->answers = false;
-    EXPECT_DEATH(BrowseLdapViewModal::getGroupMembership(sid), "does not say which groups");
+    EXPECT_DEATH(BrowseLdapViewModal("All").getGroupMembership(sid), "does not say which groups");
 }
 
 } // namespace
