@@ -116,7 +116,8 @@ void UserQuotaViewController::forgetSearch() {
 
 void UserQuotaViewController::redisplay() {
     quorvan::redisplay(*userQuotaTable, !searchString.empty(), *searchField,
-                       wasRead_ ? emptyListKey(reading_, "No_User_Quotas_Label") : "User_Quotas_Unknown_Label");
+                       wasRead_ ? emptyListKey(reading_, "No_User_Quotas_Label")
+                                : "User_Quotas_Unknown_Label");
     showPending();
     const auto over =
         std::ranges::count_if(usersDisplay, [](const auto& user) { return isOverLimit(*user); });

@@ -96,7 +96,7 @@ private:
     void forgetSearch();
     void goToNextOverLimit();
 
-    bool wasRead_ = false;      ///< the lists are what the server has
+    bool wasRead_ = false; ///< the lists are what the server has
     Reading reading_ = Reading::whole;
     SearchFilter searchFilter_; ///< of searched_
     UserQuotaList searched_;    ///< the rows of usersEdited that have a name, while they are searched

@@ -175,8 +175,8 @@ void DirectoryTrusteeViewController::showLoaded(Side& side) {
 }
 
 void DirectoryTrusteeViewController::redisplay(const Side& side) {
-    quorvan::redisplay(*side.table, side.isSearching, *side.field,
-                       emptyListKey(side.reading, side.emptyKey), "No_Match_Path_Label");
+    quorvan::redisplay(*side.table, side.isSearching, *side.field, emptyListKey(side.reading, side.emptyKey),
+                       "No_Match_Path_Label");
 }
 
 void DirectoryTrusteeViewController::updateRigthsWithCheckbox(DirectoryRights& row,

@@ -102,7 +102,8 @@ void GroupRightsViewController::viewDidAppear() {
 
 void GroupRightsViewController::redisplay() {
     quorvan::redisplay(*groupRightsTable, isSearching, *searchField,
-                       wasRead_ ? emptyListKey(reading_, "No_Group_Rights_Label") : "Group_Rights_Unknown_Label");
+                       wasRead_ ? emptyListKey(reading_, "No_Group_Rights_Label")
+                                : "Group_Rights_Unknown_Label");
 }
 
 BrowseLdapViewModal& GroupRightsViewController::ldapList() {

@@ -133,8 +133,7 @@ void RightsTabViewController::setChangesEnabled(bool enabled) {
 }
 
 void RightsTabViewController::redisplay() {
-    quorvan::redisplay(*rightsTable, isSearching, *searchField,
-                       emptyListKey(reading, "No_Trustees_Label"));
+    quorvan::redisplay(*rightsTable, isSearching, *searchField, emptyListKey(reading, "No_Trustees_Label"));
     showPending();
 }
 

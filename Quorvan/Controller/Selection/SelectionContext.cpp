@@ -49,9 +49,9 @@ bool SelectionContext::reportLoss(std::size_t changesInDoubt) const {
 SelectionContext::Reading SelectionContext::readingOfList(Reading before) const {
     const Reading reading = std::max(before, xmlController->reading());
     if (reading != Reading::whole)
-        NoticeLine::tell(NoticeLine::Kind::problem, L(reading == Reading::refused
-                                                          ? "List_Partly_Refused_Label"
-                                                          : "List_Partly_Unreadable_Label"));
+        NoticeLine::tell(
+            NoticeLine::Kind::problem,
+            L(reading == Reading::refused ? "List_Partly_Refused_Label" : "List_Partly_Unreadable_Label"));
     return reading;
 }
 

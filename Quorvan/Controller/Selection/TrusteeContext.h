@@ -15,7 +15,7 @@ struct TrusteeContext : SelectionContext {
     bool loadTrustees(TrusteeList& trustees, const std::string& identityType);
 
     std::optional<Rights> irfList = Rights();
-    Rights effRights; ///< of the logged-in user
+    Rights effRights;                 ///< of the logged-in user
     Reading reading = Reading::whole; ///< of the trustees, over as many loads as the view sets
     bool isSupervisor = false;
     bool isAccessControl = false;
