@@ -19,13 +19,14 @@ import unittest
 import desktop
 from desktop import until
 
+FRONT = pathlib.Path(__file__).resolve().parents[2] / "Simulator" / "smb_front.py"
+sys.path.append(str(FRONT.parent))
 try:
     from smb_front import KelpConnection
 except ImportError as error:
     print("SKIPPED: python3-impacket is not installed:", error)
     sys.exit(77)
 
-HERE = pathlib.Path(__file__).parent
 ADDRESS = f"127.{200 + os.getpid() // 62500 % 50}.{os.getpid() // 250 % 250}.{2 + os.getpid() % 250}"
 LINK_TARGET = "127.0.0.1"  # what "localhost" resolves to
 USER = "ingrid.holm"
@@ -96,7 +97,7 @@ class Server:
         self.kelp = KelpConnection(int(port))
         clean_up(self.kelp.close)
         self.front = subprocess.Popen(
-            [sys.executable, str(HERE / "smb_front.py"), "--address", address, "--kelp-port", port]
+            [sys.executable, str(FRONT), "--address", address, "--kelp-port", port]
             + ["--password", PASSWORD, *more],
             stdin=subprocess.PIPE,
             stdout=subprocess.PIPE,
