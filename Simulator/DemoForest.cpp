@@ -7,10 +7,11 @@ namespace {
 
 constexpr const char* suffix = "DC=nordhavn,DC=example";
 
-constexpr const char* givenNames[] = {"åse",  "birgir", "dagný", "einar", "fríða",  "gísli", "hjördís",
-                                      "íris", "jón",    "kåre",  "lærke", "mårten", "óðinn", "þórunn"};
-constexpr const char* familyNames[] = {"ågren",   "bjørnsdal", "fjellvær",   "hålogaland",
-                                       "nyström", "sæther",    "þrastarson", "ødegård"};
+constexpr const char* northernGivenNames[] = {"åse",   "birgir",  "dagný", "einar", "fríða",
+                                              "gísli", "hjördís", "íris",  "jón",   "kåre",
+                                              "lærke", "mårten",  "óðinn", "þórunn"};
+constexpr const char* northernFamilyNames[] = {"ågren",   "bjørnsdal", "fjellvær",   "hålogaland",
+                                               "nyström", "sæther",    "þrastarson", "ødegård"};
 constexpr const char* crews[] = {"Havnevakt", "Lasting & Lossing", "Tollklarering", "Fyrvæsen",
                                  "Regnskap",  "Slepebåter",        "Østkai",        "Nattevakt"};
 
@@ -36,8 +37,9 @@ void addDemoForest(Identities& store) {
         groups.push_back(&add(store, std::move(name), "group", 2000 + i));
     }
     for (std::size_t i = 0; i < demo::secondForestUsers; ++i) {
-        std::string name = givenNames[i % std::size(givenNames)];
-        name.append(".").append(familyNames[(i / std::size(givenNames)) % std::size(familyNames)]);
+        std::string name = northernGivenNames[i % std::size(northernGivenNames)];
+        name.append(".").append(
+            northernFamilyNames[(i / std::size(northernGivenNames)) % std::size(northernFamilyNames)]);
         add(store, std::move(name), "user", 5000 + i).groups = {groups[i % groups.size()]};
     }
     store.add({IdentityKind::activeDirectory,

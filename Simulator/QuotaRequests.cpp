@@ -52,7 +52,7 @@ struct QuotaChange {
     std::int64_t limit = 0;
 };
 
-QuotaChange readChange(const RequestElement& element) {
+QuotaChange readQuotaChange(const RequestElement& element) {
     refuseUnless(element.name == "set");
     QuotaChange change;
     change.kind = kindOf(element);
@@ -79,7 +79,7 @@ std::string set(const Request& request, const RequestElement& group) {
     std::vector<QuotaChange> changes;
     ElementWalk walk(group);
     while (!walk.atEnd())
-        changes.push_back(readChange(walk.any()));
+        changes.push_back(readQuotaChange(walk.any()));
     walk.end();
     refuseUnless(changes.size() <= mostAtOnce);
     for (const QuotaChange& change : changes)

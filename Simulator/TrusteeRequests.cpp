@@ -49,7 +49,7 @@ void removeTrustee(const Request& request, const Change& change) {
         throw Refusal{code::noSuchTrustee};
 }
 
-void setFilter(const Request& request, const Change& change) {
+void setPathFilter(const Request& request, const Change& change) {
     changeableNode(request, change.path, neededFor::filter).filter = change.rights;
 }
 
@@ -61,7 +61,7 @@ IdentityKind takeUserKind(const RequestElement& element, ElementWalk& walk) {
     return kind;
 }
 
-Change readChange(const RequestElement& element) {
+Change readTrusteeChange(const RequestElement& element) {
     Change change;
     ElementWalk walk(element);
     if (element.name == "addTrustee") {
@@ -83,7 +83,7 @@ Change readChange(const RequestElement& element) {
         takeNameSpace(walk);
     } else if (element.name == "modifyInheritedRightsFilter") {
         change.operation = "modifyInheritedRightsFilter";
-        change.carryOut = setFilter;
+        change.carryOut = setPathFilter;
         requireNoAttributes(element);
         change.path = takePath(walk);
         walk.mark("symLink");
@@ -100,7 +100,7 @@ Change readChange(const RequestElement& element) {
 void checkTogether(const std::vector<Change>& changes, int prefixes) {
     for (const Change& change : changes) {
         refuseUnless(prefixes == 2 || change.path == changes.front().path);
-        refuseUnless(change.carryOut != setFilter || (changes.size() == 1 && prefixes == 1));
+        refuseUnless(change.carryOut != setPathFilter || (changes.size() == 1 && prefixes == 1));
     }
 }
 
@@ -110,7 +110,7 @@ std::string changeTrustees(const Request& request, const RequestElement& group, 
     std::vector<Change> changes;
     ElementWalk walk(group);
     while (!walk.atEnd())
-        changes.push_back(readChange(walk.any()));
+        changes.push_back(readTrusteeChange(walk.any()));
     walk.end();
     checkTogether(changes, prefixes);
 

@@ -11,7 +11,7 @@
 namespace quorvan::platform {
 namespace {
 
-using Values = std::vector<std::string>;
+using TextList = std::vector<std::string>;
 
 std::string nodeNameOf(const std::string& domain) {
     return std::string(activeDirectoryNode) + "/" + domain;
@@ -24,8 +24,8 @@ std::pair<std::string, std::string> nodeNamesOf(const LdapDomain& domain) {
     return {std::move(own), std::move(forest.append(allDomainsNode))};
 }
 
-Values listOf(const std::optional<std::string>& value) {
-    return value ? Values{*value} : Values();
+TextList listOf(const std::optional<std::string>& value) {
+    return value ? TextList{*value} : TextList();
 }
 
 class LdapRecord : public DirectoryRecord {
@@ -34,14 +34,14 @@ public:
         : accounts_(std::move(accounts))
         , account_(std::move(account)) {}
 
-    std::optional<Values> values(const std::string& attribute) override {
+    std::optional<TextList> values(const std::string& attribute) override {
         if (attribute == kODAttributeTypeRecordType)
-            return Values{account_->recordType};
+            return TextList{account_->recordType};
         if (attribute == kODAttributeTypePrimaryNTDomain)
-            return account_->domain.empty() ? Values() : Values{account_->domain};
+            return account_->domain.empty() ? TextList() : TextList{account_->domain};
         const std::optional<std::string> native = ldapAttribute(attribute);
         if (!native)
-            return Values();
+            return TextList();
         if (*native == "sAMAccountName")
             return listOf(account_->name);
         if (*native == "objectSid")
@@ -56,7 +56,7 @@ private:
 
 class LdapNode : public DirectoryNode {
 public:
-    LdapNode(std::shared_ptr<LdapAccounts> accounts, Values bases)
+    LdapNode(std::shared_ptr<LdapAccounts> accounts, TextList bases)
         : accounts_(std::move(accounts))
         , bases_(std::move(bases)) {}
 
@@ -73,7 +73,7 @@ public:
 
 private:
     std::shared_ptr<LdapAccounts> accounts_;
-    Values bases_;
+    TextList bases_;
 };
 
 /// What a domain is called where nobody decided otherwise: the first part of its DNS name, in capitals.
@@ -110,7 +110,7 @@ std::optional<std::map<std::string, std::string>> LdapDirectory::activeDirectory
 }
 
 std::optional<std::vector<std::string>> LdapDirectory::nodeNames() {
-    Values names;
+    TextList names;
     if (LdapConnection::base().empty())
         return names;
     if (!accounts_->load())
@@ -129,7 +129,7 @@ std::shared_ptr<DirectoryNode> LdapDirectory::openNode(const std::string& name) 
     for (const LdapDomain& each : accounts_->domains()) {
         const auto [own, forest] = nodeNamesOf(each);
         if (each.isHeld && (name == own || name == forest))
-            return std::make_shared<LdapNode>(accounts_, Values{each.base});
+            return std::make_shared<LdapNode>(accounts_, TextList{each.base});
     }
     accounts_->connection().report(EHOSTUNREACH, "The directory server of ldap.conf does not hold " + name);
     return nullptr;

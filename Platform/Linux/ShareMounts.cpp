@@ -59,7 +59,7 @@ fs::path folderOf(const std::string& ofSource, const std::string& root) {
 
 /// A line of the mount table: id, parent, device, root, mount point, options, optional fields, "-", kind,
 /// source, …
-ShareMount parsed(const std::string& line) {
+ShareMount parsedMountLine(const std::string& line) {
     std::istringstream fields(line);
     std::string skipped;
     std::string root;
@@ -144,7 +144,7 @@ std::vector<ShareMount> allMounts(const MountPlaces& places) {
     const auto add = [&mounts](ShareMount mount) { mounts.push_back(std::move(mount)); };
     std::ifstream table(places.mountTable);
     for (std::string line; std::getline(table, line);)
-        add(parsed(line));
+        add(parsedMountLine(line));
     const fs::path runtime = places.runtimeFolder.empty() ? ownRuntimeFolder() : places.runtimeFolder;
     forEachEntry(runtime / "gvfs", [&add](const fs::path& entry) { add(parsedDesktopMount(entry)); });
     forEachEntry(runtime, [&add](const fs::path& entry) {

@@ -66,7 +66,7 @@ std::optional<std::string> valueIn(const fs::path& file, const std::string& serv
 }
 
 /// "VOL1:\users\bob", "VOL1:\" or "VOL1:".
-std::optional<ServerPlace> parsed(std::string path) {
+std::optional<ServerPlace> parsedPlace(std::string path) {
     const std::size_t colon = path.find(':');
     if (colon == 0 || colon == std::string::npos || path.find('/') != std::string::npos ||
         (colon + 1 < path.size() && path[colon + 1] != '\\'))
@@ -98,7 +98,7 @@ std::optional<ServerPlace> ShareTable::placeOf(const ShareMount& mount) const {
     ServerPlace place{mount.hasLowerCaseName ? upperCase(mount.share) : mount.share, {}};
     for (const fs::path& file : files_)
         if (auto value = valueIn(file, mount.server, mount.share)) {
-            auto said = parsed(std::move(*value));
+            auto said = parsedPlace(std::move(*value));
             if (!said)
                 return std::nullopt;
             place = std::move(*said);

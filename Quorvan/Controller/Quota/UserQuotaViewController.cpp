@@ -30,7 +30,7 @@ namespace {
 using Actions = UserQuotaConstants::Actions;
 using Sid = std::optional<std::string>; ///< two that are missing are the same
 
-const std::string& nameOf(const std::shared_ptr<UserQuotaData>& user) {
+const std::string& userNameOf(const std::shared_ptr<UserQuotaData>& user) {
     return unwrap(user->displayName, "A user with a quota has no name");
 }
 
@@ -181,7 +181,7 @@ void UserQuotaViewController::onSearch(SearchField* field) {
         if (searched_.empty()) {
             std::ranges::copy_if(usersEdited, std::back_inserter(searched_),
                                  [](const auto& user) { return user->displayName.has_value(); });
-            searchFilter_.setRows(searched_, nameOf);
+            searchFilter_.setRows(searched_, userNameOf);
         }
         usersDisplay = searchFilter_.matching(searched_, searchString);
     }
@@ -192,7 +192,7 @@ void UserQuotaViewController::onSearch(SearchField* field) {
 void UserQuotaViewController::sortDescriptorsDidChange() {
     if (!userQuotaTable->isSortedBy("displayName", sortAscending))
         return;
-    sortByName(usersDisplay, sortAscending, nameOf);
+    sortByName(usersDisplay, sortAscending, userNameOf);
     redisplay();
 }
 

@@ -19,7 +19,7 @@ namespace {
 
 /// The names that libxml2 keeps in its dictionary, known by their addresses there. That has a fixed number of
 /// buckets: millions of names would be compared with each other, so they are counted.
-class Names {
+class ElementNames {
 public:
     /// Counts a name and measures it.
     std::string_view text(const xmlChar* name) {
@@ -44,7 +44,7 @@ struct Run {
     xmlParserCtxtPtr context = nullptr;
     std::optional<XMLError> error;
     std::exception_ptr exception; ///< must not pass through libxml2's frames
-    Names names;
+    ElementNames names;
     bool isRefused = false;
 };
 
