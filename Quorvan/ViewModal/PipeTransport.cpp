@@ -122,9 +122,10 @@ std::int32_t XMLReadWriteController::mountIPCPipe(const std::string& serverAddre
         Log("Keychain item not found, error returned: %d", errSecItemNotFound);
         return errSecItemNotFound;
     }
-    const platform::MountResult mounted = network().mount(
-        mountUrl, unwrap(details.username, "There is no user name to mount with"),
-        unwrap(details.password, "There is no password to mount with"), platform::MountOptions{});
+    const auto& userName = unwrap(details.username, "There is no user name to mount with");
+    const auto& password = unwrap(details.password, "There is no password to mount with");
+    const platform::MountResult mounted =
+        network().mount(mountUrl, userName, password, platform::MountOptions{});
     if (mounted.error != 0) {
         logMountError(mounted.error, mountUrl);
         return mounted.error;

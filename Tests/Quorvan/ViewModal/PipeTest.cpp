@@ -111,6 +111,7 @@ TEST_F(Pipe, NeedsCredentialsToMount) {
     mounts.clear();
     details.username.reset();
     EXPECT_DEATH(open(), "no user name");
+    details.username = "";
     details.password.reset();
     EXPECT_DEATH(open(), "no password");
 }
