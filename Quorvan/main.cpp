@@ -48,7 +48,7 @@ bool isGiven(int count, char** arguments, std::string_view shortForm, std::strin
 void keepMemoryPrivate() {
     const rlimit none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
-#ifndef __SANITIZE_ADDRESS__ // the leak check traces the process from within
+#ifndef QUORVAN_SANITIZED // the leak check traces the process from within
     prctl(PR_SET_DUMPABLE, 0);
 #endif
 }

@@ -24,6 +24,7 @@ if(NOT QUORVAN_SANITIZE)
 endif()
 
 if(QUORVAN_SANITIZE)
+  target_compile_definitions(quorvan_options INTERFACE QUORVAN_SANITIZED)
   target_compile_options(quorvan_options INTERFACE
     -fsanitize=${QUORVAN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(quorvan_options INTERFACE -fsanitize=${QUORVAN_SANITIZE})

@@ -53,7 +53,7 @@ TEST(Utf8, PutsOneReplacementForEachMaximalIllFormedPart) {
         {"\xF4\x90\x80\x80\xFF", "�����"}, // above U+10FFFF
     };
     for (const auto& [bytes, repaired] : cases) {
-        for (const std::size_t padding : {0, 31, 32, 63}) { // around the stride of the fast path
+        for (const std::size_t padding : {0U, 31U, 32U, 63U}) { // around the stride of the fast path
             const std::string before(padding, 'p');
             std::string text = "x";
             appendRepairedUtf8(text, before + std::string(bytes) + before);

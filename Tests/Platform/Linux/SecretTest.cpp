@@ -97,7 +97,7 @@ TEST(SecretTest, LeavesNothingOfItInMemory) {
              Secret secret(markedSecret);
              Secret other = secret.share();
              EXPECT_EQ(other.reveal().data(), secret.reveal().data());
-#ifdef __SANITIZE_ADDRESS__ // which lets nothing be locked
+#ifdef QUORVAN_SANITIZED // which lets nothing be locked
              const auto wanted = {" dd", " wf"};
 #else
              const auto wanted = {" dd", " wf", " lo"}; // in no dump, in no child, locked

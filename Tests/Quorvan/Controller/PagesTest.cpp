@@ -128,7 +128,7 @@ TEST_F(PagesTest, ReportEveryFailureToLoadAndLeadBack) {
                 const bool isQuota = failure == noPassword && each.page == std::string_view("information");
                 const auto lines = std::ranges::count(reported, 'f') + (isQuota ? 1 : 0);
                 EXPECT_THAT(log.take(), Contains(std::string("Failed with err - ") + code[failure])
-                                            .Times(static_cast<int>(lines)));
+                                            .Times(static_cast<std::size_t>(lines)));
                 EXPECT_EQ(world.network->openDescriptors(), 0U);
                 mend();
             }
@@ -224,8 +224,8 @@ TEST_F(PagesTest, NeverShowPartOfAListAsTheWhole) {
     for (const auto& [page, table, only, both] : cases)
         for (const bool isRefused : {true, false}) {
             SCOPED_TRACE(std::string(page) + ' ' + only + (isRefused ? " refused" : " garbled"));
-            const auto spoil = [&, request = only] {
-                Shared::value().bothID = both;
+            const auto spoil = [&, request = only, forBoth = both] {
+                Shared::value().bothID = forBoth;
                 if (isRefused)
                     world.server->misbehaviour.code = 7;
                 else

@@ -50,7 +50,7 @@ public:
 
 struct ViewControllerTest : testing::Test {
     std::string take() { return std::exchange(steps, {}); }
-    const test::FakeWorld world;
+    test::FakeWorld world;
     std::string steps;
 };
 
