@@ -64,11 +64,12 @@ int ColumnWidths::need(int column) {
         return boxWidth_;
     needs_.resize(kinds_.size());
     int& most = needs_[static_cast<std::size_t>(column)];
+    const int character = table_.fontMetrics().averageCharWidth();
+    const int gap = kind == Kind::text ? character : 0; // to the text of the next column
     // A table shows how wide a column would like to be to its base class alone.
-    most = std::max({most, static_cast<const QAbstractItemView&>(table_).sizeHintForColumn(column),
+    most = std::max({most, static_cast<const QAbstractItemView&>(table_).sizeHintForColumn(column) + gap,
                      table_.horizontalHeader()->sectionSizeHint(column)});
-    const int characters = kind == Kind::text ? leastTextCharacters : leastAmountCharacters;
-    return std::max(most, characters * table_.fontMetrics().averageCharWidth());
+    return std::max(most, character * (kind == Kind::text ? leastTextCharacters : leastAmountCharacters));
 }
 
 int ColumnWidths::roomForTexts(int boxWidth) {

@@ -40,6 +40,7 @@ public:
     /// Marks the rows whose changes wait to be applied.
     void setPending(std::unordered_map<std::string, ListModel::Pending> pending) {
         list_->setPending(std::move(pending));
+        fitColumns(); // a marked name takes more room
     }
     /// Whether one of the rows is about that.
     bool lists(const std::string& identity) const;

@@ -24,10 +24,11 @@ void TextDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
         return;
     const qreal ratio = option->widget != nullptr ? option->widget->devicePixelRatioF() : 1.0;
     QPixmap shape = option->icon.pixmap(option->decorationSize, ratio);
-    QPainter painter(&shape);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(shape.rect(), option->palette.color(QPalette::HighlightedText));
-    painter.end();
+    if (index.column() == 0) { // the glyph of an identity; a sign keeps its own colours
+        QPainter painter(&shape);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(shape.rect(), option->palette.color(QPalette::HighlightedText));
+    }
     option->icon = QIcon();
     option->icon.addPixmap(shape, QIcon::Selected);
 }

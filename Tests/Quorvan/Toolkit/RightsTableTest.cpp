@@ -197,6 +197,9 @@ TEST_F(RightsTableTest, GivesNamesTheRoomThatTheyNeed) {
     EXPECT_EQ(word(), "Read_Label");
     EXPECT_GE(table->columnWidth(0), table->fontMetrics().horizontalAdvance(QString(60, 'm')));
     EXPECT_LT(header->length(), table->viewport()->width()) << "boxes stay near their names";
+    const int plain = table->columnWidth(0);
+    table->setPending({{"l", ListModel::Pending::changed}});
+    EXPECT_GT(table->columnWidth(0), plain) << "a marked name is longer";
 
     // A width that the user has set stays, also in the next table of that name.
     table->setObjectName("someTable");
