@@ -4,7 +4,6 @@
 
 #include <QAbstractButton>
 #include <QTabWidget>
-#include <QTableView>
 
 #include <cerrno>
 
@@ -71,13 +70,6 @@ void showDirectoryQuota(const Output& output) {
     stage.photograph("37-quota-not-set", "a folder whose quota nobody has set");
 }
 
-void selectUsers(Stage& stage, std::initializer_list<int> rows) {
-    auto* table = stage.find<QTableView>("userQuotaTable");
-    for (const int row : rows)
-        table->selectionModel()->select(table->model()->index(row, 0),
-                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
 void openUserQuotas(Stage& stage) {
     stage.launch();
     stage.press("UserQuotaView");
@@ -91,7 +83,7 @@ void showUserQuotas(const Output& output) {
         stage.type("searchField", "m*a");
         stage.photograph("51-user-quotas-searched", "names that match a pattern");
         stage.type("searchField", "");
-        selectUsers(stage, {1, 2, 4});
+        stage.select({1, 2, 4}, "userQuotaTable");
         stage.press("editUQButton");
         stage.type("quotaLimitTextField", "25");
         stage.photograph("52-edit-user-quotas", "another limit for three users");
@@ -101,7 +93,7 @@ void showUserQuotas(const Output& output) {
         stage.type("quotaLimitTextField", "25");
         stage.press("okBtn");
         stage.photograph("54-user-quotas-edited", "those that were edited come first");
-        selectUsers(stage, {0});
+        stage.select({0}, "userQuotaTable");
         stage.press("removeUQButton");
         stage.press("applyButton");
         stage.photograph("55-user-quotas-applied", "one removed, and all of it sent");
@@ -154,7 +146,7 @@ void showMainProperties(const Output& output) {
     stage.press("closeButton");
     stage.press("UserQuotaView");
     stage.photograph("50-user-quotas", "the users with a quota on the volume");
-    selectUsers(stage, {1, 2, 4});
+    stage.select({1, 2, 4}, "userQuotaTable");
     stage.press("editUQButton");
     stage.photograph("52-edit-user-quotas", "another limit for three users");
     stage.press("cancelBtn");

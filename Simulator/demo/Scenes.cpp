@@ -25,6 +25,10 @@ void showPages(const Output& output) {
     stage.photograph("01-options", "the options page");
     stage.press("TrusteeRightsView");
     stage.photograph("02-trustees", "the trustees of a folder, seen by a supervisor");
+    const QSize usual = stage.window()->size();
+    stage.window()->resize(1280, 720);
+    stage.photograph("104-wide", "in a wide window there is room for words");
+    stage.window()->resize(usual);
     stage.press("closeBtn");
     stage.photograph("04-returned", "back on the options page");
 }
@@ -34,7 +38,11 @@ void showEditing(const Output& output) {
     openTrusteeRights(stage);
     stage.tick(2, "W");
     stage.tick(2, "E");
-    stage.photograph("05-edited", "two rights ticked: Revert and Apply wake up");
+    stage.select({4}, "rightsTable");
+    stage.press("removeBtn");
+    stage.photograph("05-edited", "two rights ticked, a trustee removed: Revert and Apply wake up");
+    stage.expectDialog("102-waiting", "what waits for Apply, in words");
+    stage.press("pendingLine");
     stage.press("applyBtn");
     stage.photograph("06-applied", "sent and loaded anew");
     stage.type("searchField", "a");
@@ -49,6 +57,14 @@ void showOtherUsers(const Output& output) {
         openTrusteeRights(stage);
         stage.photograph("09-access-control",
                          "with Access Control: everything but Supervisor can be changed");
+        stage.tick(2, "W");
+        stage.tick(3, "W");
+        simulator::KelpServer& server = *stage.world.server;
+        server.setTrustee(account::selection, *server.identities().findByName("Finance").front(),
+                          simulator::right::supervisor);
+        stage.press("applyBtn");
+        stage.photograph("103-partly-refused",
+                         "sent and loaded anew; one of the two has become a Supervisor meanwhile");
     }
     {
         Stage stage(output, Embedded::demo(account::readOnly));

@@ -11,6 +11,7 @@
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -20,7 +21,6 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
-#include <QPushButton>
 #include <QTableView>
 #include <QToolButton>
 
@@ -89,7 +89,7 @@ QWidget* Stage::front() const {
 }
 
 void Stage::press(const char* control) {
-    find<QPushButton>(control)->click();
+    find<QAbstractButton>(control)->click();
     QApplication::processEvents();
 }
 
@@ -127,6 +127,7 @@ void Stage::choose(const char* popUp, const char* item) {
 
 void Stage::select(std::initializer_list<int> rows, const char* listName) {
     auto* list = find<QTableView>(listName);
+    list->clearSelection();
     for (const int row : rows)
         list->selectionModel()->select(list->model()->index(row, 0),
                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
@@ -175,7 +176,9 @@ void Stage::expectDialog(const char* name, const char* caption) {
 }
 
 void Stage::lookForDialog() {
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    QWidget* const menu = QApplication::activePopupWidget();
+    QWidget* const dialog =
+        menu != nullptr ? menu : qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr)
         return;
     dialogTimer_.stop();
@@ -185,7 +188,7 @@ void Stage::lookForDialog() {
         expected.caption += QStringLiteral("; it says “%1”").arg(box->text());
     QApplication::processEvents();
     save(dialog->grab(), *dialog, expected.name, expected.caption);
-    dialog->reject();
+    dialog->close();
     if (!expected_.empty())
         dialogTimer_.start(0);
 }

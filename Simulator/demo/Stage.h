@@ -51,8 +51,8 @@ public:
 
     /// Photographs the window, and the sheet over it, as `name`.png and says what it shows.
     void photograph(const char* name, const char* caption);
-    /// Photographs a dialog that the next step opens, and closes it. Several are expected one after the
-    /// other.
+    /// Photographs a dialog or a menu that the next step opens, and closes it. Several are expected one
+    /// after the other.
     void expectDialog(const char* name, const char* caption);
 
     /// A control that can be seen, by its outlet.
