@@ -9,6 +9,9 @@ namespace quorvan {
 ValueField::ValueField(QWidget* parent)
     : QLineEdit(parent) {
     setTextMargins(0, 0, 0, 0);
+    // Beside its label, in whichever direction the value itself is written.
+    setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute |
+                 Qt::AlignVCenter);
     setEditable(false);
 }
 
@@ -35,7 +38,7 @@ void ValueField::paintEvent(QPaintEvent* event) {
         return;
     }
     QPainter painter(this);
-    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+    style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(), shown,
                           QPalette::Text);
 }
 

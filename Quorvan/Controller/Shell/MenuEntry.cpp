@@ -34,7 +34,9 @@ MenuEntry::MenuEntry(const char* iconName, const QString& description, QWidget* 
         texts_->addWidget(label);
     }
     texts_->setSpacing(2);
-    texts_->setContentsMargins(margin + iconEdge + margin, tightMargin, margin, tightMargin);
+    constexpr int besideIcon = margin + iconEdge + margin;
+    texts_->setContentsMargins(isRightToLeft() ? margin : besideIcon, tightMargin,
+                               isRightToLeft() ? besideIcon : margin, tightMargin);
     texts_->insertStretch(0);
     texts_->addStretch();
     setAccessibleDescription(description);

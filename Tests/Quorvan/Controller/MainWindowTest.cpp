@@ -6,6 +6,7 @@
 #include "Tests/Quorvan/Controller/WindowTest.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTabWidget>
 
@@ -123,6 +124,16 @@ TEST_F(MainWindowTest, LeavesThePlaceOfTheSettingsOutWhereTheyAreSwitchedOff) {
         for (const QLabel* label : entry.findChildren<QLabel*>())
             EXPECT_TRUE(label->isHidden() || label->height() >= label->heightForWidth(label->width()));
     }
+}
+
+TEST_F(MainWindowTest, KeepsIconsBesideTheTextsFromRightToLeftToo) {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    openWindow();
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    const auto& entry = control<MenuEntry>("TrusteeRightsView");
+    for (const QLabel* label : entry.findChildren<QLabel*>())
+        EXPECT_LT(label->geometry().right(), entry.width() - 54) << "a margin of 14, an icon of 40";
+    EXPECT_TRUE(control<QLineEdit>("managedPath").alignment().testFlag(Qt::AlignRight));
 }
 
 TEST_F(MainWindowTest, LeadsToTheDeletedFilesAndSendsNothing) {
