@@ -10,6 +10,7 @@
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/RightsTable.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
+#include "Simulator/demo/PseudoTexts.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -32,8 +33,11 @@ namespace {
 /// The installed resources with a few switches set otherwise.
 class StageBundle : public platform::QtBundle {
 public:
-    explicit StageBundle(const std::map<std::string, bool>& otherFeatures)
-        : otherFeatures_(otherFeatures) {}
+    StageBundle(const std::map<std::string, bool>& otherFeatures, bool hasPseudoTexts)
+        : otherFeatures_(otherFeatures) {
+        if (hasPseudoTexts)
+            QCoreApplication::installTranslator(&pseudoTexts_); // asked before the others
+    }
 
     std::optional<platform::FeatureDictionary> featureDictionary() override {
         auto features = QtBundle::featureDictionary();
@@ -45,6 +49,7 @@ public:
 
 private:
     const std::map<std::string, bool>& otherFeatures_;
+    PseudoTexts pseudoTexts_;
 };
 
 /// No selection and no mount of an earlier run is left.
@@ -73,7 +78,7 @@ Stage::~Stage() {
 
 platform::Services Stage::services() {
     platform::Services services = world.services();
-    services.bundle = std::make_shared<StageBundle>(otherFeatures);
+    services.bundle = std::make_shared<StageBundle>(otherFeatures, output_.hasPseudoTexts);
     services.alerts = std::make_shared<platform::QtAlerts>();
     services.busy = std::make_shared<platform::QtWaitCursor>();
     return services;

@@ -23,6 +23,7 @@ struct Output {
     QString folder; ///< also holds the log, below Library
     QString prefix; ///< of the file names: "light", "dark"
     std::function<void(const QString&)> say;
+    bool hasPseudoTexts = false; ///< in the place of the English ones
 };
 
 /// One run of the application on its own simulated server, driven by clicks and keys, photographed.

@@ -5,6 +5,7 @@
 #include "Quorvan/Application.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Simulator/demo/Palettes.h"
+#include "Simulator/demo/PseudoTexts.h"
 #include "Simulator/demo/Scenes.h"
 
 #include <QCommandLineParser>
@@ -42,7 +43,8 @@ const QCommandLineOption tourOption("tour", "Walk through every page and leave p
                                     "folder");
 const QCommandLineOption lookOption("look", "Walk in this style of the desktop, such as Fusion.", "style",
                                     "Fusion");
-const QCommandLineOption languageOption("language", "Speak this language, such as de or pt_BR.", "language");
+const QCommandLineOption languageOption(
+    "language", "Speak this language, such as de, pt_BR or pseudo (longer, from right to left).", "language");
 const QCommandLineOption scaledOption("main-pages", "Walk through the main pages only.");
 
 bool hasDisplay() {
@@ -75,17 +77,20 @@ int walkThroughAtTwiceTheSize(const QString& folder, const QString& style) {
     return second.waitForFinished(120000) ? second.exitCode() : 1;
 }
 
-int walkThrough(const QString& folder, const QString& style, bool mainPagesOnly) {
+int walkThrough(const QString& folder, const QString& style, bool mainPagesOnly, bool hasPseudoTexts) {
     if (!QDir().mkpath(folder)) {
         std::fprintf(stderr, "quorvan-demo: cannot make the folder %s\n", qPrintable(folder));
         return 1;
     }
     // The application takes the standard streams for its log; the report needs them as they are now.
     FILE* report = fdopen(dup(STDOUT_FILENO), "w");
-    quorvan::demo::Output output{folder, {}, [report](const QString& line) {
+    quorvan::demo::Output output{folder,
+                                 {},
+                                 [report](const QString& line) {
                                      std::fprintf(report, "%s\n", qPrintable(line));
                                      std::fflush(report);
-                                 }};
+                                 },
+                                 hasPseudoTexts};
     const QTemporaryDir state; // each walk finds the windows as nobody has arranged them
     qputenv("XDG_STATE_HOME", state.path().toUtf8());
     int status = 0;
@@ -107,9 +112,9 @@ int walkThrough(const QString& folder, const QString& style, bool mainPagesOnly)
     return status;
 }
 
-int open(const QString& user, const QString& path) {
+int open(const QString& user, const QString& path, bool hasPseudoTexts) {
     const quorvan::demo::Output output{
-        QStandardPaths::writableLocation(QStandardPaths::CacheLocation), {}, {}};
+        QStandardPaths::writableLocation(QStandardPaths::CacheLocation), {}, {}, hasPseudoTexts};
     std::printf("The log is in %s\n",
                 quorvan::AppDelegate::logFile((output.folder + "/Library").toStdString()).c_str());
     std::fflush(stdout);
@@ -141,21 +146,26 @@ int main(int argc, char** argv) {
         return 2;
     }
 
-    if (const QString language = parser.value(languageOption); !language.isEmpty()) {
-        const QStringList known = quorvan::platform::QtBundle::languages();
+    const QString language = parser.value(languageOption);
+    const bool hasPseudoTexts = language == quorvan::demo::PseudoTexts::language;
+    if (!language.isEmpty()) {
+        const QStringList known = quorvan::platform::QtBundle::languages()
+                                  << quorvan::demo::PseudoTexts::language;
         if (!known.contains(language)) {
             std::fprintf(stderr, "quorvan-demo: no texts in the language \"%s\", only in %s\n",
                          qPrintable(language), qPrintable(known.join(", ")));
             return 2;
         }
         QLocale::setDefault(QLocale(language));
+        if (hasPseudoTexts)
+            QApplication::setLayoutDirection(Qt::RightToLeft);
     }
 
     return quorvan::Application::run([&] {
         quorvan::fillMainStoryboard();
         if (tour)
             return walkThrough(parser.isSet(tourOption) ? parser.value(tourOption) : QStringLiteral("demo"),
-                               parser.value(lookOption), parser.isSet(scaledOption));
-        return open(parser.value(asOption), parser.value(pathOption));
+                               parser.value(lookOption), parser.isSet(scaledOption), hasPseudoTexts);
+        return open(parser.value(asOption), parser.value(pathOption), hasPseudoTexts);
     });
 }
