@@ -6,42 +6,52 @@
   <!-- Application menu -->
   <message id="AboutQuorvan_title">
     <source></source>
+    <extracomment>In the application menu.</extracomment>
     <translation>&amp;About Quorvan</translation>
   </message>
   <message id="Preferences_title">
     <source></source>
+    <extracomment>In the application menu.</extracomment>
     <translation>&amp;Preferences…</translation>
   </message>
   <message id="Services_title">
     <source></source>
+    <extracomment>In the application menu, as some desktops have it.</extracomment>
     <translation>Services</translation>
   </message>
   <message id="HideQuorvan_title">
     <source></source>
+    <extracomment>In the application menu.</extracomment>
     <translation>Hide Quorvan</translation>
   </message>
   <message id="HideOthers_title">
     <source></source>
+    <extracomment>In the application menu: the windows of the other programs.</extracomment>
     <translation>Hide Others</translation>
   </message>
   <message id="ShowAll_title">
     <source></source>
+    <extracomment>In the application menu: all windows.</extracomment>
     <translation>Show All</translation>
   </message>
   <message id="QuitQuorvan_title">
     <source></source>
+    <extracomment>In the application menu.</extracomment>
     <translation>&amp;Quit Quorvan</translation>
   </message>
   <message id="Help_title">
     <source></source>
+    <extracomment>The menu.</extracomment>
     <translation>&amp;Help</translation>
   </message>
   <message id="QuorvanHelp_title">
     <source></source>
+    <extracomment>In the Help menu.</extracomment>
     <translation>Quorvan &amp;Help</translation>
   </message>
   <message id="Application_Menu_Label">
     <source></source>
+    <extracomment>The menu that bears the name of the program.</extracomment>
     <translation>&amp;Quorvan</translation>
   </message>
   <message id="About_Description_Label">
@@ -50,6 +60,7 @@
   </message>
   <message id="About_Version_Label">
     <source></source>
+    <extracomment>%1 is a number such as 0.1.0.</extracomment>
     <translation>Version %1</translation>
   </message>
   <message id="About_Licence_Label">
@@ -74,6 +85,7 @@
   </message>
   <message id="Help_Log_Label">
     <source></source>
+    <extracomment>In the help; %1 is the path of the log file.</extracomment>
     <translation>What Quorvan asks the server, and what the server answers, is kept in %1</translation>
   </message>
   <!-- Main window and options page -->
@@ -83,6 +95,7 @@
   </message>
   <message id="Trustee_Rights_Title">
     <source></source>
+    <extracomment>A page: who holds which rights on the chosen path.</extracomment>
     <translation>Trustee Rights</translation>
   </message>
   <message id="File_System_Rights_Title">
@@ -91,14 +104,17 @@
   </message>
   <message id="User_Quota_Title">
     <source></source>
+    <extracomment>A page: how much each user may store.</extracomment>
     <translation>User Quota</translation>
   </message>
   <message id="Information_Title">
     <source></source>
+    <extracomment>A page: attributes, owner and limit of the chosen path.</extracomment>
     <translation>Information</translation>
   </message>
   <message id="Settings_Title">
     <source></source>
+    <extracomment>A page.</extracomment>
     <translation>Settings</translation>
   </message>
   <message id="Trustee_Rights_Description_Label">
@@ -127,6 +143,7 @@
   </message>
   <message id="Try_Again_title">
     <source></source>
+    <extracomment>A button: asks the server once more.</extracomment>
     <translation>&amp;Try Again</translation>
   </message>
   <message id="Try_Again_Tip_Label">
@@ -135,11 +152,13 @@
   </message>
   <message id="Managed_Server_Label">
     <source></source>
+    <extracomment>Below the path that is managed; %1 is the name of a server.</extracomment>
     <translation>on %1</translation>
   </message>
   <!-- Trustee rights window -->
   <message id="Rights_Label">
     <source></source>
+    <extracomment>A tab, beside those of the filter and of the effective rights.</extracomment>
     <translation>Rights</translation>
   </message>
   <message id="Inherited_Rights_Label">
@@ -172,6 +191,7 @@
   </message>
   <message id="Close_title">
     <source></source>
+    <extracomment>A button: leaves the page.</extracomment>
     <translation>&amp;Close</translation>
   </message>
   <message id="Close_Tip_Label">
@@ -181,6 +201,7 @@
   <!-- Trustee table -->
   <message id="Col_UserGrp_Name">
     <source></source>
+    <extracomment>The header of a column.</extracomment>
     <translation>User or Group</translation>
   </message>
   <message id="Add_Remove_Label">
@@ -189,10 +210,12 @@
   </message>
   <message id="Apply_title">
     <source></source>
+    <extracomment>A button: sends the changes.</extracomment>
     <translation>&amp;Apply</translation>
   </message>
   <message id="Revert_title">
     <source></source>
+    <extracomment>A button: drops the changes.</extracomment>
     <translation>&amp;Revert</translation>
   </message>
   <message id="Rights_Label_Title">
@@ -213,46 +236,57 @@
   </message>
   <message id="Supervisor_Label">
     <source></source>
+    <extracomment>A right that includes all others; see the glossary.</extracomment>
     <translation>Supervisor</translation>
   </message>
   <message id="Read_Label">
     <source></source>
+    <extracomment>A right: to open and read files.</extracomment>
     <translation>Read</translation>
   </message>
   <message id="Write_Label">
     <source></source>
+    <extracomment>A right: to change the content of files.</extracomment>
     <translation>Write</translation>
   </message>
   <message id="Erase_Label">
     <source></source>
+    <extracomment>A right: to delete files and folders.</extracomment>
     <translation>Erase</translation>
   </message>
   <message id="Create_Label">
     <source></source>
+    <extracomment>A right: to make files and folders.</extracomment>
     <translation>Create</translation>
   </message>
   <message id="Modify_Label">
     <source></source>
+    <extracomment>A right: to rename, and to change attributes.</extracomment>
     <translation>Modify</translation>
   </message>
   <message id="File_Scan_Label">
     <source></source>
+    <extracomment>A right: to see names in a folder.</extracomment>
     <translation>File Scan</translation>
   </message>
   <message id="Access_Control_Label">
     <source></source>
+    <extracomment>A right: to change trustees and the filter.</extracomment>
     <translation>Access Control</translation>
   </message>
   <message id="Right_Ticked_Label">
     <source></source>
+    <extracomment>For a screen reader; %1 is the name of a right.</extracomment>
     <translation>%1: granted</translation>
   </message>
   <message id="Right_Unticked_Label">
     <source></source>
+    <extracomment>For a screen reader; %1 is the name of a right.</extracomment>
     <translation>%1: not granted</translation>
   </message>
   <message id="Search_Placeholder_Label">
     <source></source>
+    <extracomment>In an empty search field.</extracomment>
     <translation>Search by name</translation>
   </message>
   <message id="Search_Tip_Label">
@@ -265,6 +299,7 @@
   </message>
   <message id="No_Match_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is what was typed.</extracomment>
     <translation>No name matches “%1”.</translation>
   </message>
   <message id="Rights_Read_Only_Label">
@@ -273,6 +308,7 @@
   </message>
   <message id="Add_title">
     <source></source>
+    <extracomment>A button: chooses identities or folders for the list.</extracomment>
     <translation>A&amp;dd…</translation>
   </message>
   <message id="Add_Tip_Label">
@@ -281,6 +317,7 @@
   </message>
   <message id="Remove_title">
     <source></source>
+    <extracomment>A button: takes the selected rows off the list.</extracomment>
     <translation>Re&amp;move</translation>
   </message>
   <message id="Remove_Tip_Label">
@@ -298,22 +335,27 @@
   <!-- Information -->
   <message id="Path_Label">
     <source></source>
+    <extracomment>Of the path on the server.</extracomment>
     <translation>Path</translation>
   </message>
   <message id="Owner_Label">
     <source></source>
+    <extracomment>Of the owner of a file or folder.</extracomment>
     <translation>Owner</translation>
   </message>
   <message id="No_Owner_Label">
     <source></source>
+    <extracomment>In the place of an owner’s name.</extracomment>
     <translation>Nobody</translation>
   </message>
   <message id="Owner_Gone_Label">
     <source></source>
+    <extracomment>In the place of an owner’s name; %1 is the identifier that is left of it.</extracomment>
     <translation>Unknown user (%1)</translation>
   </message>
   <message id="Change_Owner_title">
     <source></source>
+    <extracomment>A button: chooses another owner.</extracomment>
     <translation>Chan&amp;ge…</translation>
   </message>
   <message id="Change_Owner_Tip_Label">
@@ -330,6 +372,7 @@
   </message>
   <message id="Read_Only_Label">
     <source></source>
+    <extracomment>An attribute of a file or folder.</extracomment>
     <translation>Read &amp;Only</translation>
   </message>
   <message id="Read_Only_Tip_Label">
@@ -338,6 +381,7 @@
   </message>
   <message id="Hidden_Label">
     <source></source>
+    <extracomment>An attribute of a file or folder.</extracomment>
     <translation>Hi&amp;dden</translation>
   </message>
   <message id="Hidden_Tip_Label">
@@ -346,6 +390,7 @@
   </message>
   <message id="Archive_Label">
     <source></source>
+    <extracomment>An attribute of a file or folder: has changed since the last backup.</extracomment>
     <translation>Archi&amp;ve</translation>
   </message>
   <message id="Archive_Tip_Label">
@@ -398,14 +443,17 @@
   </message>
   <message id="Limit_Label">
     <source></source>
+    <extracomment>Of the amount that may be stored; also the header of a column.</extracomment>
     <translation>Limit</translation>
   </message>
   <message id="Used_Label">
     <source></source>
+    <extracomment>Of the amount that is stored; also the header of a column.</extracomment>
     <translation>Used</translation>
   </message>
   <message id="Available_Label">
     <source></source>
+    <extracomment>Of the amount that is left; also the header of a column.</extracomment>
     <translation>Available</translation>
   </message>
   <message id="Unit_Label">
@@ -414,6 +462,7 @@
   </message>
   <message id="Edit_Limit_title">
     <source></source>
+    <extracomment>A button.</extracomment>
     <translation>&amp;Edit Limit</translation>
   </message>
   <message id="Edit_Limit_Tip_Label">
@@ -422,6 +471,7 @@
   </message>
   <message id="Remove_Limit_title">
     <source></source>
+    <extracomment>A button.</extracomment>
     <translation>Re&amp;move Limit</translation>
   </message>
   <message id="Remove_Limit_Tip_Label">
@@ -434,19 +484,23 @@
   </message>
   <message id="Quota_Usage_Label">
     <source></source>
+    <extracomment>On a bar; %1 is a number.</extracomment>
     <translation>%1 % used</translation>
   </message>
   <message id="Quota_Exceeded_Label">
     <source></source>
+    <extracomment>On a bar.</extracomment>
     <translation>Over the limit</translation>
   </message>
   <!-- Salvage and purge -->
   <message id="Salvage_Title">
     <source></source>
+    <extracomment>A page: brings deleted files back.</extracomment>
     <translation>Salvage</translation>
   </message>
   <message id="Purge_Title">
     <source></source>
+    <extracomment>A page: removes deleted files for good.</extracomment>
     <translation>Purge</translation>
   </message>
   <message id="Salvage_Description_Label">
@@ -494,10 +548,12 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="User_Name_Label">
     <source></source>
+    <extracomment>The header of a column.</extracomment>
     <translation>User</translation>
   </message>
   <message id="Col_User_Name">
     <source></source>
+    <extracomment>The header of a column.</extracomment>
     <translation>Name</translation>
   </message>
   <message id="Quota_Limit_Label">
@@ -518,6 +574,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Edit_title">
     <source></source>
+    <extracomment>A button: another limit for the selected users.</extracomment>
     <translation>&amp;Edit…</translation>
   </message>
   <message id="Add_User_Quota_Tip_Label">
@@ -534,6 +591,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Add_User_Quota_Title">
     <source></source>
+    <extracomment>The title of a dialog.</extracomment>
     <translation>Add User Quota</translation>
   </message>
   <message id="Edit_User_Quota_Title">
@@ -542,6 +600,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Add_Users_title">
     <source></source>
+    <extracomment>A button: chooses users.</extracomment>
     <translation>&amp;Add Users…</translation>
   </message>
   <message id="Add_Users_Tip_Label">
@@ -554,10 +613,12 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="User_Quota_Unlimited">
     <source></source>
+    <extracomment>In the place of an amount.</extracomment>
     <translation>Unlimited</translation>
   </message>
   <message id="User_Quota_Not_Set">
     <source></source>
+    <extracomment>In the place of an amount: nobody has set a limit.</extracomment>
     <translation>Not set</translation>
   </message>
   <message id="User_Quota_Maximum">
@@ -570,26 +631,32 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="B">
     <source></source>
+    <extracomment>Bytes, behind a number.</extracomment>
     <translation>B</translation>
   </message>
   <message id="KB">
     <source></source>
+    <extracomment>1,024 bytes, behind a number.</extracomment>
     <translation>KB</translation>
   </message>
   <message id="MB">
     <source></source>
+    <extracomment>1,024 KB, behind a number.</extracomment>
     <translation>MB</translation>
   </message>
   <message id="GB">
     <source></source>
+    <extracomment>1,024 MB, behind a number.</extracomment>
     <translation>GB</translation>
   </message>
   <message id="TB">
     <source></source>
+    <extracomment>1,024 GB, behind a number.</extracomment>
     <translation>TB</translation>
   </message>
   <message id="PB">
     <source></source>
+    <extracomment>1,024 TB, behind a number.</extracomment>
     <translation>PB</translation>
   </message>
   <!-- The inherited rights filter -->
@@ -599,6 +666,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Inherited_Box_Tip_Label">
     <source></source>
+    <extracomment>Of a box of the filter; %1 is the name of a right.</extracomment>
     <translation>Ticked: %1 passes from the folders above. Cleared: it stops here.</translation>
   </message>
   <message id="Inherited_Supervisor_Tip_Label">
@@ -616,6 +684,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="User_Group_Label">
     <source></source>
+    <extracomment>In front of a chosen name.</extracomment>
     <translation>User or group:</translation>
   </message>
   <message id="Nobody_Chosen_Label">
@@ -624,6 +693,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Choose_title">
     <source></source>
+    <extracomment>A button: chooses a user or a group.</extracomment>
     <translation>Ch&amp;oose…</translation>
   </message>
   <message id="Choose_Effective_Tip_Label">
@@ -649,10 +719,12 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Remove_Parent_title">
     <source></source>
+    <extracomment>A button like Remove_title, on the same page, with another mnemonic.</extracomment>
     <translation>Rem&amp;ove</translation>
   </message>
   <message id="Col_Path">
     <source></source>
+    <extracomment>The header of a column: a path on the server.</extracomment>
     <translation>Path</translation>
   </message>
   <message id="Search_Paths_Placeholder_Label">
@@ -677,6 +749,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="No_Match_Path_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is what was typed.</extracomment>
     <translation>No name or path matches “%1”.</translation>
   </message>
   <!-- File-system rights -->
@@ -690,6 +763,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Group_Rights">
     <source></source>
+    <extracomment>A button: what a user holds through groups.</extracomment>
     <translation>&amp;Group Rights…</translation>
   </message>
   <message id="Group_Rights_Tip_Label">
@@ -726,6 +800,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Col_Group">
     <source></source>
+    <extracomment>The header of a column.</extracomment>
     <translation>Group</translation>
   </message>
   <message id="No_Group_Rights_Label">
@@ -739,47 +814,58 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Browse_Folder_Root_Label">
     <source></source>
+    <extracomment>The first row of a tree of folders.</extracomment>
     <translation>Mounted volume</translation>
   </message>
   <message id="Volume_Not_Mounted_Label">
     <source></source>
+    <extracomment>%1 is the name of a volume.</extracomment>
     <translation>The volume %1 is not mounted on this computer. Open it in the file manager, then try again.</translation>
   </message>
   <!-- Alerts -->
   <message id="Warning_Title">
     <source></source>
+    <extracomment>The title of an alert.</extracomment>
     <translation>Warning</translation>
   </message>
   <message id="Error_Title">
     <source></source>
+    <extracomment>The title of an alert.</extracomment>
     <translation>Error</translation>
   </message>
   <message id="View_label">
     <source></source>
+    <extracomment>In front of a list of categories: users, groups.</extracomment>
     <translation>&amp;View:</translation>
   </message>
   <message id="Node_label">
     <source></source>
+    <extracomment>In front of a list of domains.</extracomment>
     <translation>&amp;Domain:</translation>
   </message>
   <message id="Node_label_morvane">
     <source></source>
+    <extracomment>In front of a field for a container of the tree.</extracomment>
     <translation>&amp;Below:</translation>
   </message>
   <message id="Users_Title">
     <source></source>
+    <extracomment>A category of identities.</extracomment>
     <translation>Users</translation>
   </message>
   <message id="Groups_Title">
     <source></source>
+    <extracomment>A category of identities.</extracomment>
     <translation>Groups</translation>
   </message>
   <message id="Containers_Title">
     <source></source>
+    <extracomment>A category of identities: the branches of the tree.</extracomment>
     <translation>Containers</translation>
   </message>
   <message id="Fetch_title">
     <source></source>
+    <extracomment>A button: asks the directory for names.</extracomment>
     <translation>&amp;Fetch</translation>
   </message>
   <message id="Fetch_Tip_Label">
@@ -788,14 +874,17 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Select_title">
     <source></source>
+    <extracomment>A button: takes the selected names.</extracomment>
     <translation>&amp;Select</translation>
   </message>
   <message id="Cancel_title">
     <source></source>
+    <extracomment>A button.</extracomment>
     <translation>&amp;Cancel</translation>
   </message>
   <message id="OK_title">
     <source></source>
+    <extracomment>A button.</extracomment>
     <translation>&amp;OK</translation>
   </message>
   <message id="Browse_AD_Title">
@@ -812,6 +901,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Browse_Choose_Label">
     <source></source>
+    <extracomment>The first item of a list, before a choice.</extracomment>
     <translation>Choose…</translation>
   </message>
   <message id="Browse_AD_Start_Label">
@@ -828,26 +918,32 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Domain_Silent_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is the name of a domain.</extracomment>
     <translation>%1 does not answer. The log file has the details.</translation>
   </message>
   <message id="No_Users_In_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is the name of a domain.</extracomment>
     <translation>No users found in %1.</translation>
   </message>
   <message id="No_Groups_In_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is the name of a domain.</extracomment>
     <translation>No groups found in %1.</translation>
   </message>
   <message id="No_Users_Below_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is a container, which may end in a full stop.</extracomment>
     <translation>No users found below %1</translation>
   </message>
   <message id="No_Groups_Below_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is a container, which may end in a full stop.</extracomment>
     <translation>No groups found below %1</translation>
   </message>
   <message id="No_Containers_Below_Label">
     <source></source>
+    <extracomment>In an empty list; %1 is a container, which may end in a full stop.</extracomment>
     <translation>No containers found below %1</translation>
   </message>
   <message id="No_Users_Label">
@@ -868,6 +964,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Morvane_title">
     <source></source>
+    <extracomment>A choice: the tree of that name.</extracomment>
     <translation>&amp;Morvane</translation>
   </message>
   <message id="Active_Directory_title">
@@ -1123,6 +1220,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Over_Limit_Label" numerus="yes">
     <source></source>
+    <extracomment>Above the table of users; %n is their number.</extracomment>
     <translation>
       <numerusform>%n user is over the limit</numerusform>
       <numerusform>%n users are over their limit</numerusform>
@@ -1211,6 +1309,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Preset_Read_title">
     <source></source>
+    <extracomment>In a menu: the rights to read and to see names.</extracomment>
     <translation>&amp;Read</translation>
   </message>
   <message id="Preset_Write_title">
@@ -1223,10 +1322,12 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Preset_None_title">
     <source></source>
+    <extracomment>In a menu: none of the rights.</extracomment>
     <translation>&amp;Nothing</translation>
   </message>
   <message id="Show_Log_title">
     <source></source>
+    <extracomment>In the Help menu.</extracomment>
     <translation>Show &amp;Log File</translation>
   </message>
   <message id="No_Log_Viewer_Label">
@@ -1383,14 +1484,17 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Why_Right_Label">
     <source></source>
+    <extracomment>The header of a column of rights.</extracomment>
     <translation>Right</translation>
   </message>
   <message id="Why_Holds_Label">
     <source></source>
+    <extracomment>The header of a column: whether the right is held.</extracomment>
     <translation>Holds</translation>
   </message>
   <message id="Why_Reason_Label">
     <source></source>
+    <extracomment>The header of a column.</extracomment>
     <translation>Why</translation>
   </message>
   <message id="Why_Way_Label">
@@ -1399,6 +1503,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Why_Granted_Label">
     <source></source>
+    <extracomment>The header of a column: to whom which rights are granted on a folder.</extracomment>
     <translation>Granted here</translation>
   </message>
   <message id="Why_Passes_Label">
@@ -1407,6 +1512,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Why_Passes_All_Label">
     <source></source>
+    <extracomment>In place of the rights that a filter lets through.</extracomment>
     <translation>everything</translation>
   </message>
   <message id="Why_Not_Visible_Label">
@@ -1416,10 +1522,12 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Why_Yes_Label">
     <source></source>
+    <extracomment>The right is held.</extracomment>
     <translation>yes</translation>
   </message>
   <message id="Why_No_Label">
     <source></source>
+    <extracomment>The right is not held.</extracomment>
     <translation>no</translation>
   </message>
   <message id="Why_Granted_Self_Label">
@@ -1484,6 +1592,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Why_Copy_title">
     <source></source>
+    <extracomment>A button.</extracomment>
     <translation>Co&amp;py as Text</translation>
   </message>
   <message id="Why_Copy_Tip_Label">
