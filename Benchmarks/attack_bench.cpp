@@ -155,7 +155,7 @@ const Attack attacks[] = {
      listQuotas<identityActiveDirectory>, 20},
     {"shown: a name of 1 MB", 1'000'000, [](std::size_t size) { return std::string(size, 'n'); }, show, 20},
     {"shown: one letter under 500,000 accents", 500'000,
-     [](std::size_t size) { return "e" + repeated("\xCC\x81", size); }, show, 20},
+     [](std::size_t size) { return std::string("e").append(repeated("\xCC\x81", size)); }, show, 20},
     {"shown: a tip of 10 MB of controls", 10'000'000,
      [](std::size_t size) { return std::string(size, '\x01'); }, show, 20},
 };

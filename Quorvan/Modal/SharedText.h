@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <functional>
-#include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -14,23 +13,38 @@ namespace quorvan {
 
 /// A text that many records hold at once: a long one is stored once for all copies. A server may give ten
 /// thousand trustees one name of a hundred thousand characters, and does give all trustees of a folder the
-/// same path.
+/// same path. Records belong to one thread.
 class SharedText {
 public:
     SharedText() = default;
     // NOLINTBEGIN(google-explicit-constructor): it stands for a std::string
     SharedText(std::string text)
-        : text_(text.empty() ? nullptr : std::make_shared<const std::string>(std::move(text))) {}
+        : text_(text.empty() ? nullptr : new Text{std::move(text)}) {}
     SharedText(std::string_view text)
         : SharedText(std::string(text)) {}
     SharedText(const char* text)
         : SharedText(std::string(text)) {}
     operator const std::string&() const { return str(); }
     // NOLINTEND(google-explicit-constructor)
+    SharedText(const SharedText& other)
+        : text_(other.text_) {
+        if (text_ != nullptr)
+            ++text_->owners;
+    }
+    SharedText(SharedText&& other) noexcept
+        : text_(std::exchange(other.text_, nullptr)) {}
+    SharedText& operator=(SharedText other) noexcept {
+        std::swap(text_, other.text_);
+        return *this;
+    }
+    ~SharedText() {
+        if (text_ != nullptr && --text_->owners == 0)
+            delete text_;
+    }
 
     const std::string& str() const {
         static const std::string none;
-        return text_ ? *text_ : none;
+        return text_ != nullptr ? text_->text : none;
     }
     bool empty() const { return str().empty(); }
     std::size_t size() const { return str().size(); }
@@ -46,7 +60,12 @@ public:
     }
 
 private:
-    std::shared_ptr<const std::string> text_; ///< null for ""
+    /// Counted by hand: records hold three or more of these, and a shared pointer is twice as large.
+    struct Text {
+        std::string text;
+        std::size_t owners = 1;
+    };
+    Text* text_ = nullptr; ///< null for ""
 };
 
 /// Stores the texts of a list that come again and again once. Only those that were seen lately are known, so

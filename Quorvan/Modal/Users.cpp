@@ -12,8 +12,8 @@ User::User(SharedText name, SharedText type, std::string id)
     , trusteeType(std::move(type))
     , trusteeID(std::move(id)) {}
 
-Trustees::Trustees(SharedText name, std::string id, std::uint16_t mask, std::string pendingStatus,
-                   SharedText type, std::string domain)
+Trustees::Trustees(SharedText name, std::string id, std::uint16_t mask, SharedText pendingStatus,
+                   SharedText type, SharedText domain)
     : User(std::move(name), std::move(type), std::move(id))
     , rights(mask)
     , status(std::move(pendingStatus))

@@ -29,8 +29,8 @@ public:
 class Trustees : public User {
 public:
     Trustees() = default;
-    Trustees(SharedText name, std::string id, std::uint16_t rights, std::string status, SharedText type,
-             std::string domainType);
+    Trustees(SharedText name, std::string id, std::uint16_t rights, SharedText status, SharedText type,
+             SharedText domainType);
     Trustees(const Trustees& other);
     Trustees& operator=(const Trustees& other);
     Trustees(Trustees&&) = default;
@@ -38,8 +38,8 @@ public:
     ~Trustees() = default;
 
     std::uint16_t rights = 0; ///< mask of KelpRights
-    std::string status;       ///< pending change: "ADD", "REMOVE" or "" (never sent)
-    std::string domainType;   ///< "ActiveDirectory", "Morvane" or "" when unknown
+    SharedText status;        ///< pending change: "ADD", "REMOVE" or "" (never sent)
+    SharedText domainType;    ///< "ActiveDirectory", "Morvane" or "" when unknown
 
 private:
     void nameTheTypeOfEveryone();

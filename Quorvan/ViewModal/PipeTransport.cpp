@@ -2,6 +2,7 @@
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include "Common/Fatal.h"
+#include "Common/LargePages.h"
 #include "Common/Log.h"
 #include "Common/ServerDetails.h"
 #include "Common/Utf8.h"
@@ -65,12 +66,18 @@ public:
 };
 
 /// Lets a reply grow by leaps. Memory that is reserved and never touched costs nothing, whereas copying a
-/// long reply from one place to the next costs as much as reading it.
+/// long reply from one place to the next costs as much as reading it. The first leap is the longest for which
+/// malloc uses the same memory again.
 void makeRoom(std::string& reply) {
     constexpr std::size_t room = 3 * XMLReadWriteController::MEM_SIZE; // a piece of nothing but invalid bytes
-    constexpr std::size_t leap = 1U << 20U;
-    if (reply.capacity() - reply.size() < room)
-        reply.reserve(4 * reply.size() + leap);
+    constexpr std::size_t shortReply = 31U << 20U;
+    constexpr std::size_t longReply = 128U << 20U;
+    if (reply.capacity() - reply.size() >= room)
+        return;
+    if (reply.empty())
+        return reply.reserve(shortReply);
+    reply.reserve(std::max(longReply, 4 * reply.size()));
+    preferLargePages(reply.data(), reply.capacity());
 }
 
 } // namespace

@@ -34,8 +34,9 @@ struct DirectoryLookup::Surroundings {
 
     platform::DirectoryQuery query; ///< kept for its memory
 
-    // The records of the ID that was looked up last: a list asks for one attribute after the other.
-    std::optional<std::string> lastID;
+    // The records of the ID that was looked up last: a list asks for one attribute after the other. Without
+    // any they may have failed, which the next look-up meets anew.
+    std::string lastID;
     platform::DirectoryRecords recordsOfLastID;
 
 private:
@@ -50,9 +51,9 @@ void DirectoryLookup::prefetch(const std::vector<std::string>& sids) {
     platform::services().directory->prefetch(sids);
 }
 
-std::optional<platform::DirectoryRecords>
-DirectoryLookup::ask(const std::string& strToQuery, const std::optional<std::string>& recType,
-                     const std::optional<std::string>& attribute) const {
+std::optional<platform::DirectoryRecords> DirectoryLookup::ask(const std::string& strToQuery,
+                                                               const std::optional<std::string>& recType,
+                                                               std::string_view attribute) const {
     if (!surroundings_)
         surroundings_ = std::make_unique<Surroundings>();
     if (!surroundings_->state) {
@@ -64,7 +65,7 @@ DirectoryLookup::ask(const std::string& strToQuery, const std::optional<std::str
         query.recordTypes = {*recType};
     else
         query.recordTypes = usersAndGroups;
-    query.attribute = attribute ? *attribute : kODAttributeTypeRecordName;
+    query.attribute = attribute;
     query.values.assign(1, strToQuery);
     platform::DirectoryNode* node = surroundings_->node();
     return node != nullptr ? node->query(query) : std::nullopt;
@@ -73,7 +74,7 @@ DirectoryLookup::ask(const std::string& strToQuery, const std::optional<std::str
 platform::DirectoryRecords
 DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::optional<std::string>& recType,
                                   const std::optional<std::string>& attribute) const {
-    auto records = ask(strToQuery, recType, attribute);
+    auto records = ask(strToQuery, recType, attribute ? *attribute : kODAttributeTypeRecordName);
     if (!records) {
         reportFailure();
         return {};
@@ -100,12 +101,12 @@ void DirectoryLookup::reportFailure() const {
 }
 
 const platform::DirectoryRecords& DirectoryLookup::recordsOfID(const std::string& objectID) const {
-    if (!surroundings_ || surroundings_->lastID != objectID) {
-        auto records = getUserGroupInfo(objectID, {}, kODAttributeTypeSMBSID);
-        surroundings_->lastID.reset(); // an empty answer may be a failure, which the next look-up meets anew
-        if (!records.empty())
-            surroundings_->lastID = objectID;
-        surroundings_->recordsOfLastID = std::move(records);
+    if (!surroundings_ || surroundings_->recordsOfLastID.empty() || surroundings_->lastID != objectID) {
+        auto records = ask(objectID, {}, kODAttributeTypeSMBSID);
+        if (!records)
+            reportFailure();
+        surroundings_->lastID = objectID;
+        surroundings_->recordsOfLastID = std::move(records).value_or(platform::DirectoryRecords());
     }
     return surroundings_->recordsOfLastID;
 }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace quorvan {
 
@@ -44,7 +45,7 @@ private:
     struct Surroundings;
     std::optional<platform::DirectoryRecords> ask(const std::string& strToQuery,
                                                   const std::optional<std::string>& recType,
-                                                  const std::optional<std::string>& attribute) const;
+                                                  std::string_view attribute) const;
     void reportFailure() const;
     const platform::DirectoryRecords& recordsOfID(const std::string& objectID) const;
     mutable std::unique_ptr<Surroundings> surroundings_; ///< read by the first look-up

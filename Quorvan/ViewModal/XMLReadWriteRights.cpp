@@ -83,6 +83,7 @@ void XMLReadWriteController::loadDirectoryRights(std::vector<DirectoryRights>& d
     if (!dictResponse)
         return;
     TrusteeReader reader(*dictResponse, identityType);
+    dirTrustee.reserve(dirTrustee.size() + dictResponse->size());
     TrusteeList pending; // the path comes behind its trustees
     for (const auto& entry : *dictResponse) {
         if (auto trustee = reader.read(*entry))

@@ -34,6 +34,7 @@ void XMLReadWriteController::loadTrusteeDataFromServer(TrusteeList& trusteeList,
     if (!dictResponse)
         return;
     TrusteeReader reader(*dictResponse, identityType);
+    trusteeList.reserve(trusteeList.size() + dictResponse->size());
     for (const auto& entry : *dictResponse) {
         if (auto trustee = reader.read(*entry))
             trusteeList.push_back(std::move(trustee));

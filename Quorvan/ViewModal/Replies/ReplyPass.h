@@ -19,10 +19,10 @@ std::optional<XMLError> readReply(const std::string& reply, Readers&... readers)
     public:
         explicit Group(Readers&... readers)
             : readers_(readers...) {}
-        void didStartElement(std::string_view name, XMLAttributes attributes) override {
+        void didStartElement(ElementName name, XMLAttributes attributes) override {
             std::apply([&](Readers&... each) { (each.didStartElement(name, attributes), ...); }, readers_);
         }
-        void didEndElement(std::string_view name) override {
+        void didEndElement(ElementName name) override {
             std::apply([&](Readers&... each) { (each.didEndElement(name), ...); }, readers_);
         }
         void foundCharacters(std::string_view text) override {

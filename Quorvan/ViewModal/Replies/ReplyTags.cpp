@@ -4,15 +4,15 @@
 #include "Quorvan/Modal/Constants.h"
 
 #include <array>
-#include <cstring>
+#include <cstddef>
 
 namespace quorvan {
 namespace {
 
 using Kind = ReplyTag::Kind;
 
-/// Every known name, the short ones first, so that a name is only compared with those of its length.
 constexpr std::array tags = {
+    ReplyTag(), // every name that is not known
     ReplyTag{"id", Kind::trusteeID},
     ReplyTag{"name", Kind::trusteeName},
     ReplyTag{"read", Kind::right, KelpRights::read},
@@ -35,31 +35,36 @@ constexpr std::array tags = {
     ReplyTag{"effectiveRights", Kind::effectiveRights},
     ReplyTag{"inheritedRightsFilter", Kind::inheritedRightsFilter},
 };
-constexpr std::size_t longestName = tags.back().name.size();
 
-/// Where the names of each length begin among the tags.
-constexpr auto firstOfLength = [] {
-    std::array<std::uint8_t, longestName + 2> first{};
-    for (std::size_t length = 0; length < first.size(); ++length) {
-        for (const ReplyTag& tag : tags)
-            first[length] = static_cast<std::uint8_t>(first[length] + (tag.name.size() < length ? 1 : 0));
-    }
-    return first;
+/// The place of a name, so that it is compared with one known name at most: this is asked for every tag of
+/// a reply. Factor and number are such that no two known names share a place.
+constexpr std::size_t places = 64;
+constexpr std::size_t placeOf(std::string_view name) {
+    const auto letter = [](char c) { return static_cast<std::size_t>(static_cast<unsigned char>(c)); };
+    return (10 * letter(name.front()) + letter(name.back())) % places;
+}
+
+constexpr auto tagAt = [] {
+    std::array<std::uint8_t, places> at{};
+    for (std::size_t tag = 1; tag < tags.size(); ++tag)
+        at[placeOf(tags[tag].name)] = static_cast<std::uint8_t>(tag);
+    return at;
 }();
 
-constexpr ReplyTag unknown;
+constexpr bool everyTagHasAPlace() {
+    for (std::size_t tag = 1; tag < tags.size(); ++tag) {
+        if (tagAt[placeOf(tags[tag].name)] != tag)
+            return false;
+    }
+    return true;
+}
+static_assert(everyTagHasAPlace());
 
 } // namespace
 
 const ReplyTag& ReplyTag::named(std::string_view name) {
-    if (name.empty() || name.size() > longestName)
-        return unknown;
-    for (std::size_t at = firstOfLength[name.size()]; at < firstOfLength[name.size() + 1]; ++at) {
-        const ReplyTag& tag = tags[at];
-        if (tag.name.front() == name.front() && std::memcmp(tag.name.data(), name.data(), name.size()) == 0)
-            return tag;
-    }
-    return unknown;
+    const ReplyTag& tag = tags[name.empty() ? 0 : tagAt[placeOf(name)]];
+    return tag.name == name ? tag : tags[0];
 }
 
 } // namespace quorvan

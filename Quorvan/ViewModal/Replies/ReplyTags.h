@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <string_view>
 
@@ -30,6 +31,26 @@ struct ReplyTag {
 
     /// The tag of an element's name; lives for ever.
     static const ReplyTag& named(std::string_view name);
+};
+
+/// The name of an element, with what it means. A reply repeats a few names in their millions: the parser
+/// keeps those that it has met, so that each is looked up once.
+class ElementName {
+public:
+    // NOLINTBEGIN(google-explicit-constructor): it stands for the name
+    template <std::convertible_to<std::string_view> Text>
+    ElementName(const Text& name)
+        : name_(name)
+        , tag_(&ReplyTag::named(name_)) {}
+    operator std::string_view() const { return name_; }
+    // NOLINTEND(google-explicit-constructor)
+
+    const char* data() const { return name_.data(); }
+    const ReplyTag& tag() const { return *tag_; }
+
+private:
+    std::string_view name_;
+    const ReplyTag* tag_;
 };
 
 } // namespace quorvan

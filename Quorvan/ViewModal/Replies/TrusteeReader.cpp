@@ -40,7 +40,7 @@ std::shared_ptr<Trustees> TrusteeReader::read(const ReplyEntry& entry) {
         return nullptr;
     require(name_ && rights_, "The trustee \"%@\" of the reply has no name or no rights", *entry.trusteeID);
     auto trustee =
-        std::make_shared<Trustees>(*name_, std::string(*entry.trusteeID), *rights_, "", type_, identityType_);
+        trustees_.make(*name_, std::string(*entry.trusteeID), *rights_, SharedText(), type_, identityType_);
     if (typesFromDirectory_)
         lookup_.setTrusteeTypeforTrustee(*trustee);
     return trustee;

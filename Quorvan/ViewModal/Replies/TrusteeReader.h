@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Quorvan/Modal/Users.h"
+#include "Quorvan/ViewModal/Replies/RowBlocks.h"
 #include "Quorvan/ViewModal/Replies/XMLResponseParse.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
 
@@ -25,10 +26,11 @@ public:
     std::shared_ptr<Trustees> read(const ReplyEntry& entry);
 
 private:
-    std::string identityType_;
+    SharedText identityType_;
     bool typesFromDirectory_;
     DirectoryLookup lookup_;
     SharedTexts texts_;
+    RowBlocks<Trustees> trustees_;
     std::optional<SharedText> name_;
     SharedText type_;
     std::optional<std::uint16_t> rights_;

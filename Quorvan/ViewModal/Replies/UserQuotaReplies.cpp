@@ -22,21 +22,27 @@ std::int64_t amount(const std::string& text) {
     return decimalNumber(text).value_or(0);
 }
 
-/// The display names of Active Directory users, DOMAIN\name, for all of a list at once.
+/// The display names of Active Directory users, DOMAIN\name. The directory is told so many of them at once
+/// that its questions are full ones, and not more: a second list of all would be as large as the reply.
 void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
-    std::vector<std::string> sids;
-    sids.reserve(users.size());
-    for (const auto& user : users)
-        sids.push_back(std::move(*user->SID)); // and back below: copies would be as large as the reply
-    DirectoryLookup::prefetch(sids);
+    constexpr std::size_t batch = 1'000;
+    const std::string domain = kODAttributeTypePrimaryNTDomain;
+    const std::string account = kODAttributeTypeRecordName;
     const DirectoryLookup lookup;
-    auto sid = sids.begin();
-    for (const auto& user : users) {
-        user->SID = std::move(*sid++);
-        std::string name = lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypePrimaryNTDomain);
-        name += '\\';
-        name += lookup.lookupAttrValueFromID(*user->SID, kODAttributeTypeRecordName);
-        user->displayName = std::move(name);
+    std::vector<std::string> sids;
+    while (!users.empty()) {
+        const auto announced = users.first(std::min(batch, users.size()));
+        users = users.subspan(announced.size());
+        sids.clear();
+        for (const auto& user : announced)
+            sids.push_back(*user->SID);
+        DirectoryLookup::prefetch(sids);
+        for (const auto& user : announced) {
+            std::string name = lookup.lookupAttrValueFromID(*user->SID, domain);
+            name += '\\';
+            name += lookup.lookupAttrValueFromID(*user->SID, account);
+            user->displayName = std::move(name);
+        }
     }
 }
 
@@ -57,9 +63,9 @@ void UserQuotaReader::append(std::vector<std::string>& texts) {
     if (std::all_of(texts.begin(), texts.end(), std::mem_fn(&std::string::empty)) &&
         ofNothing_.isOneTooMany())
         return;
-    users_.push_back(std::make_shared<UserQuotaData>(
-        fromDirectory ? std::string() : std::move(texts[userName]), std::move(texts[id]), userType_,
-        amount(texts[quota]), amount(texts[spaceUsed]), identity_));
+    users_.push_back(blocks_.make(fromDirectory ? std::string() : std::move(texts[userName]),
+                                  std::move(texts[id]), userType_, amount(texts[quota]),
+                                  amount(texts[spaceUsed]), identity_));
 }
 
 void UserQuotaReader::finish(const std::optional<XMLError>& error) {

@@ -3,6 +3,7 @@
 
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/UserQuotaData.h"
+#include "Quorvan/ViewModal/Replies/RowBlocks.h"
 #include "Quorvan/ViewModal/Replies/RowsOfNothing.h"
 #include "Quorvan/ViewModal/Replies/TextRowReader.h"
 
@@ -40,6 +41,7 @@ private:
     SharedText userType_{UserQuotaConstants::ObjectTypes::USERS};
     std::size_t before_; ///< how many rows there were
     RowsOfNothing ofNothing_;
+    RowBlocks<UserQuotaData> blocks_;
     TextRowReader rows_;
 };
 

@@ -2,6 +2,7 @@
 #include "Quorvan/ViewModal/Replies/XMLElement.h"
 
 #include "Common/Fatal.h"
+#include "Quorvan/ViewModal/Replies/ReplyPass.h"
 #include "Quorvan/ViewModal/Replies/XMLElementSearch.h"
 #include "Quorvan/ViewModal/Replies/XMLTree.h"
 
@@ -61,7 +62,7 @@ std::optional<XMLElement> XMLElement::firstChild(std::string_view name) const {
 XMLDocument::XMLDocument(const std::string& text)
     : tree_(std::make_unique<XMLTree>()) {
     TreeBuilder builder(*tree_);
-    error_ = XMLEventParser::parse(text, builder);
+    error_ = readReply(text, builder);
     builder.finish();
 }
 

@@ -2,7 +2,6 @@
 #include "Quorvan/ViewModal/Replies/XMLEventParser.h"
 
 #include <algorithm>
-#include <array>
 #include <climits>
 #include <cstddef>
 #include <exception>
@@ -10,6 +9,7 @@
 #include <memory>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
@@ -21,12 +21,12 @@ namespace {
 /// buckets: millions of names would be compared with each other, so they are counted.
 class ElementNames {
 public:
-    /// Counts a name and measures it.
-    std::string_view text(const xmlChar* name) {
+    /// Counts a name; measures it and looks it up when it was not seen lately.
+    ElementName known(const xmlChar* name) {
         const auto* begin = reinterpret_cast<const char*>(name);
-        std::string_view& recent = recent_[std::hash<const void*>()(name) % recent_.size()];
+        ElementName& recent = recent_[std::hash<const void*>()(name) % recent_.size()];
         if (recent.data() != begin) {
-            recent = begin;
+            recent = ElementName(begin);
             all_.insert(name);
         }
         return recent;
@@ -34,7 +34,9 @@ public:
     bool areTooMany() const { return all_.size() > XMLEventParser::mostNames; }
 
 private:
-    std::array<std::string_view, 256> recent_{};
+    /// As many as the bytes that libxml2 stores its first names in, one after the other: they get places of
+    /// their own.
+    std::vector<ElementName> recent_{1024, ElementName("")};
     std::unordered_set<const void*> all_;
 };
 
@@ -74,9 +76,9 @@ const char* text(const xmlChar* bytes) {
 
 void startElement(void* data, const xmlChar* name, const xmlChar** attributes) {
     Run& run = *static_cast<Run*>(data);
-    const std::string_view element = run.names.text(name);
+    const ElementName element = run.names.known(name);
     for (const xmlChar** each = attributes; each != nullptr && *each != nullptr; each += 2)
-        run.names.text(*each);
+        run.names.known(*each);
     if (run.names.areTooMany())
         return refuse(run, "the document has too many different names");
     forward(data, [&](XMLEventHandler& delegate) {
@@ -85,7 +87,7 @@ void startElement(void* data, const xmlChar* name, const xmlChar** attributes) {
 }
 
 void endElement(void* data, const xmlChar* name) {
-    const std::string_view element = static_cast<Run*>(data)->names.text(name);
+    const ElementName element = static_cast<Run*>(data)->names.known(name);
     forward(data, [&](XMLEventHandler& delegate) { delegate.didEndElement(element); });
 }
 
@@ -148,8 +150,6 @@ std::optional<XMLError> XMLEventParser::parse(const std::string& document, XMLEv
         return XMLError{XML_ERR_DOCUMENT_EMPTY, "the document is empty"};
     if (document.size() > INT_MAX)
         return XMLError{XML_ERR_DOCUMENT_END, "the document is too long"};
-    if (document.find('\0') != std::string::npos)
-        return XMLError{XML_ERR_INVALID_CHAR, "the document holds a NUL"};
     if (hasHugeTag(document))
         return XMLError{XML_ERR_ATTRIBUTE_NOT_FINISHED, "the document has a tag with too many attributes"};
     const std::unique_ptr<xmlParserCtxt, decltype(&freeContext)> context(xmlNewParserCtxt(), &freeContext);
@@ -158,6 +158,9 @@ std::optional<XMLError> XMLEventParser::parse(const std::string& document, XMLEv
         context ? xmlNewStringInputStream(context.get(), bytes) : nullptr; // no copy
     if (input == nullptr || inputPush(context.get(), input) < 0)
         return XMLError{XML_ERR_NO_MEMORY, "out of memory"};
+    if (static_cast<std::size_t>(input->end - input->base) !=
+        document.size()) // libxml2 measured it as a C string
+        return XMLError{XML_ERR_INVALID_CHAR, "the document holds a NUL"};
 
     // The first version of the SAX interface: faster, and names come as they are written. Callbacks
     // that are not set here (entities and DTDs above all) do nothing.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Quorvan/ViewModal/Replies/ReplyTags.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -63,7 +65,11 @@ private:
 
 /// Whether a text is nothing but the whitespace that sets elements apart.
 inline bool isXMLWhitespace(std::string_view text) {
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    for (const char c : text) { // faster than a search in the set: most texts end it with their first letter
+        if (c != ' ' && c != '\t' && c != '\r' && c != '\n')
+            return false;
+    }
+    return true;
 }
 
 /// Ends the part of a text that lies between two tags. Nothing but whitespace only sets elements apart and is
@@ -78,8 +84,8 @@ inline void endTextPart(std::string& text, std::size_t& begin) {
 class XMLEventHandler {
 public:
     virtual ~XMLEventHandler() = default;
-    virtual void didStartElement(std::string_view name, XMLAttributes attributes) = 0;
-    virtual void didEndElement(std::string_view name) = 0;
+    virtual void didStartElement(ElementName name, XMLAttributes attributes) = 0;
+    virtual void didEndElement(ElementName name) = 0;
     /// Part of the text between two tags, cut where the parser happens to cut it.
     virtual void foundCharacters(std::string_view text) = 0;
 };

@@ -18,7 +18,7 @@ void close(ReplyEntries& entries, const std::shared_ptr<ReplyEntry>& entry, std:
 } // namespace
 
 EntryText::EntryText(std::string_view text, std::pmr::memory_resource& memory) {
-    const std::size_t size = text.size();
+    const auto size = static_cast<std::uint32_t>(text.size()); // a reply fits into an int
     auto* copy = static_cast<char*>(memory.allocate(sizeof size + size, 1));
     std::memcpy(copy, &size, sizeof size);
     std::memcpy(copy + sizeof size, text.data(), size);
@@ -47,10 +47,10 @@ std::shared_ptr<ReplyEntry> XMLResponseParser::makeEntry() {
     return {storage_, &storage_->entries.emplace_back()};
 }
 
-void XMLResponseParser::didStartElement(std::string_view name, XMLAttributes attributes) {
+void XMLResponseParser::didStartElement(ElementName name, XMLAttributes attributes) {
     result.didStartElement(name, attributes);
     currentElement = name;
-    const ReplyTag& tag = ReplyTag::named(name);
+    const ReplyTag& tag = name.tag();
     if (tag.kind == ReplyTag::Kind::result) {
         if (const auto value = attributes.value("value"))
             resValue = *value;
@@ -88,9 +88,9 @@ void XMLResponseParser::foundCharacters(std::string_view text) {
         textInProgress += text;
 }
 
-void XMLResponseParser::didEndElement(std::string_view name) {
+void XMLResponseParser::didEndElement(ElementName name) {
     result.didEndElement(name);
-    const ReplyTag& tag = ReplyTag::named(name);
+    const ReplyTag& tag = name.tag();
     switch (tag.kind) {
     case ReplyTag::Kind::addTrustee:
         nAddFailed += resValue != "0" ? 1 : 0;

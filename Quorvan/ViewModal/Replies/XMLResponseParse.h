@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "Common/LargePages.h"
 #include "Quorvan/ViewModal/Replies/ReplyTags.h"
 #include "Quorvan/ViewModal/Replies/XMLElementSearch.h"
 #include "Quorvan/ViewModal/Replies/XMLEventParser.h"
@@ -29,7 +30,7 @@ public:
     bool has_value() const { return begin_ != nullptr; }
     explicit operator bool() const { return has_value(); }
     std::string_view operator*() const {
-        std::size_t size = 0;
+        std::uint32_t size = 0;
         std::memcpy(&size, begin_, sizeof size);
         return {begin_ + sizeof size, size};
     }
@@ -97,8 +98,8 @@ public:
     /// error stops the events early; what was gathered until then is returned.
     const ReplyEntries& getdictionaryfromXMLData(const std::string& reply);
 
-    void didStartElement(std::string_view name, XMLAttributes attributes) override;
-    void didEndElement(std::string_view name) override;
+    void didStartElement(ElementName name, XMLAttributes attributes) override;
+    void didEndElement(ElementName name) override;
     void foundCharacters(std::string_view text) override;
 
     XMLEventParser parser;
@@ -120,10 +121,22 @@ public:
     ResultElement result;
 
 private:
+    class LargePages final : public std::pmr::memory_resource {
+        void* do_allocate(std::size_t size, std::size_t alignment) override {
+            void* const memory = std::pmr::new_delete_resource()->allocate(size, alignment);
+            preferLargePages(memory, size);
+            return memory;
+        }
+        void do_deallocate(void* memory, std::size_t size, std::size_t alignment) override {
+            std::pmr::new_delete_resource()->deallocate(memory, size, alignment);
+        }
+        bool do_is_equal(const memory_resource& other) const noexcept override { return this == &other; }
+    };
     /// Everything that a reply's entries consist of. They live and die together, so it is taken in large
     /// pieces and given back at once; every entry shares its ownership.
     struct Storage {
-        std::pmr::monotonic_buffer_resource memory;
+        LargePages pages;
+        std::pmr::monotonic_buffer_resource memory{&pages};
         std::pmr::deque<ReplyEntry> entries{&memory};
     };
     std::shared_ptr<ReplyEntry> makeEntry();

@@ -38,7 +38,7 @@ struct XMLTree {
 };
 
 /// Builds a tree out of events.
-class TreeBuilder final : public XMLEventHandler {
+class TreeBuilder {
 public:
     explicit TreeBuilder(XMLTree& tree)
         : tree_(tree) {}
@@ -54,20 +54,20 @@ public:
         textMayGrow_ = false;
     }
 
-    void didStartElement(std::string_view name, XMLAttributes attributes) override {
+    void didStartElement(std::string_view name, XMLAttributes attributes) {
         endText();
         open_.push_back(addNode(name, false));
         for (const XMLAttribute attribute : attributes)
             tree_.attributes.push_back({store(attribute.name), store(attribute.value)});
     }
 
-    void didEndElement(std::string_view) override {
+    void didEndElement(std::string_view) {
         endText();
         tree_.nodes[open_.back()].end = size(tree_.nodes);
         open_.pop_back();
     }
 
-    void foundCharacters(std::string_view text) override {
+    void foundCharacters(std::string_view text) {
         if (textMayGrow_)
             tree_.nodes.back().piece.length += store(text).length;
         else

@@ -52,7 +52,7 @@ std::string removeElement(std::string_view identityType, const std::string& id, 
 std::string changeElement(const Trustees& trustee, const std::string& path, const std::string& identityType) {
     const bool ownType =
         trustee.domainType == identityActiveDirectory || trustee.domainType == identityMorvane;
-    const std::string& type = ownType ? trustee.domainType : identityType;
+    const std::string& type = ownType ? trustee.domainType.str() : identityType;
     if (trustee.status == TrusteeInfo::ADD)
         return addElement(type, trustee.trusteeID, trustee.rights, path);
     if (trustee.status == TrusteeInfo::REMOVE)
