@@ -128,14 +128,15 @@ std::vector<const Identity*> Identities::findByPartOfName(std::string_view part)
 std::vector<const Identity*> withAllGroups(const Identity& identity) {
     std::vector<const Identity*> reached{&identity};
     std::unordered_set<const Identity*> seen{&identity};
+    for (const Identity* above = identity.container; above != nullptr; above = above->container) {
+        seen.insert(above);
+        reached.push_back(above);
+    }
     for (std::size_t next = 0; next < reached.size(); ++next) {
-        const Identity& each = *reached[next];
-        for (const Identity* group : each.groups) {
+        for (const Identity* group : reached[next]->groups) {
             if (seen.insert(group).second)
                 reached.push_back(group);
         }
-        if (each.container != nullptr && seen.insert(each.container).second)
-            reached.push_back(each.container);
     }
     return reached;
 }

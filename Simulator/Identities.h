@@ -89,7 +89,7 @@ private:
     mutable NameIndex names_;
 };
 
-/// The identity and everything that its rights come from: its groups and container, theirs and so on,
+/// The identity and everything that its rights come from: the containers above it, its groups and theirs,
 /// each once.
 std::vector<const Identity*> withAllGroups(const Identity& identity);
 

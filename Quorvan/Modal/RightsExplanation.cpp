@@ -65,4 +65,23 @@ RightsExplanation explainRights(const std::vector<FolderOnWay>& way,
     return explanation;
 }
 
+std::vector<StoppedRight> stoppedRights(const std::vector<FolderOnWay>& way, const std::string& id,
+                                        std::size_t folder) {
+    std::vector<StoppedRight> stopped;
+    std::uint16_t onTheirWay = 0;
+    for (const RightTag& tag : rightTags)
+        onTheirWay |= tag.bit;
+    onTheirWay &= static_cast<std::uint16_t>(~KelpRights::supervisor);
+    for (std::size_t below = folder + 1; below < way.size(); ++below) {
+        for (const RightTag& tag : rightTags)
+            if ((onTheirWay & ~way[below].filter & tag.bit) != 0)
+                stopped.push_back({tag.bit, below});
+        onTheirWay &= way[below].filter;
+        if (std::ranges::find(way[below].assignments, id, &FolderOnWay::Assignment::id) !=
+            way[below].assignments.end())
+            break; // an assignment there takes the place of what comes from above
+    }
+    return stopped;
+}
+
 } // namespace quorvan

@@ -20,6 +20,7 @@ struct FolderOnWay {
     std::vector<Assignment> assignments;
     std::uint16_t filter = 0xFFFF; ///< what it lets through of what comes from above
     bool isVisible = true;         ///< false: it could not be read
+    bool isBehindLink = false;     ///< … because a link leads from here or above to another place
 };
 
 /// Somebody whose assignments count for an identity: itself, and its groups and containers.
@@ -60,5 +61,15 @@ struct RightsExplanation {
 /// the holders' rights add up. What lies above a folder that could not be read is left out.
 RightsExplanation explainRights(const std::vector<FolderOnWay>& way,
                                 const std::vector<RightsHolder>& holders);
+
+/// A right that does not arrive at the path.
+struct StoppedRight {
+    std::uint16_t right;
+    std::size_t folder; ///< whose filter stops it
+};
+
+/// Which rights the filters below `folder` would stop if they were granted there to the holder `id`.
+std::vector<StoppedRight> stoppedRights(const std::vector<FolderOnWay>& way, const std::string& id,
+                                        std::size_t folder);
 
 } // namespace quorvan

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace quorvan {
@@ -28,9 +29,11 @@ std::vector<FolderOnWay> wayTo(std::size_t depth, const KelpServer& server) {
     return way;
 }
 
-/// An identity and all that it is a member of.
+/// An identity, the containers above it and all that it is a member of.
 std::vector<RightsHolder> holdersOf(const Identity& identity) {
     std::vector<RightsHolder> holders = {{identity.id, identity.name}};
+    for (const Identity* above = identity.container; above != nullptr; above = above->container)
+        holders.push_back({above->id, above->name});
     std::vector<const Identity*> all = {&identity};
     for (std::size_t at = 0; at < all.size(); ++at)
         for (const Identity* group : all[at]->groups)
@@ -54,13 +57,20 @@ TEST(RightsExplanation, IsWhatTheServerGrantsAndNamesWhatWouldChangeIt) {
     for (int tree = 0; tree < 2000; ++tree) {
         KelpServer server;
         server.addPath(paths.back());
-        std::vector<Identity*> identities = {&server.identities().addDomainUser("user", "S-1-0")};
+        const bool isOfTheTree = below(2) == 0;
+        auto& known = server.identities();
+        std::vector<Identity*> members = {isOfTheTree ? &known.addTreeUser("user", "Unit", "0")
+                                                      : &known.addDomainUser("user", "S-1-0")};
         for (const char* id : {"S-1-1", "S-1-2", "S-1-3"})
-            identities.push_back(&server.identities().addDomainGroup(id, id));
-        for (Identity* identity : identities)
-            for (std::size_t group = 1; group < identities.size(); ++group)
-                if (identities[group] != identity && below(3) == 0)
-                    identity->groups.push_back(identities[group]);
+            members.push_back(isOfTheTree ? &known.addTreeGroup(id, "Unit", id)
+                                          : &known.addDomainGroup(id, id));
+        for (Identity* member : members)
+            for (std::size_t group = 1; group < members.size(); ++group)
+                if (members[group] != member && below(3) == 0)
+                    member->groups.push_back(members[group]);
+        std::vector<const Identity*> identities(members.begin(), members.end());
+        for (const Identity* above = members[0]->container; above != nullptr; above = above->container)
+            identities.push_back(above);
         for (const std::string& path : paths) {
             for (const Identity* identity : identities)
                 if (below(3) == 0)
@@ -68,15 +78,25 @@ TEST(RightsExplanation, IsWhatTheServerGrantsAndNamesWhatWouldChangeIt) {
             if (below(2) == 0)
                 server.setFilter(path, someRights());
         }
+        for (const Identity* each : identities)
+            for (std::size_t depth = 0; depth < paths.size(); ++depth)
+                ASSERT_EQ(explainRights(wayTo(depth, server), holdersOf(*each)).rights,
+                          server.rightsOf(paths[depth], *each))
+                    << "tree " << tree;
         const Identity& who = *identities[below(2)];
         const std::size_t depth = below(5);
         const auto way = wayTo(depth, server);
         const auto holders = holdersOf(who);
         const RightsExplanation explained = explainRights(way, holders);
-        ASSERT_EQ(explained.rights, server.rightsOf(paths[depth], who)) << "tree " << tree;
 
         for (const RightExplanation& reason : explained.reasons) {
             EXPECT_EQ(reason.isHeld, (explained.rights & reason.right) != 0);
+            for (const Contribution& each : reason.contributions) {
+                const auto stopped = stoppedRights(way, holders[each.holder].id, each.folder);
+                const auto stop = std::ranges::find(stopped, reason.right, &StoppedRight::right);
+                ASSERT_EQ(stop != stopped.end(), each.end == Contribution::End::filtered) << "tree " << tree;
+                EXPECT_EQ(stop != stopped.end() ? stop->folder : each.endFolder, each.endFolder);
+            }
             if (!reason.isHeld)
                 continue;
             ++held;
