@@ -1286,7 +1286,7 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
   </message>
   <message id="Why_Window_Title">
     <source></source>
-    <translation>Warum: %1</translation>
+    <translation>Warum: %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1423,6 +1423,89 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>Die Liste ist unvollständig: Eine Antwort des Servers war nicht lesbar.</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <translation>%1, aufgehalten vom Filter von %2</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <translation>Aufgehaltene Rechte &amp;markieren</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>Die Filter der übergeordneten Ordner lesen und die Rechte markieren, die hier nicht ankommen</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>Kein Filter auf dem Weg hält eines dieser Rechte auf.</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <translation>Nicht lesbar; was der Filter dort aufhält, ist nicht markiert: %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <translation>E&amp;xportieren …</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <translation>Text (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <translation>Wenden Sie die Änderungen zuerst an oder setzen Sie sie zurück: beim Verlassen der Seite gingen sie verloren</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <translation>%1 auf %2</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <translation>; nichts hält es auf</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <translation>auf seinem Weg</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <translation>Was das ändern würde:</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <translation>%2 auf %3 %1 entziehen</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <translation>Und %2 auf %3 %1 entziehen</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <translation>%2 auch auf %3 %1 erteilen</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <translation>%1 im Filter von %2 durchlassen</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <translation>Wählen Sie oben ein Recht aus.</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <translation>Es müsste hier oder auf einem übergeordneten Ordner erteilt werden.</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <translation>&amp;Warum hat %1 hier diese Rechte?</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n Recht kommt hier nicht an: es ist unterstrichen, und sein Tipp nennt den Ordner, der es aufhält</numerusform>
+      <numerusform>%n Rechte kommen hier nicht an: sie sind unterstrichen, und ihre Tipps nennen die Ordner, die sie aufhalten</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

@@ -1466,7 +1466,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   <message id="Why_Window_Title">
     <source></source>
     <extracomment>%1 is the name of a user or group.</extracomment>
-    <translation>Why: %1</translation>
+    <translation>Why: %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1626,6 +1626,106 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>Not everything is listed: an answer of the server could not be read.</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <extracomment>Of a box of a right, as a tip and for a screen reader; %1 is what it says otherwise, %2 a path.</extracomment>
+    <translation>%1, stopped by the filter of %2</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <extracomment>A button: marks rights that a filter stops on their way.</extracomment>
+    <translation>Mark S&amp;topped Rights</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>Read the filters of the folders above and mark the rights that do not arrive here</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>No filter on the way stops any of these rights.</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <extracomment>%1 are one or more paths.</extracomment>
+    <translation>Could not be read, so that what its filter stops is not marked: %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <extracomment>A button: writes an explanation to a file.</extracomment>
+    <translation>E&amp;xport…</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <extracomment>A kind of files, as a file dialog lists it.</extracomment>
+    <translation>Text (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <extracomment>Why a button is grey.</extracomment>
+    <translation>Apply or revert the changes first: leaving the page would lose them</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <extracomment>%1 is a path, %2 the server to which a link has led.</extracomment>
+    <translation>%1 on %2</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <extracomment>At the end of a sentence about the Supervisor right.</extracomment>
+    <translation>; nothing stops it</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <extracomment>For a screen reader: a selected right passes through this folder.</extracomment>
+    <translation>on its way</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <extracomment>In front of assignments that a person would have to change.</extracomment>
+    <translation>What would change it:</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <extracomment>%1 is a right, %2 a name, %3 a path.</extracomment>
+    <translation>Take %1 from %2 on %3</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <extracomment>As Why_Take_Label, beside another one.</extracomment>
+    <translation>And take %1 from %2 on %3</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <extracomment>%1 is a right, %2 a name, %3 a path where another assignment takes the place of this right.</extracomment>
+    <translation>Grant %1 to %2 on %3, too</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <extracomment>%1 is a right, %2 a path.</extracomment>
+    <translation>Let %1 through the filter of %2</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <extracomment>Before a right is selected.</extracomment>
+    <translation>Select a right above.</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <extracomment>Of a right that nobody has granted.</extracomment>
+    <translation>It would have to be granted here or on a folder above.</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <extracomment>In the context menu of a table; %1 is a name.</extracomment>
+    <translation>&amp;Why Does %1 Have These Rights Here?</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n right does not arrive here: it is underlined, and its tip names the folder that stops it</numerusform>
+      <numerusform>%n rights do not arrive here: they are underlined, and their tips name the folders that stop them</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

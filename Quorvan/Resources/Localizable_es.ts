@@ -1286,7 +1286,7 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
   </message>
   <message id="Why_Window_Title">
     <source></source>
-    <translation>Por qué: %1</translation>
+    <translation>Por qué: %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1423,6 +1423,89 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>La lista está incompleta: no se pudo leer una respuesta del servidor.</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <translation>%1, detenido por el filtro de %2</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <translation>Marcar derechos de&amp;tenidos</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>Leer los filtros de las carpetas superiores y marcar los derechos que no llegan aquí</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>Ningún filtro del camino detiene estos derechos.</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <translation>No se pudo leer; lo que detiene su filtro no está marcado: %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <translation>E&amp;xportar…</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <translation>Texto (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <translation>Aplique o revierta antes los cambios: al salir de la página se perderían</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <translation>%1 en %2</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <translation>; nada lo detiene</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <translation>en su camino</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <translation>Qué lo cambiaría:</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <translation>Quitar %1 a %2 en %3</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <translation>Y quitar %1 a %2 en %3</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <translation>Conceder %1 a %2 también en %3</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <translation>Dejar pasar %1 en el filtro de %2</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <translation>Seleccione un derecho arriba.</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <translation>Habría que concederlo aquí o en una carpeta superior.</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <translation>&amp;Por qué %1 tiene estos derechos aquí</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n derecho no llega aquí: está subrayado y su ayuda nombra la carpeta que lo detiene</numerusform>
+      <numerusform>%n derechos no llegan aquí: están subrayados y sus ayudas nombran las carpetas que los detienen</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

@@ -1286,7 +1286,7 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
   </message>
   <message id="Why_Window_Title">
     <source></source>
-    <translation>Pourquoi : %1</translation>
+    <translation>Pourquoi : %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1423,6 +1423,89 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>La liste est incomplète : une réponse du serveur n’a pas pu être lue.</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <translation>%1, arrêté par le filtre de %2</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <translation>Marquer les droits arr&amp;êtés</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>Lire les filtres des dossiers supérieurs et marquer les droits qui n’arrivent pas ici</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>Aucun filtre sur le chemin n’arrête ces droits.</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <translation>Illisible ; ce que son filtre arrête n’est pas marqué : %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <translation>E&amp;xporter…</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <translation>Texte (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <translation>Appliquez ou annulez d’abord les modifications : quitter la page les perdrait</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <translation>%1 sur %2</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <translation> ; rien ne l’arrête</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <translation>sur son chemin</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <translation>Ce qui le changerait :</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <translation>Retirer %1 à %2 sur %3</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <translation>Et retirer %1 à %2 sur %3</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <translation>Accorder %1 à %2 aussi sur %3</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <translation>Laisser passer %1 dans le filtre de %2</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <translation>Sélectionnez un droit ci-dessus.</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <translation>Il devrait être accordé ici ou sur un dossier supérieur.</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <translation>&amp;Pourquoi %1 a-t-il ces droits ici ?</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n droit n’arrive pas ici : il est souligné, et son infobulle nomme le dossier qui l’arrête</numerusform>
+      <numerusform>%n droits n’arrivent pas ici : ils sont soulignés, et leurs infobulles nomment les dossiers qui les arrêtent</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

@@ -1281,7 +1281,7 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
   </message>
   <message id="Why_Window_Title">
     <source></source>
-    <translation>理由: %1</translation>
+    <translation>理由: %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1418,6 +1418,88 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>一覧は完全ではありません。サーバーの応答を読み取れませんでした。</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <translation>%1（%2 のフィルターで止められています）</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <translation>止められた権利を示す(&amp;T)</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>上位フォルダーのフィルターを読み、ここに届かない権利に印を付けます</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>途中のフィルターで止められている権利はありません。</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <translation>読み取れないため、フィルターが止める権利を示していません: %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <translation>書き出す(&amp;X)…</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <translation>テキスト (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <translation>先に変更を適用するか元に戻してください。ページを離れると失われます</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <translation>%2 の %1</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <translation>。止めるものはありません</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <translation>経路上</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <translation>これを変えるには:</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <translation>%3 で %2 から %1 を取り消す</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <translation>さらに %3 で %2 から %1 を取り消す</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <translation>%3 でも %2 に %1 を与える</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <translation>%2 のフィルターで %1 を通す</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <translation>上で権利を選んでください。</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <translation>ここか上位のフォルダーで与える必要があります。</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <translation>%1 にここでこの権利がある理由(&amp;W)</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n 個の権利がここに届きません。下線が引かれ、ヒントに止めているフォルダーが示されます</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

@@ -1291,7 +1291,7 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
   </message>
   <message id="Why_Window_Title">
     <source></source>
-    <translation>Dlaczego: %1</translation>
+    <translation>Dlaczego: %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1428,6 +1428,90 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>Lista jest niepełna: nie udało się odczytać odpowiedzi serwera.</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <translation>%1, zatrzymane przez filtr %2</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <translation>Oznacz zatr&amp;zymane prawa</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>Odczytaj filtry folderów nadrzędnych i oznacz prawa, które tu nie docierają</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>Żaden filtr po drodze nie zatrzymuje tych praw.</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <translation>Nie można odczytać; to, co zatrzymuje filtr, nie jest oznaczone: %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <translation>Wy&amp;eksportuj…</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <translation>Tekst (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <translation>Najpierw zastosuj lub wycofaj zmiany: opuszczenie strony by je utraciło</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <translation>%1 na %2</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <translation>; nic go nie zatrzymuje</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <translation>po drodze</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <translation>Co by to zmieniło:</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <translation>Odebrać %1: %2 na %3</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <translation>I odebrać %1: %2 na %3</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <translation>Nadać %1 także na %3: %2</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <translation>Przepuścić %1 w filtrze %2</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <translation>Wybierz prawo powyżej.</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <translation>Trzeba by je nadać tutaj lub na folderze nadrzędnym.</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <translation>&amp;Dlaczego %1 ma tu te prawa?</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n prawo tu nie dociera: jest podkreślone, a podpowiedź podaje folder, który je zatrzymuje</numerusform>
+      <numerusform>%n prawa tu nie docierają: są podkreślone, a podpowiedzi podają foldery, które je zatrzymują</numerusform>
+      <numerusform>%n praw tu nie dociera: są podkreślone, a podpowiedzi podają foldery, które je zatrzymują</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

@@ -1286,7 +1286,7 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
   </message>
   <message id="Why_Window_Title">
     <source></source>
-    <translation>Por quê: %1</translation>
+    <translation>Por quê: %1 – %2</translation>
   </message>
   <message id="Why_Served_Label">
     <source></source>
@@ -1423,6 +1423,89 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
   <message id="List_Partly_Unreadable_Label">
     <source></source>
     <translation>A lista está incompleta: não foi possível ler uma resposta do servidor.</translation>
+  </message>
+  <message id="Right_Stopped_Label">
+    <source></source>
+    <translation>%1, barrado pelo filtro de %2</translation>
+  </message>
+  <message id="Stopped_title">
+    <source></source>
+    <translation>Marcar direi&amp;tos barrados</translation>
+  </message>
+  <message id="Stopped_Tip_Label">
+    <source></source>
+    <translation>Ler os filtros das pastas acima e marcar os direitos que não chegam aqui</translation>
+  </message>
+  <message id="Stopped_None_Label">
+    <source></source>
+    <translation>Nenhum filtro no caminho barra estes direitos.</translation>
+  </message>
+  <message id="Stopped_Unread_Label">
+    <source></source>
+    <translation>Não foi possível ler; o que o filtro barra não está marcado: %1</translation>
+  </message>
+  <message id="Why_Export_title">
+    <source></source>
+    <translation>E&amp;xportar…</translation>
+  </message>
+  <message id="Why_Export_Filter_Label">
+    <source></source>
+    <translation>Texto (*.txt)</translation>
+  </message>
+  <message id="Why_Leave_Pending_Label">
+    <source></source>
+    <translation>Aplique ou reverta antes as alterações: sair da página as perderia</translation>
+  </message>
+  <message id="Why_On_Server_Label">
+    <source></source>
+    <translation>%1 em %2</translation>
+  </message>
+  <message id="Why_Unstoppable_Label">
+    <source></source>
+    <translation>; nada o barra</translation>
+  </message>
+  <message id="Why_On_Way_Label">
+    <source></source>
+    <translation>no seu caminho</translation>
+  </message>
+  <message id="Why_Change_Label">
+    <source></source>
+    <translation>O que mudaria isso:</translation>
+  </message>
+  <message id="Why_Take_Label">
+    <source></source>
+    <translation>Retirar %1 de %2 em %3</translation>
+  </message>
+  <message id="Why_Take_Also_Label">
+    <source></source>
+    <translation>E retirar %1 de %2 em %3</translation>
+  </message>
+  <message id="Why_Give_Label">
+    <source></source>
+    <translation>Conceder %1 a %2 também em %3</translation>
+  </message>
+  <message id="Why_Let_Through_Label">
+    <source></source>
+    <translation>Deixar passar %1 no filtro de %2</translation>
+  </message>
+  <message id="Why_Nothing_Chosen_Label">
+    <source></source>
+    <translation>Selecione um direito acima.</translation>
+  </message>
+  <message id="Why_Nothing_There_Label">
+    <source></source>
+    <translation>Seria preciso concedê-lo aqui ou em uma pasta acima.</translation>
+  </message>
+  <message id="Why_Named_title">
+    <source></source>
+    <translation>&amp;Por que %1 tem estes direitos aqui?</translation>
+  </message>
+  <message id="Stopped_Count_Label" numerus="yes">
+    <source></source>
+    <translation>
+      <numerusform>%n direito não chega aqui: está sublinhado, e sua dica nomeia a pasta que o barra</numerusform>
+      <numerusform>%n direitos não chegam aqui: estão sublinhados, e suas dicas nomeiam as pastas que os barram</numerusform>
+    </translation>
   </message>
 </context>
 </TS>

@@ -2,22 +2,20 @@
 #include "Quorvan/Toolkit/ListTable.h"
 
 #include "Quorvan/Toolkit/CheckBox.h"
+#include "Quorvan/Toolkit/Export.h"
 #include "Quorvan/Toolkit/ListModel.h"
-#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
 #include "Quorvan/Toolkit/TableText.h"
 #include "Quorvan/Toolkit/TextDelegate.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolTip>
@@ -166,7 +164,7 @@ void ListTable::keyPressEvent(QKeyEvent* event) {
 void ListTable::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
     menu.addAction(L("Copy_title"), QKeySequence(QKeySequence::Copy), this, [this] { copyRows(); });
-    menu.addAction(L("Export_title"), this, [this] { chooseExport(); });
+    menu.addAction(L("Export_title"), this, [this] { exportRows(); });
     addRowActions(menu);
     if (removeButton_ != nullptr) {
         menu.addSeparator();
@@ -182,22 +180,15 @@ void ListTable::copyRows() const {
     QGuiApplication::clipboard()->setText(asTabSeparatedText(tableCells(*list_, selectedRowIndexes())));
 }
 
-void ListTable::chooseExport() {
-    QFileDialog dialog(window(), plainL("Export_title"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("csv"));
-    dialog.setNameFilter(L("Export_Filter_Label"));
-    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
-        exportRows(dialog.selectedFiles().constFirst());
+void ListTable::exportRows() {
+    const QString file =
+        chooseExport(window(), plainL("Export_title"), QStringLiteral("csv"), L("Export_Filter_Label"));
+    if (!file.isEmpty())
+        exportRows(file);
 }
 
 void ListTable::exportRows(const QString& file) const {
-    QSaveFile out(file); // takes the place of what is there only when it is whole
-    const QByteArray text = asCsv(tableCells(*list_, selectedRowIndexes()));
-    if (out.open(QIODevice::WriteOnly) && out.write(text) == text.size() && out.commit())
-        NoticeLine::tell(NoticeLine::Kind::done, L("Exported_Label").arg(file));
-    else
-        NoticeLine::tell(NoticeLine::Kind::problem, L("Not_Exported_Label").arg(file, out.errorString()));
+    exportTo(file, asCsv(tableCells(*list_, selectedRowIndexes())));
 }
 
 /// Home and End move in the list, not in its row.

@@ -88,7 +88,7 @@ private:
     void headerClicked(int column);
     void rememberPlace();
     void copyRows() const;
-    void chooseExport();
+    void exportRows();
     bool showsInFull(const QModelIndex& index) const;
 
     ListModel* list_;

@@ -2,6 +2,7 @@
 #include "Quorvan/Toolkit/RightsCheckBoxDelegate.h"
 
 #include "Quorvan/Toolkit/CheckBox.h"
+#include "Quorvan/Toolkit/RightsTableModel.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -41,6 +42,13 @@ void paintBox(QPainter* painter, const QRect& area, const QStyleOptionViewItem& 
     styleOf(option.widget)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, option.widget);
 }
 
+/// A bar below the box: what is granted here comes no further.
+void paintStop(QPainter& painter, const QRect& box, const QStyleOptionViewItem& option) {
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const QRect bar(box.left() - margin / 2, box.bottom() + 2, box.width() + margin, 3);
+    painter.fillRect(bar, option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+}
+
 void paintFocusRing(QPainter* painter, const QRect& area, const QStyleOptionViewItem& option) {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
     painter->save();
@@ -69,6 +77,8 @@ void RightsCheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem
         paintBox(painter, box, option, ticked == Qt::Checked, pressed_ == index);
     else
         paintReadOnlyBox(*painter, box, option.palette, ticked);
+    if (index.data(RightsTableModel::stoppedRole).toBool())
+        paintStop(*painter, box, option);
     if (option.state.testFlag(QStyle::State_HasFocus))
         paintFocusRing(painter, boxArea(option.rect, option.widget), option);
 }

@@ -30,6 +30,9 @@ public:
     bool isSwitchedOn() const { return switchedOn_; }
 
     void setColumnHeader(int textColumn, const QString& header) { model_->setHeader(textColumn, header); }
+    void setStopped(std::unordered_map<std::string, StoppedRights> stopped) {
+        model_->setStopped(std::move(stopped));
+    }
     QModelIndex box(int row, const std::string& identifier) const;
 
 protected:

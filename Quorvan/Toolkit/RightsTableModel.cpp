@@ -95,11 +95,34 @@ QVariant RightsTableModel::rightData(const QModelIndex& index, int role) const {
     const bool ticked = (rows_->rights(index.row()) & right(index.column())->bit) != 0;
     if (role == Qt::CheckStateRole)
         return ticked ? Qt::Checked : Qt::Unchecked;
-    if (role == Qt::ToolTipRole)
-        return rightName(index.column());
+    const QString stop = ticked ? stoppedBy(index) : QString();
+    if (role == stoppedRole)
+        return !stop.isEmpty();
+    if (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole)
+        return {};
+    QString text = rightName(index.column());
     if (role == Qt::AccessibleTextRole)
-        return (ticked ? tickedText_ : untickedText_).arg(rightName(index.column()));
+        text = (ticked ? tickedText_ : untickedText_).arg(text);
+    if (!stop.isEmpty())
+        text = L("Right_Stopped_Label").arg(text, stop);
+    return role == Qt::ToolTipRole ? plainToolTip(text) : text;
+}
+
+QString RightsTableModel::stoppedBy(const QModelIndex& index) const {
+    if (stopped_.empty())
+        return {};
+    const auto row = stopped_.find(rows_->identity(index.row()));
+    if (row != stopped_.end())
+        for (const auto& [bit, path] : row->second)
+            if (bit == right(index.column())->bit)
+                return path;
     return {};
+}
+
+void RightsTableModel::setStopped(std::unordered_map<std::string, StoppedRights> stopped) {
+    stopped_ = std::move(stopped);
+    if (rowCount() > 0)
+        emit dataChanged(index(0, textColumnCount()), index(rowCount() - 1, columnCount() - 1));
 }
 
 QVariant RightsTableModel::headerData(int section, Qt::Orientation orientation, int role) const {

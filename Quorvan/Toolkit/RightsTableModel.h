@@ -12,6 +12,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace quorvan {
@@ -46,9 +48,15 @@ struct RightsCheckBox {
     std::uint16_t appliedTo(std::uint16_t mask) const;
 };
 
+/// What stops the rights of one row on their way down: the bits of rights, and the path that stops each.
+using StoppedRights = std::vector<std::pair<std::uint16_t, QString>>;
+
 /// Text columns and eight check-box columns over a row source.
 class RightsTableModel : public ListModel {
 public:
+    /// Whether the ticked box of a right carries the mark of one that is stopped.
+    static constexpr int stoppedRole = Qt::UserRole;
+
     using EnablingRule = std::function<bool(std::uint16_t bit)>;
     using ClickHandler = std::function<void(const RightsCheckBox&)>;
 
@@ -68,6 +76,8 @@ public:
     /// Whether the headers of the rights are their names or their letters.
     void showWords(bool words);
     const QString& rightName(int column) const;
+    /// Marks the rights that do not arrive, by the identities of the rows.
+    void setStopped(std::unordered_map<std::string, StoppedRights> stopped);
 
     std::string identity(int row) const override { return rows_->identity(row); }
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -83,10 +93,13 @@ protected:
 private:
     QVariant textData(const QModelIndex& index, int role) const;
     QVariant rightData(const QModelIndex& index, int role) const;
+    /// The path that stops a right; empty where none does.
+    QString stoppedBy(const QModelIndex& index) const;
 
     std::vector<RightsTextColumn> textColumns_;
     std::unique_ptr<RightsRowSource> rows_;
     std::array<QString, rightsColumns.size()> rightNames_;
+    std::unordered_map<std::string, StoppedRights> stopped_;
     bool showsWords_ = false;
     QString tickedText_;
     QString untickedText_;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Quorvan/Toolkit/ListModel.h"
+#include "Quorvan/Toolkit/PlainToolTip.h"
 #include "Quorvan/Toolkit/ShownText.h"
 
 #include <QFont>
@@ -52,6 +53,8 @@ public:
         const bool isMarked = !row.mark.isEmpty();
         if (role == Qt::DisplayRole)
             return isMarked && index.column() == 0 ? row.sign + QLatin1Char(' ') + text : text;
+        if (role == Qt::ToolTipRole && !text.isEmpty())
+            return plainToolTip(text); // which may have been too long for its column
         if (role == Qt::AccessibleTextRole && isMarked && index.column() == 0)
             return text + QLatin1String(", ") + row.mark;
         if (role == Qt::FontRole && isMarked) {

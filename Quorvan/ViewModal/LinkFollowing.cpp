@@ -17,10 +17,6 @@ bool succeeded(const std::string& status) {
     return status == "0" || status == "20407";
 }
 
-bool liesBelowLink(const std::string& status) {
-    return status == "20429" || status == "20008";
-}
-
 // Where a link leads goes into the requests to another server, with the user's password: it must not be able
 // to add anything to them.
 
@@ -46,6 +42,10 @@ std::vector<std::string> partsOf(const std::string& path) {
 }
 
 } // namespace
+
+bool liesBelowLink(const std::string& status) {
+    return status == "20429" || status == "20008";
+}
 
 std::int32_t LinkFollower::perform(const SelectionRequest& request) {
     ScopedPipe pipe(controller_, place_.server, request.pipe);

@@ -33,6 +33,9 @@ struct SelectionRequest {
     std::function<std::string(const std::string& path)> perform; ///< returns the status text
 };
 
+/// Whether the status of a request says that its path lies below a link.
+bool liesBelowLink(const std::string& status);
+
 /// Performs requests about a selection and follows the links that it lies below.
 class LinkFollower {
 public:

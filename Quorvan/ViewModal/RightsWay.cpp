@@ -6,6 +6,7 @@
 #include "Quorvan/Modal/DistinguishedName.h"
 #include "Quorvan/Modal/ParentPaths.h"
 #include "Quorvan/Modal/Utils.h"
+#include "Quorvan/ViewModal/LinkFollowing.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 
 #include <algorithm>
@@ -63,7 +64,7 @@ std::vector<FolderOnWay> readRightsWay(XMLReadWriteController& controller, const
         const std::string status = controller.initializeTrustees(folder, identityType, trustees, filter, own);
         if (controller.loss() != 0)
             break;
-        FolderOnWay step{folder, {}, filter.uright, status == "0"};
+        FolderOnWay step{folder, {}, filter.uright, status == "0", liesBelowLink(status)};
         for (const auto& trustee : trustees)
             step.assignments.push_back({trustee->trusteeID, trustee->rights});
         way.push_back(std::move(step));

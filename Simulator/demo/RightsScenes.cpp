@@ -3,6 +3,7 @@
 #include "Simulator/demo/Scenes.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QTabWidget>
 #include <QTreeView>
 
@@ -20,6 +21,7 @@ void openTab(Stage& stage, int tab) {
     stage.launch();
     stage.press("TrusteeRightsView");
     stage.find<QTabWidget>("tabView")->setCurrentIndex(tab);
+    QApplication::processEvents(); // before which a splitter shows nothing
 }
 
 /// Picks the row of a category in the identity browser that is open.
@@ -69,6 +71,12 @@ void showEffectiveRights(const Output& output) {
 }
 
 void showDirectoryTrustees(const Output& output) {
+    {
+        Stage stage(output, Embedded::demo(account::supervisor, "VOL1:\\Projects\\Aurora\\Drawings"));
+        openTab(stage, directoriesTab);
+        stage.press("stoppedBtn");
+        stage.photograph("105-stopped", "what a filter stops of the rights above");
+    }
     {
         Stage stage(output, Embedded::demo());
         openTab(stage, directoriesTab);

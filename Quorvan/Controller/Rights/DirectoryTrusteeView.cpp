@@ -2,6 +2,7 @@
 // The controls of the directory trustees tab and their layout.
 #include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
 
+#include "Quorvan/Controller/Rights/WhyViewController.h"
 #include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace quorvan {
@@ -49,6 +51,10 @@ void DirectoryTrusteeViewController::buildSides() {
             [this](std::uint16_t bit) { return bit == KelpRights::supervisor ? isSupervisor : canEdit(); });
         side.table->setClickHandler(
             [this, &side](const RightsCheckBox& sender) { onMouseClickCheckbox(side, sender); });
+        addWhyAction(*this, *this, *side.table, [&side](int row) {
+            const DirectoryRights& entry = side.edited[static_cast<std::size_t>(row)];
+            return WhyQuestion{{entry.trustee->trusteeID, entry.trustee->trusteeName}, entry.path};
+        });
         side.table->setSortHandler([this, &side] { sortDescriptorsDidChange(side); });
     };
     build(sub_);
@@ -63,6 +69,12 @@ void DirectoryTrusteeViewController::buildSides() {
     outlet(removeLabel2, "removeLabel2");
     outlet(removeBtnSub, "removeBtnSub")->setText(L("Remove_title"));
     outlet(removeBtnParent, "removeBtnParent")->setText(L("Remove_Parent_title"));
+    stoppedBtn = outlet(new QToolButton(this), "stoppedBtn");
+    stoppedBtn->setAutoRaise(true);
+    stoppedBtn->setFocusPolicy(Qt::TabFocus);
+    stoppedBtn->setText(L("Stopped_title"));
+    stoppedBtn->setToolTip(L("Stopped_Tip_Label"));
+    connect(stoppedBtn, &QToolButton::clicked, this, [this] { markStoppedRights(); });
     subdirTable->setRemoveButton(removeBtnSub);
     parentdirTable->setRemoveButton(removeBtnParent);
     connect(removeBtnSub, &QPushButton::clicked, this, [this] { removeTrusteeforSubdir(removeBtnSub); });
@@ -83,6 +95,8 @@ QWidget* DirectoryTrusteeViewController::panelOf(const Side& side) {
     buttons->addWidget(side.removeLabel);
     buttons->addWidget(side.removeBtn);
     buttons->addStretch();
+    if (&side == &parent_)
+        buttons->addWidget(stoppedBtn);
     auto* rows = new QVBoxLayout(panel);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addLayout(heading);
@@ -109,7 +123,7 @@ void DirectoryTrusteeViewController::layOutControls() {
     page->addWidget(tables, 1);
     page->addLayout(buttons);
     setTabOrders({currentPath, searchInSubField, subdirTable, removeBtnSub, searchInParentField,
-                  parentdirTable, removeBtnParent, pendingLine, revertbtn, applybtn});
+                  parentdirTable, removeBtnParent, stoppedBtn, pendingLine, revertbtn, applybtn});
 }
 
 } // namespace quorvan

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
 
+#include "Platform/Services.h"
 #include "Quorvan/Controller/Rights/RightsTabViewController.h"
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/ParentPaths.h"
 #include "Quorvan/Toolkit/ChangeButtons.h"
 #include "Quorvan/Toolkit/NameSort.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PathLabel.h"
+#include "Quorvan/Toolkit/ShownText.h"
+#include "Quorvan/ViewModal/RightsWay.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -144,6 +148,7 @@ void DirectoryTrusteeViewController::initSubDirTable() {
 void DirectoryTrusteeViewController::initParentDirTable() {
     const std::string root = volumeOfPath(selectedPath);
     parenttrusteeList.clear();
+    parentdirTable->setStopped({});
     initTable(root, parenttrusteeList, false);
     filterContentForSearchText(parenttrusteeList, getParentPaths(selectedPath));
     showLoaded(parent_);
@@ -157,6 +162,45 @@ void DirectoryTrusteeViewController::showAssignment(const std::string& id, const
                 side->table->setFocus();
                 return;
             }
+}
+
+void DirectoryTrusteeViewController::markStoppedRights() {
+    const platform::BusyScope busy(platform::services().busy);
+    auto pipe = openPipe(pipes::files);
+    if (!pipe)
+        return;
+    std::vector<FolderOnWay> way = readRightsWay(*xmlController, selectedPath, domainIdentity);
+    pipe.reset();
+    if (reportLoss())
+        return;
+    std::unordered_map<std::string, std::size_t> places;
+    QStringList unread;
+    for (std::size_t folder = 0; folder < way.size(); ++folder) {
+        places.emplace(way[folder].path, folder);
+        way[folder].assignments.clear(); // the rows hold those of both directories
+        if (!way[folder].isVisible)
+            unread.append(shownText(QString::fromStdString(way[folder].path)));
+    }
+    for (const DirectoryRights& row : parenttrusteeList)
+        if (const auto place = places.find(row.path); place != places.end())
+            way[place->second].assignments.push_back({row.trustee->trusteeID, row.trustee->rights});
+
+    std::unordered_map<std::string, StoppedRights> stopped;
+    int count = 0;
+    for (const DirectoryRights& row : parenttrusteeList)
+        if (const auto place = places.find(row.path); place != places.end())
+            for (const StoppedRight& each : stoppedRights(way, row.trustee->trusteeID, place->second)) {
+                stopped[ShowDirectoryRights::identity(row)].emplace_back(
+                    each.right, shownText(QString::fromStdString(way[each.folder].path)));
+                count += (row.trustee->rights & each.right) != 0 ? 1 : 0;
+            }
+    parentdirTable->setStopped(std::move(stopped));
+    if (unread.isEmpty())
+        NoticeLine::tell(NoticeLine::Kind::done,
+                         count == 0 ? L("Stopped_None_Label") : L("Stopped_Count_Label", count));
+    else
+        NoticeLine::tell(NoticeLine::Kind::problem,
+                         L("Stopped_Unread_Label").arg(unread.join(QStringLiteral(", "))));
 }
 
 void DirectoryTrusteeViewController::filterContentForSearchText(Rows& rows,

@@ -11,6 +11,7 @@
 
 class QLabel;
 class QPushButton;
+class QToolButton;
 
 namespace quorvan {
 
@@ -33,6 +34,7 @@ public:
     RightsTable* parentdirTable = nullptr;
     QPushButton* removeBtnSub = nullptr;
     QPushButton* removeBtnParent = nullptr;
+    QToolButton* stoppedBtn = nullptr; ///< marks what does not arrive of the rights above
     SearchField* searchInSubField = nullptr;
     SearchField* searchInParentField = nullptr;
     QLabel* readOnlyLabel = nullptr; ///< says why nothing can be changed, where that is so
@@ -80,6 +82,9 @@ public:
     void onSearchParentdir(SearchField* sender);
     void onRevertClick(QObject* sender);
     void onApplyClick(QObject* sender);
+    /// Reads the filters of the folders above and marks the rights that they stop, until the rows are read
+    /// anew.
+    void markStoppedRights();
     void onReturnMainMenu();
 
 private:

@@ -34,7 +34,7 @@ void EffectiveRightsViewController::buildTable() {
     effRightsTable->setSortHandler([this] { sortDescriptorsDidChange(); });
     addWhyAction(*this, *this, *effRightsTable, [this](int row) {
         const Trustees& trustee = *trusteeList[static_cast<std::size_t>(row)];
-        return RightsHolder{trustee.trusteeID, trustee.trusteeName};
+        return WhyQuestion{{trustee.trusteeID, trustee.trusteeName}, selectedPath};
     });
     connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });
 }
@@ -52,7 +52,7 @@ void EffectiveRightsViewController::buildChosenIdentity() {
     whyBtn->setEnabled(false);
     explainWhenGrey(*whyBtn, "Why_Nobody_Chosen_Label");
     connect(whyBtn, &QPushButton::clicked, this, [this] {
-        explainRightsOf(*this, *this, {chosenID_, userGroupField->text().toStdString()});
+        explainRights(*this, *this, {{chosenID_, userGroupField->text().toStdString()}, selectedPath});
     });
 
     effectiveBoxes = outlet(new RightsBoxes(4, this), "effectiveBoxes", L("Select_Effective_Trustee_Label"));

@@ -2,6 +2,7 @@
 // The controls of the file-system rights page and their layout.
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 
+#include "Quorvan/Controller/Rights/WhyViewController.h"
 #include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
@@ -70,6 +71,13 @@ void FileSystemRightsViewController::buildTable() {
     fsrTable->setEnablingRule(
         [this](std::uint16_t /*bit*/) { return isSupervisor && !selectedTrusteeID.empty(); });
     fsrTable->setClickHandler([this](const RightsCheckBox& sender) { onMouseClickCheckbox(sender); });
+    addWhyAction(*this, *this, *fsrTable, [this](int row) {
+        const std::string name =
+            SelectedTrusteeName.empty() ? namefield->text().toStdString() : SelectedTrusteeName;
+        return WhyQuestion{{selectedTrusteeID, name},
+                           editedfrightsList[static_cast<std::size_t>(row)]->fpath,
+                           !trackfrightsList.empty()};
+    });
     fsrTable->setSortHandler([this] { sortDescriptorsDidChange(); });
 }
 

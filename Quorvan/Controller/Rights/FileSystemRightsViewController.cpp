@@ -189,6 +189,7 @@ void FileSystemRightsViewController::prepare(const Segue& segue) {
         groups.SelectedTrusteeName = SelectedTrusteeName;
         groups.domainIdentity = domainIdentity;
         groups.whose = namefield->text();
+        groups.changesWait = !trackfrightsList.empty();
     }
 }
 

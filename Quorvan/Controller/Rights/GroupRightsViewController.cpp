@@ -2,6 +2,7 @@
 #include "Quorvan/Controller/Rights/GroupRightsViewController.h"
 
 #include "Common/Log.h"
+#include "Quorvan/Controller/Rights/WhyViewController.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/DistinguishedName.h"
 #include "Quorvan/Modal/Utils.h"
@@ -56,6 +57,10 @@ void GroupRightsViewController::loadView() {
         outlet(new RightsTable({{"group", L("Col_Group")}, {"path", L("Col_Path"), Qt::ElideLeft}},
                                std::make_unique<GroupRows>(*this), this),
                "groupRightsTable", plainL("Group_Rights_Title"));
+    addWhyAction(*this, *this, *groupRightsTable, [this](int row) {
+        const GroupRow& entry = grpTrusteeList[static_cast<std::size_t>(row)];
+        return WhyQuestion{entry.group, entry.path, changesWait};
+    });
     searchField = outlet(new SearchField(groupRightsTable, this), "searchField");
     closeBtn = outlet(new QPushButton(this), "closeBtn");
     closeBtn->setDefault(true);
@@ -175,15 +180,19 @@ void GroupRightsViewController::initEffRightsTable(const std::vector<std::string
 void GroupRightsViewController::addToDataSource(const std::vector<IdentityFileRights>& arr) {
     const DirectoryLookup directory;
     for (const auto& [id, rights] : arr) {
+        GroupRow row{{}, rights.fpath, rights.frights, {id, {}}};
         if (domainIdentity == identityActiveDirectory) {
-            grpTrusteeList.push_back({directory.lookupAttrValueFromID(id, kODAttributeTypeRecordName),
-                                      rights.fpath, rights.frights});
+            row.groupName = row.group.name = directory.lookupAttrValueFromID(id, kODAttributeTypeRecordName);
         } else if (domainIdentity == identityMorvane) {
             const auto group =
                 std::ranges::find_if(grouplist, [&id = id](const Group& known) { return known.id == id; });
-            grpTrusteeList.push_back({group == grouplist.end() ? std::string("Unknown") : group->DN,
-                                      rights.fpath, rights.frights});
+            const bool isKnown = group != grouplist.end();
+            row.groupName = isKnown ? group->DN : std::string("Unknown");
+            row.group.name = isKnown ? group->groupName : row.groupName;
+        } else {
+            continue;
         }
+        grpTrusteeList.push_back(std::move(row));
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Quorvan/Controller/Selection/SelectionContext.h"
+#include "Quorvan/Modal/RightsExplanation.h"
 #include "Quorvan/Modal/Users.h"
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/RightsTable.h"
@@ -28,12 +29,14 @@ public:
     std::string trusteeID;
     std::string SelectedTrusteeName; ///< the user's name in the tree
     QString whose;                   ///< the user's name as it is shown
+    bool changesWait = false;        ///< on the page
 
     /// What a group holds on a path.
     struct GroupRow {
         std::string groupName;
         std::string path;
         std::uint16_t rights = 0;
+        RightsHolder group;
     };
 
     std::vector<std::string> grpIDs;

@@ -33,7 +33,7 @@ void RightsTabViewController::buildControls() {
     rightsTable = outlet(table, "rightsTable", plainL("Rights_Label_Title"));
     addWhyAction(*this, *this, *rightsTable, [this](int row) {
         const Trustees& trustee = *editedTrusteeList[static_cast<std::size_t>(row)];
-        return RightsHolder{trustee.trusteeID, trustee.trusteeName};
+        return WhyQuestion{{trustee.trusteeID, trustee.trusteeName}, selectedPath};
     });
     addRemoveLabel = outlet(new QLabel(this), "addRemoveLabel");
     addBtn = outlet(new QPushButton(L("Add_title"), this), "addBtn");

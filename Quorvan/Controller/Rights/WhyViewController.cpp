@@ -2,9 +2,12 @@
 #include "Quorvan/Controller/Rights/WhyViewController.h"
 
 #include "Common/Fatal.h"
+#include "Platform/Services.h"
 #include "Quorvan/Controller/Rights/DirectoryTrusteeViewController.h"
+#include "Quorvan/Controller/Rights/TrusteeRightsTabView.h"
 #include "Quorvan/Controller/Rights/ViewTabController.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/Export.h"
 #include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -25,6 +28,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quorvan {
@@ -46,7 +50,6 @@ bool isOfActiveDirectory(const std::string& id) {
 void WhyViewController::loadView() {
     using Kind = ColumnWidths::Kind;
     pathLabel = outlet(new PathLabel(this), "pathLabel", L("Managed_Path_Label"));
-    auto* servedLabel = new QLabel(L("Why_Served_Label"), this);
     answerBoxes = outlet(new RightsBoxes(4, this), "answerBoxes", L("Why_Served_Label"));
     answerBoxes->setEnabled(false); // for reading
     differenceLabel = outlet(new QLabel(this), "differenceLabel");
@@ -57,7 +60,6 @@ void WhyViewController::loadView() {
     reasonTable = outlet(new ListTable(reasonRows_, this, {Kind::amount, Kind::amount}), "reasonTable",
                          L("Why_Reason_Label"));
     reasonTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    auto* wayLabel = new QLabel(L("Why_Way_Label"), this);
     wayRows_ = new TextListModel({L("Col_Path"), L("Why_Granted_Label"), L("Why_Passes_Label")});
     wayTable = outlet(new ListTable(wayRows_, this), "wayTable", L("Why_Way_Label"));
     noteLabel = outlet(new QLabel(this), "noteLabel");
@@ -66,45 +68,83 @@ void WhyViewController::loadView() {
         text->setTextFormat(Qt::PlainText);
         text->hide();
     }
-    goToBtn = outlet(new QPushButton(L("Why_Go_To_title"), this), "goToBtn");
-    goToBtn->setToolTip(L("Why_Go_To_Tip_Label"));
-    goToBtn->setEnabled(false);
-    explainWhenGrey(*goToBtn, "Why_No_Assignment_Label");
+    buildChanges();
     copyBtn = outlet(new QPushButton(L("Why_Copy_title"), this), "copyBtn");
     copyBtn->setToolTip(L("Why_Copy_Tip_Label"));
+    exportBtn = outlet(new QPushButton(L("Why_Export_title"), this), "exportBtn");
     closeBtn = outlet(new QPushButton(L("Close_title"), this), "closeBtn");
     closeBtn->setDefault(true);
-    connect(goToBtn, &QPushButton::clicked, this, [this] { goToAssignment(); });
     connect(copyBtn, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(asText()); });
+    connect(exportBtn, &QPushButton::clicked, this, [this] {
+        const QString file = chooseExport(window(), plainL("Why_Export_title"), QStringLiteral("txt"),
+                                          L("Why_Export_Filter_Label"));
+        if (!file.isEmpty())
+            exportText(file);
+    });
     connect(closeBtn, &QPushButton::clicked, this, [this] { endSheet(); });
-    connect(reasonTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this] { showWay(); });
+    connect(reasonTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        showWay();
+        showChanges();
+    });
+    layOutControls();
+}
 
+void WhyViewController::buildChanges() {
+    for (std::size_t at = 0; at < changes.size(); ++at) {
+        Change& change = changes[at];
+        const std::string number = at == 0 ? "" : std::to_string(at + 1);
+        change.line = new QWidget(this);
+        change.text = outlet(new QLabel(change.line), ("changeLabel" + number).c_str());
+        change.text->setWordWrap(true);
+        change.text->setTextFormat(Qt::PlainText);
+        const QString title = at == 0 ? L("Why_Go_To_title") : plainL("Why_Go_To_title");
+        change.goToBtn = outlet(new QPushButton(title, change.line), ("goToBtn" + number).c_str());
+        change.goToBtn->setToolTip(L("Why_Go_To_Tip_Label"));
+        explainWhenGrey(*change.goToBtn, [this] {
+            return changesWait ? "Why_Leave_Pending_Label" : "Why_No_Assignment_Label";
+        });
+        connect(change.goToBtn, &QPushButton::clicked, this, [this, at] { goTo(touches_[at]); });
+        auto* line = new QHBoxLayout(change.line);
+        line->setContentsMargins(0, 0, 0, 0);
+        line->addWidget(change.text, 1);
+        line->addWidget(change.goToBtn);
+    }
+    moreLabel = outlet(new QLabel(this), "moreLabel");
+}
+
+void WhyViewController::layOutControls() {
     auto* buttons = new QHBoxLayout;
-    for (QPushButton* button : {goToBtn, copyBtn})
+    for (QPushButton* button : {copyBtn, exportBtn})
         buttons->addWidget(button);
     buttons->addStretch();
     buttons->addWidget(closeBtn);
     auto* page = new QVBoxLayout(this);
-    for (QWidget* widget : {static_cast<QWidget*>(pathLabel), static_cast<QWidget*>(servedLabel),
-                            static_cast<QWidget*>(answerBoxes), static_cast<QWidget*>(differenceLabel)})
-        page->addWidget(widget);
+    page->addWidget(pathLabel);
+    page->addWidget(new QLabel(L("Why_Served_Label"), this));
+    page->addWidget(answerBoxes);
+    page->addWidget(differenceLabel);
     page->addWidget(reasonTable, 3);
-    page->addWidget(wayLabel);
+    page->addWidget(new QLabel(L("Why_Way_Label"), this));
     page->addWidget(wayTable, 2);
     page->addWidget(noteLabel);
+    page->addWidget(new QLabel(L("Why_Change_Label"), this));
+    for (const Change& change : changes)
+        page->addWidget(change.line);
+    page->addWidget(moreLabel);
     page->addLayout(buttons);
-    setTabOrders({pathLabel, reasonTable, wayTable, goToBtn, copyBtn, closeBtn});
+    setTabOrders({pathLabel, reasonTable, wayTable, changes[0].goToBtn, changes[1].goToBtn,
+                  changes[2].goToBtn, copyBtn, exportBtn, closeBtn});
 }
 
 void WhyViewController::viewDidLoad() {
-    setWindowTitle(L("Why_Window_Title").arg(shown(who.name)));
+    setWindowTitle(L("Why_Window_Title").arg(shown(who.name), shown(selectedPath)));
     pathLabel->setPath(QString::fromStdString(selectedPath));
+    showChanges();
 }
 
 QSize WhyViewController::sizeHint() const {
-    return {115 * fontMetrics().averageCharWidth(), 36 * fontMetrics().lineSpacing()};
+    return {150 * fontMetrics().averageCharWidth(), 42 * fontMetrics().lineSpacing()};
 }
 
 void WhyViewController::viewWillAppear() {
@@ -122,16 +162,12 @@ void WhyViewController::viewDidAppear() {
     reasonTable->setFocus();
 }
 
-/// False when something failed, which the user has been told.
+/// False when something failed, which the user has been told. All of it is one wait.
 bool WhyViewController::read() {
-    auto pipe = openPipe(pipes::files);
-    if (!pipe)
+    const platform::BusyScope busy(platform::services().busy);
+    if (!readWay())
         return false;
-    way_ = readRightsWay(*xmlController, selectedPath, domainIdentity);
-    if (xmlController->loss() == 0)
-        xmlController->getEffectiveRightsforUserOnPath(selectedPath, who.id, served_, domainIdentity);
-    pipe.reset();
-    if (reportLoss())
+    if (std::ranges::any_of(way_, &FolderOnWay::isBehindLink) && (!followLinks() || !readWay()))
         return false;
     if (domainIdentity == identityActiveDirectory) {
         holders_ = holdersOfActiveDirectory(who);
@@ -143,6 +179,31 @@ bool WhyViewController::read() {
     holders_ = holdersOfTheTree(*xmlController, who);
     tree.reset();
     return !reportLoss();
+}
+
+/// The way, and what the server itself says of its end.
+bool WhyViewController::readWay() {
+    auto pipe = openPipe(pipes::files);
+    if (!pipe)
+        return false;
+    way_ = readRightsWay(*xmlController, selectedPath, domainIdentity);
+    if (xmlController->loss() == 0)
+        xmlController->getEffectiveRightsforUserOnPath(selectedPath, who.id, served_, domainIdentity);
+    pipe.reset();
+    return !reportLoss();
+}
+
+/// Moves to where the links lead that the path lies below, as every operation on a selection does.
+bool WhyViewController::followLinks() {
+    TrusteeList trustees;
+    Rights filter;
+    Rights own;
+    const std::int32_t status = renewController().initializeTrusteesHandleDFS(
+        serverIP, trustees, selectedPath, filter, own, mappedPath, domainIdentity);
+    if (status != 0)
+        reportFailed(status);
+    server_ = shown(serverIP);
+    return status == 0;
 }
 
 void WhyViewController::show() {
@@ -182,7 +243,8 @@ void WhyViewController::addReasons(const RightExplanation& explained) {
         reasons_.push_back({explained.right, contribution});
     };
     for (const Contribution& contribution : explained.contributions)
-        addRow(contribution.end == Contribution::End::none, sentence(contribution), contribution);
+        addRow(contribution.end == Contribution::End::none, sentence(contribution, explained.right),
+               contribution);
     const bool isHeldItself = std::ranges::any_of(explained.contributions, [](const Contribution& each) {
         return each.end == Contribution::End::none;
     });
@@ -197,14 +259,24 @@ QString WhyViewController::holderOf(const Contribution& contribution) const {
     return shown(holders_[contribution.holder].name);
 }
 
-QString WhyViewController::sentence(const Contribution& contribution) const {
+/// A folder of the way, with its server where a link has led there.
+QString WhyViewController::pathOf(std::size_t folder) const {
+    const QString path = shown(way_[folder].path);
+    return server_.isEmpty() ? path : L("Why_On_Server_Label").arg(path, server_);
+}
+
+QString WhyViewController::sentence(const Contribution& contribution, std::uint16_t right) const {
     const QString granted = L(contribution.holder == 0 ? "Why_Granted_Self_Label" : "Why_Granted_Group_Label")
-                                .arg(holderOf(contribution), shown(way_[contribution.folder].path));
-    if (contribution.end == Contribution::End::none)
-        return granted;
-    return granted +
-           L(contribution.end == Contribution::End::filtered ? "Why_Filtered_Label" : "Why_Replaced_Label")
-               .arg(shown(way_[contribution.endFolder].path));
+                                .arg(holderOf(contribution), pathOf(contribution.folder));
+    switch (contribution.end) {
+    case Contribution::End::filtered:
+        return granted + L("Why_Filtered_Label").arg(pathOf(contribution.endFolder));
+    case Contribution::End::replaced:
+        return granted + L("Why_Replaced_Label").arg(pathOf(contribution.endFolder));
+    case Contribution::End::none:
+        break;
+    }
+    return right == KelpRights::supervisor ? granted + L("Why_Unstoppable_Label") : granted;
 }
 
 /// The server is right; where its answer does not follow from what can be seen, that is said.
@@ -224,24 +296,32 @@ const WhyViewController::Reason* WhyViewController::selectedReason() const {
     return selected.empty() ? nullptr : &reasons_[static_cast<std::size_t>(selected.front())];
 }
 
-/// Where the selected right is decided: what stops it, or else where it was granted.
-std::vector<std::size_t> WhyViewController::decidingFolders() const {
-    const Reason* reason = selectedReason();
-    std::vector<std::size_t> folders;
-    if (reason != nullptr && reason->contribution) {
-        const Contribution& chosen = *reason->contribution;
-        folders.push_back(chosen.end == Contribution::End::none ? chosen.folder : chosen.endFolder);
-    } else if (reason != nullptr) { // by the Supervisor right, or nowhere
-        for (const RightExplanation& each : explanation_.reasons)
-            for (const Contribution& contribution : each.contributions)
-                if (each.right == KelpRights::supervisor && contribution.end == Contribution::End::none)
-                    folders.push_back(contribution.folder);
-    }
-    return folders;
+/// What a row of reasonTable rests on: its own contribution, or those of the Supervisor right.
+std::vector<Contribution> WhyViewController::contributionsOf(const Reason& reason) const {
+    if (reason.contribution)
+        return {*reason.contribution};
+    std::vector<Contribution> found;
+    for (const RightExplanation& each : explanation_.reasons)
+        if (each.right == KelpRights::supervisor)
+            std::ranges::copy_if(each.contributions, std::back_inserter(found), [](const auto& contribution) {
+                return contribution.end == Contribution::End::none;
+            });
+    return found;
 }
 
+/// Marks the way that the selected right has come, and the step that decides: what stops it, or else where
+/// it was granted.
 void WhyViewController::showWay() {
-    const std::vector<std::size_t> deciding = decidingFolders();
+    enum class Part { none, passes, decides };
+    std::vector<Part> parts(way_.size(), Part::none);
+    if (const Reason* reason = selectedReason())
+        for (const Contribution& each : contributionsOf(*reason)) {
+            const bool isStopped = each.end != Contribution::End::none;
+            const std::size_t end = isStopped ? each.endFolder : way_.size() - 1;
+            for (std::size_t at = each.folder; at <= end; ++at)
+                parts[at] = std::max(parts[at], Part::passes);
+            parts[isStopped ? each.endFolder : each.folder] = Part::decides;
+        }
     std::vector<TextListModel::Row> rows;
     for (std::size_t at = 0; at < way_.size(); ++at) {
         const FolderOnWay& folder = way_[at];
@@ -254,31 +334,88 @@ void WhyViewController::showWay() {
         constexpr std::uint16_t allButSupervisor = 0x00FB;
         const bool passesAll = (folder.filter & allButSupervisor) == allButSupervisor;
         TextListModel::Row row{folder.path,
-                               {shown(folder.path), granted.join(QLatin1String("; ")),
+                               {pathOf(at), granted.join(QLatin1String("; ")),
                                 passesAll ? L("Why_Passes_All_Label") : rightsInWords(folder.filter)}};
         if (explanation_.lastInvisible && at <= *explanation_.lastInvisible)
-            row.cells = {shown(folder.path), L("Why_Not_Visible_Label"), L("Why_Not_Visible_Label")};
-        if (std::ranges::find(deciding, at) != deciding.end()) {
-            row.sign = QStringLiteral("\u25b6");
-            row.mark = L("Why_Decides_Label");
+            row.cells = {pathOf(at), L("Why_Not_Visible_Label"), L("Why_Not_Visible_Label")};
+        if (parts[at] != Part::none) {
+            const bool decides = parts[at] == Part::decides;
+            row.sign = decides ? QStringLiteral("\u25b6") : QStringLiteral("\u25b7");
+            row.mark = L(decides ? "Why_Decides_Label" : "Why_On_Way_Label");
         }
         rows.push_back(std::move(row));
     }
     wayRows_->setRows(std::move(rows));
     wayTable->reloadData();
-    const Reason* reason = selectedReason();
-    goToBtn->setEnabled(reason != nullptr && reason->contribution.has_value());
 }
 
-void WhyViewController::goToAssignment() {
+std::vector<WhyViewController::Touch> WhyViewController::touchesOf(const Reason& reason) const {
+    std::vector<Touch> touches;
+    const auto add = [&](const char* key, const Contribution& each, std::uint16_t right, std::size_t folder) {
+        touches.push_back(
+            {L(key).arg(rightsInWords(right), holderOf(each), pathOf(folder)), each.holder, folder});
+    };
+    const std::vector<Contribution> all = contributionsOf(reason);
+    for (const Contribution& each : all) {
+        const std::uint16_t right = reason.contribution ? reason.right : KelpRights::supervisor;
+        if (each.end == Contribution::End::none)
+            add("Why_Take_Label", each, right, each.folder);
+        else if (each.end == Contribution::End::replaced)
+            add("Why_Give_Label", each, right, each.endFolder);
+        else
+            touches.push_back({L("Why_Let_Through_Label").arg(rightsInWords(right), pathOf(each.endFolder)),
+                               each.holder, each.folder});
+    }
+    // A right that is held several times goes only with the last of its assignments.
+    if (reason.contribution && reason.contribution->end == Contribution::End::none)
+        for (const RightExplanation& explained : explanation_.reasons)
+            for (const Contribution& each : explained.contributions)
+                if (explained.right == reason.right && each.end == Contribution::End::none &&
+                    (each.holder != all.front().holder || each.folder != all.front().folder))
+                    add("Why_Take_Also_Label", each, reason.right, each.folder);
+    return touches;
+}
+
+void WhyViewController::showChanges() {
     const Reason* reason = selectedReason();
-    const ViewController* tab = presentingController();
-    auto* tabs = tab != nullptr ? dynamic_cast<ViewTabController*>(tab->parentController()) : nullptr;
-    if (reason == nullptr || !reason->contribution || tabs == nullptr)
-        return;
-    const std::string id = holders_[reason->contribution->holder].id;
-    const std::string path = way_[reason->contribution->folder].path;
+    touches_ = reason != nullptr ? touchesOf(*reason) : std::vector<Touch>();
+    for (std::size_t at = 0; at < changes.size(); ++at) {
+        const Change& change = changes[at];
+        const bool isThere = at < touches_.size();
+        change.line->setVisible(isThere || at == 0); // what stands there keeps its place
+        change.goToBtn->setEnabled(isThere && !changesWait);
+        change.text->setText(
+            isThere ? touches_[at].text
+                    : L(reason == nullptr ? "Why_Nothing_Chosen_Label" : "Why_Nothing_There_Label"));
+        change.goToBtn->setAccessibleDescription(change.text->text());
+    }
+    const int more = static_cast<int>(touches_.size()) - static_cast<int>(changes.size());
+    moreLabel->setText(more > 0 ? L("Pending_More_Label", more) : QString());
+    moreLabel->setVisible(more > 0);
+}
+
+/// Leads to the assignment's row, from a tab of the rights window to its neighbour, from another page to the
+/// rights window.
+void WhyViewController::goTo(const Touch& touch) {
+    const std::string id = holders_[touch.holder].id;
+    const std::string path = way_[touch.folder].path;
+    ViewController* view = presentingController();
     endSheet();
+    for (ViewController* below = view; below != nullptr && below->presentingController() != nullptr;) {
+        view = below->presentingController(); // the page, below a sheet
+        below->endSheet();
+        below = view;
+    }
+    if (view == nullptr)
+        return;
+    auto* tabs = dynamic_cast<ViewTabController*>(view->parentController());
+    if (tabs == nullptr) {
+        auto* page = new TrusteeRightsTabView;
+        view->replacePage(page, plainL("Trustee_Rights_Title"));
+        tabs = page->findChild<ViewTabController*>();
+    }
+    if (tabs == nullptr)
+        return; // the rights could not be read, which has led elsewhere
     tabs->tabView->setCurrentIndex(ViewTabController::trusteeDirTabLabel);
     auto* directories = dynamic_cast<DirectoryTrusteeViewController*>(
         tabs->childControllers()[ViewTabController::trusteeDirTabLabel]);
@@ -286,8 +423,17 @@ void WhyViewController::goToAssignment() {
         directories->showAssignment(id, path);
 }
 
+QString WhyViewController::changesAsText() const {
+    QStringList lines;
+    if (selectedReason() != nullptr && !touches_.empty())
+        lines.append(L("Why_Change_Label"));
+    for (const Touch& touch : touches_)
+        lines.append(touch.text);
+    return lines.join(QLatin1Char('\n'));
+}
+
 QString WhyViewController::asText() const {
-    QStringList lines = {windowTitle(), pathLabel->text(),
+    QStringList lines = {windowTitle(),
                          L("Why_Served_Label") + QLatin1Char(' ') + rightsInWords(served_.uright)};
     if (!differenceLabel->text().isEmpty())
         lines.append(differenceLabel->text());
@@ -296,34 +442,49 @@ QString WhyViewController::asText() const {
         for (const TextListModel::Row& row : table->rows())
             lines.append(row.cells.join(QStringLiteral(" \u2013 ")));
     }
-    if (!noteLabel->text().isEmpty())
-        lines += {QString(), noteLabel->text()};
+    for (const QString& more : {noteLabel->text(), changesAsText()})
+        if (!more.isEmpty())
+            lines += {QString(), more};
     return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
-void explainRightsOf(ViewController& tab, const SelectionContext& selection, const RightsHolder& who) {
+void WhyViewController::exportText(const QString& file) const {
+    exportTo(file, asText().toUtf8());
+}
+
+void explainRights(ViewController& view, const SelectionContext& selection, const WhyQuestion& question) {
     auto* sheet = dynamic_cast<WhyViewController*>(Storyboard::named("Main").instantiate("whyView"));
     require(sheet != nullptr, "The sheet of reasons is of another class");
     sheet->serverIP = selection.serverIP;
-    sheet->selectedPath = selection.selectedPath;
+    sheet->selectedPath = question.path;
     sheet->mappedPath = selection.mappedPath;
     sheet->domainIdentity =
-        std::string(isOfActiveDirectory(who.id) ? identityActiveDirectory : identityMorvane);
-    sheet->who = who;
-    tab.presentAsSheet(sheet);
+        std::string(isOfActiveDirectory(question.who.id) ? identityActiveDirectory : identityMorvane);
+    sheet->who = question.who;
+    sheet->changesWait = question.changesWait;
+    view.presentAsSheet(sheet);
 }
 
-void addWhyAction(ViewController& tab, const SelectionContext& selection, ListTable& table,
-                  std::function<RightsHolder(int row)> who) {
+void addWhyAction(ViewController& view, const SelectionContext& selection, ListTable& table,
+                  std::function<WhyQuestion(int row)> questionOf) {
     auto* action = new QAction(L("Why_title"), &table);
     action->setObjectName(QStringLiteral("whyAction"));
     action->setEnabled(false);
     table.addAction(action);
     QObject::connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, action,
-                     [action, &table] { action->setEnabled(table.selectedRowIndexes().size() == 1); });
-    QObject::connect(action, &QAction::triggered, &tab, [&tab, &selection, &table, who = std::move(who)] {
+                     [action, &table, questionOf] {
+                         const std::vector<int> rows = table.selectedRowIndexes();
+                         action->setEnabled(rows.size() == 1);
+                         if (rows.size() == 1)
+                             action->setText(L("Why_Named_title")
+                                                 .arg(shown(questionOf(rows.front()).who.name)
+                                                          .replace(QLatin1Char('&'), QLatin1String("&&"))));
+                         else
+                             action->setText(L("Why_title"));
+                     });
+    QObject::connect(action, &QAction::triggered, &view, [&view, &selection, &table, questionOf] {
         if (const std::vector<int> rows = table.selectedRowIndexes(); rows.size() == 1)
-            explainRightsOf(tab, selection, who(rows.front()));
+            explainRights(view, selection, questionOf(rows.front()));
     });
 }
 

@@ -6,6 +6,7 @@
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -15,6 +16,7 @@
 
 class QLabel;
 class QPushButton;
+class QWidget;
 
 namespace quorvan {
 
@@ -23,8 +25,8 @@ class RightsBoxes;
 class TextListModel;
 
 /// The sheet that says why somebody holds rights on the selected path, or does not: what the server grants,
-/// where each right comes from and what stops it, and the way from the volume to the path. It asks once, when
-/// it appears, and changes nothing.
+/// where each right comes from and what stops it, the way from the volume to the path, and which assignments
+/// would have to be touched. It asks once, when it appears, and changes nothing.
 class WhyViewController : public ViewController, public SelectionContext {
 public:
     // Outlets
@@ -34,12 +36,21 @@ public:
     ListTable* reasonTable = nullptr;
     ListTable* wayTable = nullptr;
     QLabel* noteLabel = nullptr; ///< what could not be seen
-    QPushButton* goToBtn = nullptr;
+    /// What would change a right, and the way to it. More is counted below.
+    struct Change {
+        QWidget* line = nullptr;
+        QLabel* text = nullptr;
+        QPushButton* goToBtn = nullptr;
+    };
+    std::array<Change, 3> changes;
+    QLabel* moreLabel = nullptr;
     QPushButton* copyBtn = nullptr;
+    QPushButton* exportBtn = nullptr;
     QPushButton* closeBtn = nullptr;
 
     // Set before the sheet is presented, as are serverIP, selectedPath and domainIdentity
-    RightsHolder who; ///< of the tree: by the distinguished name
+    RightsHolder who;         ///< of the tree: by the distinguished name
+    bool changesWait = false; ///< on a page that would lose them if it were left
 
     void loadView() override;
     void viewDidLoad() override;
@@ -49,6 +60,7 @@ public:
 
     /// Everything that the sheet says, for a ticket.
     QString asText() const;
+    void exportText(const QString& file) const;
 
 private:
     /// What a row of reasonTable is about.
@@ -57,31 +69,55 @@ private:
         std::optional<Contribution> contribution;
     };
 
+    /// An assignment that would change a right if it were touched.
+    struct Touch {
+        QString text;
+        std::size_t holder;
+        std::size_t folder;
+    };
+
+    void buildChanges();
+    void layOutControls();
     bool read();
+    bool readWay();
+    bool followLinks();
     void show();
     void addReasons(const RightExplanation& explained);
+    QString changesAsText() const;
     QString holderOf(const Contribution& contribution) const;
-    QString sentence(const Contribution& contribution) const;
+    QString sentence(const Contribution& contribution, std::uint16_t right) const;
     QString difference() const;
     void showWay();
     const Reason* selectedReason() const;
-    std::vector<std::size_t> decidingFolders() const;
-    void goToAssignment();
+    std::vector<Contribution> contributionsOf(const Reason& reason) const;
+    QString pathOf(std::size_t folder) const;
+    void showChanges();
+    std::vector<Touch> touchesOf(const Reason& reason) const;
+    void goTo(const Touch& touch);
 
     std::vector<FolderOnWay> way_;
     std::vector<RightsHolder> holders_;
     Rights served_;
     RightsExplanation explanation_;
     std::vector<Reason> reasons_;
+    std::vector<Touch> touches_;
+    QString server_; ///< where links have led to; empty where there were none
     TextListModel* reasonRows_ = nullptr;
     TextListModel* wayRows_ = nullptr;
 };
 
-/// Opens the sheet over a tab of the rights window.
-void explainRightsOf(ViewController& tab, const SelectionContext& selection, const RightsHolder& who);
+/// What "Why…" asks about: somebody on a path.
+struct WhyQuestion {
+    RightsHolder who;
+    std::string path;
+    bool changesWait = false; ///< as of WhyViewController
+};
 
-/// Adds "Why…" to the menu of a table of a tab; `who` says who is in a row.
-void addWhyAction(ViewController& tab, const SelectionContext& selection, ListTable& table,
-                  std::function<RightsHolder(int row)> who);
+/// Opens the sheet over a view.
+void explainRights(ViewController& view, const SelectionContext& selection, const WhyQuestion& question);
+
+/// Adds "Why does … have these rights here?" to the menu of a table; `questionOf` says what a row asks.
+void addWhyAction(ViewController& view, const SelectionContext& selection, ListTable& table,
+                  std::function<WhyQuestion(int row)> questionOf);
 
 } // namespace quorvan

@@ -38,7 +38,7 @@ TEST_F(PagesTest, OfferWhatTheUsersOwnRightsAllow) {
 rights      | rightsTable addBtn removeBtn closeBtn tabs searchField | | addBtn removeBtn read-only | addBtn
 inherited   | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF closeBtn tabs | | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF read-only |
 effective   | searchField effRightsTable selectUserBtn closeBtn tabs | | selectUserBtn | selectUserBtn
-folders     | searchInSubField subdirTable removeBtnSub searchInParentField parentdirTable removeBtnParent closeBtn tabs | | removeBtnSub removeBtnParent read-only |
+folders     | searchInSubField subdirTable removeBtnSub searchInParentField parentdirTable removeBtnParent stoppedBtn closeBtn tabs | | removeBtnSub removeBtnParent read-only |
 files       | selectUserBtn fsrTable cancelBtn | selectUserBtn read-only | selectUserBtn read-only | selectUserBtn
 quota       | userQuotaTable addUQButton editUQButton removeUQButton closeButton overLimitBtn searchField | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton removeUQButton read-only | addUQButton editUQButton
 information | tabs readChk hideChk archiveChk purgeImmediateChk renameInhibitChk deleteInhibitChk immediateCompressChk closeButton changeOwnerButton | changeOwnerButton read-only | changeOwnerButton read-only | changeOwnerButton
@@ -618,7 +618,7 @@ TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
     const auto places = tableOf(R"(
 inherited   | readIRF | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF pendingLine revertBtn applyBtn closeBtn tabs
 effective   | key Ctrl+F | searchField effRightsTable selectUserBtn closeBtn tabs
-folders     | removeBtnSub | removeBtnSub searchInParentField parentdirTable removeBtnParent revertbtn applybtn closeBtn tabs searchInSubField subdirTable
+folders     | removeBtnSub | removeBtnSub searchInParentField parentdirTable removeBtnParent stoppedBtn revertbtn applybtn closeBtn tabs searchInSubField subdirTable
 files       | removeBtn | removeBtn cancelBtn revertBtn applyBtn selectUserBtn grpBtn fsrTable addBtn
 files       | addBtn | fileBrowser cancelBtn
 files       | grpBtn | groupRightsTable closeBtn searchField
