@@ -6,6 +6,8 @@
 #include "Common/ServerDetails.h"
 #include "Platform/Linux/SmbClientFileSystem.h"
 #include "Platform/Linux/SmbConfiguration.h"
+#include "Quorvan/ViewModal/RightsWay.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 #include "Tests/Support/ChildProcess.h"
 #include "Tests/Support/Fakes.h"
@@ -17,6 +19,7 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <fcntl.h>
 #include <libsmbclient.h>
@@ -40,19 +43,32 @@ public:
         return test::run({"/usr/bin/python3", "-c", "import impacket.smbserver"}) == 0 &&
                test::Socket().bind(address, 445);
     }
-    explicit Server(std::int64_t trustees)
+    Server(const std::vector<std::string>& paths, std::int64_t trustees)
         : kelp_({KELP_SERVER})
         , port_(kelp_.readLine().substr(std::strlen("port ")))
         , front_({"/usr/bin/python3", SMB_FRONT, "--address", address, "--password", password, "--kelp-port",
                   port_}) {
-        const test::Socket socket;
-        socket.connect("127.0.0.1", std::stoi(port_));
-        socket.send("add-many\t" + path + "\t" + std::to_string(trustees) + "\n");
-        if (socket.receive(64) != "ok 0\n" || front_.readLine() != "ready")
+        socket_.connect("127.0.0.1", std::stoi(port_));
+        for (const std::string& each : paths)
+            if (ask("add-many\t" + each + "\t" + std::to_string(trustees)) != "ok 0\n")
+                std::abort();
+        if (front_.readLine() != "ready")
             std::abort();
     }
 
+    /// How many requests have come.
+    int requests() const {
+        const std::string answer = ask("requests"); // "ok LENGTH\nNUMBER"
+        return std::stoi(answer.substr(answer.find('\n') + 1));
+    }
+
 private:
+    std::string ask(const std::string& command) const {
+        socket_.send(command + "\n");
+        return socket_.receive(64);
+    }
+
+    test::Socket socket_;
     test::ChildProcess kelp_;
     std::string port_;
     test::ChildProcess front_;
@@ -79,24 +95,27 @@ public:
     Bare(const Bare&) = delete;
     Bare& operator=(const Bare&) = delete;
 
-    std::size_t exchange(const std::string& request) const {
+    /// One request after the other on one open pipe; the bytes of the replies.
+    std::size_t exchange(const std::vector<std::string>& requests) const {
         const std::string url = std::string("smb://") + address + "/IPC$/FilesCmdPipe";
         SMBCFILE* const file = smbc_getFunctionOpen(context_)(context_, url.c_str(), O_RDWR, 0);
         if (file == nullptr)
             std::abort();
         const auto toStart = [&] { smbc_getFunctionLseek(context_)(context_, file, 0, SEEK_SET); };
-        toStart();
-        smbc_getFunctionWrite(context_)(context_, file, request.data(), request.size());
-        std::string reply;
-        std::array<char, XMLReadWriteController::MEM_SIZE> piece;
-        ssize_t size = 0;
-        do {
+        std::string replies;
+        for (const std::string& request : requests) {
             toStart();
-            size = smbc_getFunctionRead(context_)(context_, file, piece.data(), piece.size());
-            reply.append(piece.data(), static_cast<std::size_t>(std::max(size, ssize_t{0})));
-        } while (size > 0);
+            smbc_getFunctionWrite(context_)(context_, file, request.data(), request.size());
+            std::array<char, XMLReadWriteController::MEM_SIZE> piece;
+            ssize_t size = 0;
+            do {
+                toStart();
+                size = smbc_getFunctionRead(context_)(context_, file, piece.data(), piece.size());
+                replies.append(piece.data(), static_cast<std::size_t>(std::max(size, ssize_t{0})));
+            } while (size > 0);
+        }
         smbc_getFunctionClose(context_)(context_, file);
-        return reply.size();
+        return replies.size();
     }
 
 private:
@@ -130,6 +149,14 @@ public:
             std::abort();
         return trustees.size();
     }
+    /// What "Why…" reads of the folders above `folder`.
+    std::size_t readWay(const std::string& folder) {
+        XMLReadWriteController controller;
+        ScopedPipe pipe(controller, address, pipes::files);
+        if (!pipe.isOpen())
+            std::abort();
+        return readRightsWay(controller, folder, "ActiveDirectory").size();
+    }
 
 private:
     test::FakeWorld world_;
@@ -145,16 +172,16 @@ struct Pause {
 void page(benchmark::State& state) {
     if (!Server::isPossible())
         return state.SkipWithError("needs python3-impacket and port 445");
-    const Server server(state.range(0));
+    const Server server({path}, state.range(0));
     const benchmarks::QuietLog quiet;
     Page ours;
     const Bare bare;
     const std::string request = XMLReadWriteController::createGetTrusteesListRequestAD(path);
     ours.open();
     { const Pause closes; }
-    const std::size_t size = bare.exchange(request);
+    const std::size_t size = bare.exchange({request});
     benchmarks::compare(
-        state, size, [&] { bare.exchange(request); },
+        state, size, [&] { bare.exchange({request}); },
         [&] {
             ours.open();
             return std::make_unique<Pause>();
@@ -167,14 +194,45 @@ BENCHMARK(page)->Arg(0)->Arg(1000)->Unit(benchmark::kMillisecond)->UseManualTime
 void login(benchmark::State& state) {
     if (!Server::isPossible())
         return state.SkipWithError("needs python3-impacket and port 445");
-    const Server server(0);
+    const Server server({path}, 0);
     const benchmarks::QuietLog quiet;
     const std::string request = XMLReadWriteController::createGetTrusteesListRequestAD(path);
     benchmarks::compare(
-        state, Bare().exchange(request), [&] { Bare().exchange(request); }, [] { Page().open(); },
+        state, Bare().exchange({request}), [&] { Bare().exchange({request}); }, [] { Page().open(); },
         passedSeconds);
 }
 BENCHMARK(login)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(50);
+
+/// The folders above a path of ten, with so many trustees on each.
+void way(benchmark::State& state) {
+    if (!Server::isPossible())
+        return state.SkipWithError("needs python3-impacket and port 445");
+    std::vector<std::string> folders = {"VOL1:\\"};
+    for (const char name : std::string("abcdefghi"))
+        folders.push_back(folders.size() == 1 ? folders[0] + name : folders.back() + '\\' + name);
+    const Server server(folders, state.range(0));
+    const benchmarks::QuietLog quiet;
+    Page ours;
+    const Bare bare;
+    std::vector<std::string> requests;
+    for (const std::string& folder : folders)
+        requests.push_back(XMLReadWriteController::createGetTrusteesListRequestAD(folder));
+    ours.open();
+    const int before = server.requests();
+    if (ours.readWay(folders.back()) != folders.size())
+        std::abort();
+    state.counters["requests"] = server.requests() - before;
+    { const Pause closes; }
+    const std::size_t size = bare.exchange(requests);
+    benchmarks::compare(
+        state, size, [&] { bare.exchange(requests); },
+        [&] {
+            ours.readWay(folders.back());
+            return std::make_unique<Pause>();
+        },
+        passedSeconds);
+}
+BENCHMARK(way)->Arg(200)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(30);
 
 } // namespace
 } // namespace quorvan

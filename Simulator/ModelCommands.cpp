@@ -89,6 +89,15 @@ std::string setTrustee(KelpServer& server, const Arguments& arguments) {
     return {};
 }
 
+/// An identity of the domain with an ID of a real directory, in a group that is there already, or in none.
+std::string addIdentity(KelpServer& server, const Arguments& arguments) {
+    Identity& added =
+        server.identities().addDomainGroup(std::string(arguments[1]), std::string(arguments[0]));
+    if (!arguments[2].empty())
+        added.groups.push_back(&identity(server, arguments[2]));
+    return {};
+}
+
 std::string removeTrustee(KelpServer& server, const Arguments& arguments) {
     if (!existing(server, arguments[0]).trustees.remove(identity(server, arguments[1])))
         throw CommandError{ENOENT};
@@ -196,6 +205,7 @@ constexpr Command commands[] = {
     {"trustees", 1, trustees},
     {"rights", 2, rights},
     {"filter", 1, filter},
+    {"add-identity", 3, addIdentity},
     {"set-trustee", 3, setTrustee},
     {"remove-trustee", 2, removeTrustee},
     {"set-filter", 2, setFilter},

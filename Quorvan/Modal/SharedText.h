@@ -26,6 +26,7 @@ public:
         : SharedText(std::string(text)) {}
     operator const std::string&() const { return str(); }
     // NOLINTEND(google-explicit-constructor)
+    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDelete): it loses count of the owners
     SharedText(const SharedText& other)
         : text_(other.text_) {
         if (text_ != nullptr)
@@ -46,6 +47,7 @@ public:
         static const std::string none;
         return text_ != nullptr ? text_->text : none;
     }
+    // NOLINTEND(clang-analyzer-cplusplus.NewDelete)
     bool empty() const { return str().empty(); }
     std::size_t size() const { return str().size(); }
 

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "Common/ServerDetails.h"
 #include "Platform/Linux/LdapDirectory.h"
+#include "Platform/Linux/SmbClientFileSystem.h"
+#include "Quorvan/ViewModal/RightsWay.h"
+#include "Quorvan/ViewModal/ScopedPipe.h"
 #include "Quorvan/ViewModal/UsersViewModal.h"
+#include "Quorvan/ViewModal/XMLReadWrite.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/System/ActiveDirectoryServer.h"
 
@@ -162,6 +167,58 @@ TEST_F(ActiveDirectory, KnowsAccountsByIdentifierAndTheirGroups) {
     EXPECT_THAT(oddUser->values("dsAttrTypeNative:displayName").value(), IsEmpty());
     EXPECT_THAT(oddUser->values("dsAttrTypeNative:name").value(), ElementsAre(odd));
     EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(ActiveDirectory, ExplainsRightsThroughGroupsOfGroupsOverSmb) {
+    const char* address = "127.0.0.79";
+    if (run({"/usr/bin/python3", "-c", "import impacket.smbserver"}) != 0 || !Socket().bind(address, 445))
+        GTEST_SKIP() << "needs python3-impacket and port 445";
+    ChildProcess kelp({KELP_SERVER});
+    const std::string port = kelp.readLine().substr(sizeof "port");
+    const char* secret = "pl3nty-0f-s3crets";
+    ChildProcess front(
+        {"/usr/bin/python3", SMB_FRONT, "--address", address, "--password", secret, "--kelp-port", port});
+    ASSERT_EQ(front.readLine(), "ready");
+    const FakeWorld world;
+    world.defaults->values = {
+        {"serverIP", address}, {"selectedPath", "/Volumes/VOL1/Projects/Aurora"}, {"mappedPath", "VOL1:\\"}};
+    world.keychain->items[address] = {"ingrid.holm", secret};
+    Services services = platform::services();
+    services.network = std::make_shared<SmbClientFileSystem>([](std::string_view) {});
+    services.directory = client();
+    const ScopedServices installed(services);
+    ServerDetails::forget();
+
+    const auto network = services.directory->openNetworkNode();
+    const auto idOf = [&](const Texts& types, const std::string& name) {
+        return one(*network, types, recordName, name)->values(smbSid).value().at(0);
+    };
+    const std::string user = idOf(users, "user0007");
+    const std::string inner = idOf(groups, "group000");
+    const std::string outer = idOf(groups, "group002");
+    const std::string path = "VOL1:\\Projects\\Aurora";
+    const Socket model;
+    ASSERT_TRUE(model.connect("127.0.0.1", std::stoi(port)));
+    for (const std::string& command :
+         {"add-identity\t" + outer + "\tgroup002\t", "add-identity\t" + inner + "\tgroup000\t" + outer,
+          "add-identity\t" + user + "\tuser0007\t" + inner, "set-trustee\tVOL1:\\Projects\t" + outer + "\t10",
+          "set-trustee\t" + path + "\t" + inner + "\t16", "set-filter\t" + path + "\t253"}) {
+        model.send(command + "\n");
+        ASSERT_EQ(model.receive(5), "ok 0\n") << command;
+    }
+    XMLReadWriteController controller;
+    ScopedPipe pipe(controller, address, pipes::files);
+    ASSERT_TRUE(pipe.isOpen());
+    const auto way = readRightsWay(controller, path, "ActiveDirectory");
+    Rights served;
+    controller.getEffectiveRightsforUserOnPath(path, user, served, "ActiveDirectory");
+    const auto holders = holdersOfActiveDirectory({user, "user0007"});
+    Texts names;
+    for (const RightsHolder& holder : holders)
+        names.push_back(holder.name);
+    EXPECT_THAT(names, UnorderedElementsAre("user0007", "group000", "group001", "group002"));
+    EXPECT_EQ(explainRights(way, holders).rights, served.uright);
+    EXPECT_EQ(served.uright, 0x018) << "Create by the one, Erase by the other; the filter stops Write";
 }
 
 TEST_F(ActiveDirectory, SaysWhyItIsNotLetIn) {

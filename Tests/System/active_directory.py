@@ -80,6 +80,8 @@ for i in range(GROUPS):
     group = {"dn": f"CN=group{i:03}{below}", "objectClass": "group", "sAMAccountName": f"group{i:03}"}
     if i < 2:
         group["member"] = [f"CN=user{n:04}{below}" for n in range(MEMBERS)]
+    if i == 2:
+        group["member"] = [f"CN=group000{below}"]
     directory.add(group)
 odd = "CN=" + ODD.replace("\\", "\\5c") + below
 directory.add({"dn": odd, "objectClass": "user", "sAMAccountName": "odd"})
