@@ -1507,5 +1507,18 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
       <numerusform>%n Rechte kommen hier nicht an: sie sind unterstrichen, und ihre Tipps nennen die Ordner, die sie aufhalten</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <translation>Gesendet; was daraus wurde, ließ sich nicht lesen: %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <translation>Gesendet; was daraus wurde, steht nicht in dieser Liste: %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <translation>In der Tabelle war kein Benutzer ausgewählt.
+Fügen Sie hier welche hinzu, oder schließen Sie und wählen Sie dort welche aus.</translation>
+  </message>
 </context>
 </TS>

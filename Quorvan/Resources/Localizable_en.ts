@@ -1727,5 +1727,21 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
       <numerusform>%n rights do not arrive here: they are underlined, and their tips name the folders that stop them</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <extracomment>After Apply, when the list could not be read again; %1 are changes in words.</extracomment>
+    <translation>Sent, but what came of it could not be read: %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <extracomment>After Apply; %1 are changes in words, of paths that the list does not hold.</extracomment>
+    <translation>Sent; what came of it is not in this list: %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <extracomment>In the empty list of a dialog that edits limits.</extracomment>
+    <translation>No user was selected in the table.
+Add users here, or close and select some there.</translation>
+  </message>
 </context>
 </TS>

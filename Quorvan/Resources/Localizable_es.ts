@@ -1507,5 +1507,18 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
       <numerusform>%n derechos no llegan aquí: están subrayados y sus ayudas nombran las carpetas que los detienen</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <translation>Enviado, pero no se pudo leer el resultado: %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <translation>Enviado; el resultado no está en esta lista: %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <translation>No había ningún usuario seleccionado en la tabla.
+Añada usuarios aquí, o cierre y selecciónelos allí.</translation>
+  </message>
 </context>
 </TS>

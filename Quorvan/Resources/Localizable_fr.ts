@@ -1507,5 +1507,18 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
       <numerusform>%n droits n’arrivent pas ici : ils sont soulignés, et leurs infobulles nomment les dossiers qui les arrêtent</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <translation>Envoyé, mais le résultat n’a pas pu être lu : %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <translation>Envoyé ; le résultat n’est pas dans cette liste : %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <translation>Aucun utilisateur n’était sélectionné dans le tableau.
+Ajoutez-en ici, ou fermez et sélectionnez-en là-bas.</translation>
+  </message>
 </context>
 </TS>

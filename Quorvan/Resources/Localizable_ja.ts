@@ -1501,5 +1501,18 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
       <numerusform>%n 個の権利がここに届きません。下線が引かれ、ヒントに止めているフォルダーが示されます</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <translation>送信しましたが、結果を読み取れませんでした: %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <translation>送信しました。結果はこの一覧にはありません: %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <translation>表でユーザーが選ばれていません。
+ここで追加するか、閉じて表で選んでください。</translation>
+  </message>
 </context>
 </TS>

@@ -1513,5 +1513,18 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
       <numerusform>%n praw tu nie dociera: są podkreślone, a podpowiedzi podają foldery, które je zatrzymują</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <translation>Wysłano, ale wyniku nie udało się odczytać: %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <translation>Wysłano; wyniku nie ma na tej liście: %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <translation>W tabeli nie wybrano użytkownika.
+Dodaj użytkowników tutaj albo zamknij i wybierz ich tam.</translation>
+  </message>
 </context>
 </TS>

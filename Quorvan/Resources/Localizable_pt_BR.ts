@@ -1507,5 +1507,18 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
       <numerusform>%n direitos não chegam aqui: estão sublinhados, e suas dicas nomeiam as pastas que os barram</numerusform>
     </translation>
   </message>
+  <message id="Sent_In_Doubt_Label">
+    <source></source>
+    <translation>Enviado, mas o resultado não pôde ser lido: %1</translation>
+  </message>
+  <message id="Sent_Outside_Label">
+    <source></source>
+    <translation>Enviado; o resultado não está nesta lista: %1</translation>
+  </message>
+  <message id="Edit_Nobody_Label">
+    <source></source>
+    <translation>Nenhum usuário estava selecionado na tabela.
+Adicione usuários aqui, ou feche e selecione-os lá.</translation>
+  </message>
 </context>
 </TS>

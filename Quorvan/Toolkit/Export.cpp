@@ -9,11 +9,11 @@
 
 namespace quorvan {
 
-QString chooseExport(QWidget* parent, const QString& title, const QString& suffix, const QString& filter) {
-    QFileDialog dialog(parent, title);
+QString chooseExport(QWidget* parent, const char* titleKey, const char* filterKey, const QString& suffix) {
+    QFileDialog dialog(parent, plainL(titleKey));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
-    dialog.setNameFilter(filter);
+    dialog.setNameFilter(L(filterKey));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

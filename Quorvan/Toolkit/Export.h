@@ -8,8 +8,8 @@ class QWidget;
 
 namespace quorvan {
 
-/// Asks for a file of that kind to write to; "" when the user has thought better of it.
-QString chooseExport(QWidget* parent, const QString& title, const QString& suffix, const QString& filter);
+/// Asks for a file to write to, with the texts of two keys; "" when the user has thought better of it.
+QString chooseExport(QWidget* parent, const char* titleKey, const char* filterKey, const QString& suffix);
 
 /// Writes the file whole or not at all, and says in the window what came of it.
 void exportTo(const QString& file, const QByteArray& content);

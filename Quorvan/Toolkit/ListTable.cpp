@@ -181,8 +181,7 @@ void ListTable::copyRows() const {
 }
 
 void ListTable::exportRows() {
-    const QString file =
-        chooseExport(window(), plainL("Export_title"), QStringLiteral("csv"), L("Export_Filter_Label"));
+    const QString file = chooseExport(window(), "Export_title", "Export_Filter_Label", QStringLiteral("csv"));
     if (!file.isEmpty())
         exportRows(file);
 }

@@ -87,6 +87,13 @@ void PendingLine::openList() {
     list.exec(mapToGlobal(QPoint(0, -list.sizeHint().height())));
 }
 
+QString textsOf(const std::vector<PendingChange>& changes) {
+    QStringList texts;
+    for (const PendingChange& change : changes)
+        texts.append(shownText(change.text()));
+    return shortened(texts).join(QStringLiteral("; "));
+}
+
 PendingChange rightsChange(std::string identity, PendingChange::Kind kind, const std::string& name,
                            std::uint16_t rights) {
     return {std::move(identity), kind, QString::fromStdString(name), rightsInWords(rights), rights};

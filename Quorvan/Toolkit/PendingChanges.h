@@ -49,6 +49,9 @@ private:
     std::vector<ListTable*> tables_;
 };
 
+/// The first of the changes in words, for a line of the window.
+QString textsOf(const std::vector<PendingChange>& changes);
+
 /// A change of rights.
 PendingChange rightsChange(std::string identity, PendingChange::Kind kind, const std::string& name,
                            std::uint16_t rights);

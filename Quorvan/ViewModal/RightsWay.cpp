@@ -72,6 +72,14 @@ std::vector<FolderOnWay> readRightsWay(XMLReadWriteController& controller, const
     return way;
 }
 
+std::optional<Rights> rightsOfUser(XMLReadWriteController& controller, const std::string& path,
+                                   const std::string& id, const std::string& identityType) {
+    constexpr std::uint16_t unread = 0x8000; // no right; a mask in the reply takes its place
+    Rights rights{unread};
+    controller.getEffectiveRightsforUserOnPath(path, id, rights, identityType);
+    return rights.uright == unread ? std::nullopt : std::optional(rights);
+}
+
 std::vector<RightsHolder> holdersOfActiveDirectory(const RightsHolder& account) {
     std::vector<RightsHolder> holders = {account};
     const auto node = platform::services().directory->openNetworkNode();

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "Quorvan/Modal/RightsExplanation.h"
+#include "Quorvan/Modal/Users.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +16,10 @@ class XMLReadWriteController;
 /// one request for each folder, over the pipe for files that is open. Ends early after a loss.
 std::vector<FolderOnWay> readRightsWay(XMLReadWriteController& controller, const std::string& path,
                                        const std::string& identityType);
+
+/// What the server itself grants somebody on a path; nothing when its reply does not say.
+std::optional<Rights> rightsOfUser(XMLReadWriteController& controller, const std::string& path,
+                                   const std::string& id, const std::string& identityType);
 
 /// An account of Active Directory and the groups that it is a member of, groups of groups too, as far as the
 /// directory names them.

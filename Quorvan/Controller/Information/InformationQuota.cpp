@@ -9,6 +9,7 @@
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/QuotaLimit.h"
 #include "Quorvan/Toolkit/ValueField.h"
+#include "Quorvan/Toolkit/WarningColor.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -82,6 +83,10 @@ void InformationViewController::showUsage(std::optional<int> percent) {
     if (!percent)
         return;
     quotaBar->setValue(std::min(*percent, quotaBar->maximum()));
+    QPalette look;
+    if (isOver)
+        look.setColor(QPalette::Highlight, warningBarColor());
+    quotaBar->setPalette(look);
     quotaBar->setFormat(isOver ? L("Quota_Exceeded_Label") : L("Quota_Usage_Label").arg(*percent));
 }
 

@@ -31,7 +31,6 @@ void AddUserQuotaViewController::loadView() {
     userNameLabel = outlet(new QLabel(this), "userNameLabel");
     auto* rows = new UserQuotaRows(users, {{"username", "Col_User_Name", UserQuotaColumn::nameOf, false}});
     userList = outlet(new ListTable(rows, this), "userList", plainL("User_Name_Label"));
-    userList->setEmptyText(L("No_Users_Chosen_Label"));
     selectTrusteeBtn = outlet(new QPushButton(L("Add_Users_title"), this), "selectTrusteeBtn");
     selectTrusteeBtn->setToolTip(L("Add_Users_Tip_Label"));
     quotaLimitLabel = outlet(new QLabel(this), "quotaLimitLabel");
@@ -95,6 +94,7 @@ void AddUserQuotaViewController::viewDidLoad() {
 
 void AddUserQuotaViewController::showUsers() {
     userList->reloadData();
+    userList->setEmptyText(L(edits ? "Edit_Nobody_Label" : "No_Users_Chosen_Label"));
     takeOffBtn->setEnabled(!users.empty());
 }
 
@@ -113,7 +113,7 @@ void AddUserQuotaViewController::showCurrentLimits() {
         selectUnit->setCurrentIndex(entered->unit);
         selectedUnit = entered->unit;
     } else {
-        quotaLimitTextField->clear();
+        quotaLimitTextField->setText({}); // clear() would count as the user's own change
         currentLimits->setText(least == most
                                    ? L("Current_Limit_Label").arg(byteCount(least))
                                    : L("Current_Limits_Label").arg(byteCount(least), byteCount(most)));
@@ -124,10 +124,13 @@ void AddUserQuotaViewController::showCurrentLimits() {
 void AddUserQuotaViewController::takeOffSelected() {
     takeRows(users, userList->selectedRowIndexes());
     showUsers();
+    currentLimits->clear();
+    if (!quotaLimitTextField->isModified()) // what was typed stays
+        showCurrentLimits();
 }
 
 void AddUserQuotaViewController::initAddUserQuotaView() {
-    setWindowTitle(plainL(users.empty() ? "Add_User_Quota_Title" : "Edit_User_Quota_Title"));
+    setWindowTitle(plainL(edits ? "Edit_User_Quota_Title" : "Add_User_Quota_Title"));
     userNameLabel->setText(plainL("User_Name_Label"));
     quotaLimitLabel->setText(L("Quota_Limit_Label"));
     quotaLimitTextField->setText(QString::fromStdString(quotaLimit.value_or("")));

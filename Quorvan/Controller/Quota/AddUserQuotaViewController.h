@@ -47,6 +47,7 @@ public:
     std::optional<std::string> quotaLimit = "1"; ///< as typed last
     int selectedUnit = -1;                       ///< until the user picks one
     UserQuotaList users;                         ///< those to be edited are the caller's own rows
+    bool edits = false;                          ///< users who have a quota; those who are new are added
     std::string domainIdentity;                  ///< the identity type that is browsed
 
     void loadView() override;

@@ -6,6 +6,7 @@
 #include "Quorvan/Toolkit/QuotaLimit.h"
 #include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
+#include "Quorvan/Toolkit/WarningColor.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -55,6 +56,8 @@ QVariant UserQuotaRows::data(const QModelIndex& index, int role) const {
     if (column.text == UserQuotaColumn::usedOf && isOverLimit(user)) {
         if (role == Qt::DecorationRole)
             return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+        if (role == Qt::ForegroundRole)
+            return warningTextColor(QApplication::palette());
         if (role == Qt::AccessibleTextRole)
             return L("Over_Limit_Row_Label").arg(column.text(user));
         if (role == Qt::ToolTipRole)

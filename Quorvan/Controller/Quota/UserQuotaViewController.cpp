@@ -159,9 +159,11 @@ void UserQuotaViewController::showPending() {
 /// A user whose limit was removed stays in the list of those who use space.
 void UserQuotaViewController::tellOutcomeOf(const std::vector<PendingChange>& sent) const {
     std::unordered_map<std::string, std::int64_t> removed;
-    for (const PendingChange& change : sent)
+    for (const PendingChange& change : sent) // the last one of a user decides
         if (change.kind == PendingChange::Kind::removed)
-            removed.emplace(change.identity, change.value);
+            removed[change.identity] = change.value;
+        else
+            removed.erase(change.identity);
     std::unordered_map<std::string, std::int64_t> now;
     for (const auto& user : users) {
         const std::string id = user->SID.value_or("");
@@ -237,6 +239,7 @@ void UserQuotaViewController::prepare(const Segue& segue) {
     auto* dialog = dynamic_cast<AddUserQuotaViewController*>(segue.destination);
     require(dialog != nullptr, "Quotas are edited in another view");
     dialog->delegate.emplace().set(*this, *this);
+    dialog->edits = true;
     for (const int row : userQuotaTable->selectedRowIndexes())
         dialog->users.push_back(usersDisplay[static_cast<std::size_t>(row)]);
 }

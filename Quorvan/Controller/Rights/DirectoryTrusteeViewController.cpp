@@ -60,8 +60,7 @@ void DirectoryTrusteeViewController::viewDidLoad() {
 
 void DirectoryTrusteeViewController::viewDidAppear() {
     setTabState();
-    initSubDirTable();
-    initParentDirTable();
+    loadAgain();
 }
 
 void DirectoryTrusteeViewController::initTrusteeDirMainView() {

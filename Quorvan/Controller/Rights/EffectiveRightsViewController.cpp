@@ -9,6 +9,7 @@
 #include "Quorvan/Toolkit/NameSort.h"
 #include "Quorvan/Toolkit/PathLabel.h"
 #include "Quorvan/Toolkit/RightsBoxes.h"
+#include "Quorvan/ViewModal/RightsWay.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -122,10 +123,11 @@ void EffectiveRightsViewController::initEffRforUser(const std::string& userID) {
     auto pipe = openPipe(pipes::files);
     if (!pipe)
         return effectiveBoxes->setUnknown();
-    xmlController->getEffectiveRightsforUserOnPath(selectedPath, userID, effRforUser, domainIdentity);
+    const auto read = rightsOfUser(*xmlController, selectedPath, userID, domainIdentity);
     pipe.reset();
-    if (reportLoss())
-        return effectiveBoxes->setUnknown();
+    if (reportLoss() || !read)
+        return effectiveBoxes->setUnknown(); // those of the identity before are not this one's
+    effRforUser = *read;
     setEffR();
 }
 

@@ -234,7 +234,10 @@ void FileSystemRightsViewController::onReturnSelectedPath(const std::vector<std:
 
 /// Only what lies there is in the list that is read.
 bool FileSystemRightsViewController::isBelowSelection(const std::string& path) const {
-    return lowercased(path).starts_with(lowercased(selectedPath));
+    const std::string shown = lowercased(path);
+    const std::string top = lowercased(selectedPath);
+    return shown.starts_with(top) &&
+           (shown.size() == top.size() || top.ends_with('\\') || shown[top.size()] == '\\');
 }
 
 void FileSystemRightsViewController::track(std::shared_ptr<FileRights> rights, const char* status) {
@@ -270,7 +273,9 @@ void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
                 return; // that change and those after it stay pending
             trackfrightsList.erase(trackfrightsList.begin());
         }
-        if (initFSRRightsTable(selectedTrusteeID) && reading_ == Reading::whole)
+        if (!initFSRRightsTable(selectedTrusteeID))
+            tellInDoubt("Sent_In_Doubt_Label", sent);
+        else if (reading_ == Reading::whole)
             tellOutcomeOf(sent);
     }
     redisplay();
@@ -279,12 +284,25 @@ void FileSystemRightsViewController::onApply(QObject* /*sender*/) {
 
 /// What lies outside of the selection is not in the list that was read, and nothing is known of it.
 void FileSystemRightsViewController::tellOutcomeOf(std::vector<PendingChange> sent) const {
+    std::vector<PendingChange> outside;
+    for (PendingChange& change : sent) {
+        if (!isBelowSelection(change.identity))
+            outside.push_back(change);
+        change.identity = lowercased(change.identity); // the server's spelling may be another one
+    }
     std::erase_if(sent, [this](const PendingChange& change) { return !isBelowSelection(change.identity); });
     std::unordered_map<std::string, std::int64_t> now;
     for (const IdentityFileRights& row : frightsList)
-        now[row.rights.fpath] = row.rights.frights;
+        now[lowercased(row.rights.fpath.str())] = row.rights.frights;
     if (!sent.empty())
         tellOutcome(sent, now);
+    else if (!outside.empty())
+        tellInDoubt("Sent_Outside_Label", outside);
+}
+
+/// Names the changes of which it is not known what has become of them, so that they can be made again.
+void FileSystemRightsViewController::tellInDoubt(const char* key, const std::vector<PendingChange>& sent) {
+    NoticeLine::tell(NoticeLine::Kind::problem, L(key).arg(textsOf(sent)));
 }
 
 void FileSystemRightsViewController::send(const TrackedRights& change) {

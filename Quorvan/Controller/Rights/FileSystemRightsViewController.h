@@ -91,6 +91,7 @@ private:
     std::vector<PendingChange> pendingChanges() const;
     void showPending();
     void tellOutcomeOf(std::vector<PendingChange> sent) const;
+    static void tellInDoubt(const char* key, const std::vector<PendingChange>& sent);
     Reading reading_ = Reading::whole;
     bool mustRead_ = false; ///< what is shown as saved may not be: the connection was lost in an Apply
     void buildIdentity();

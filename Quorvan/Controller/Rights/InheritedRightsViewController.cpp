@@ -102,6 +102,7 @@ void InheritedRightsViewController::initMainView() {
     irf = unwrap(trustees.irfList, "The trustee rights have no inherited rights filter").uright;
     isSupervisorOrAC = trustees.isSupervisor || trustees.isAccessControl;
     editedIRF = irf;
+    hasFailed_ = false;
     setIRF();
     deselectLabel->setText(L("Inherited_Deselect_Label"));
     applyBtn->setText(L("Apply_title"));
@@ -124,7 +125,7 @@ void InheritedRightsViewController::setChangesEnabled(bool enabled) {
 }
 
 std::vector<PendingChange> InheritedRightsViewController::pendingChanges() const {
-    if (editedIRF == irf)
+    if (editedIRF == irf && !hasFailed_)
         return {};
     return {rightsChange("", PendingChange::Kind::changed, plainL("Inherited_Filter_Label").toStdString(),
                          editedIRF)};
@@ -142,6 +143,7 @@ void InheritedRightsViewController::onAnyIRFClick(QCheckBox* sender) {
 void InheritedRightsViewController::onApply(QObject* /*sender*/) {
     const std::int32_t status =
         renewController().setInheritedRightsforPathHandleDFS(serverIP, editedIRF, selectedPath, mappedPath);
+    hasFailed_ = status != 0; // what was sent still waits, though it stands in irf
     if (status == 0)
         setChangesEnabled(false);
     else
@@ -155,6 +157,7 @@ void InheritedRightsViewController::onApply(QObject* /*sender*/) {
 
 void InheritedRightsViewController::onRevert(QObject* /*sender*/) {
     editedIRF = irf;
+    hasFailed_ = false;
     setIRF();
     setChangesEnabled(false);
 }

@@ -55,6 +55,7 @@ public:
     void onRevert(QObject* sender);
 
 private:
+    bool hasFailed_ = false; ///< the last Apply
     std::vector<PendingChange> pendingChanges() const;
     void showPending();
     void buildBoxes();

@@ -80,6 +80,7 @@ void RightsTabViewController::viewWillAppear() {
 bool RightsTabViewController::readAgain() {
     wasRead_ = true;
     reading = Reading::whole;
+    search_.end(*searchField);
     showCheck->setChecked(Shared::value().bothID);
     if (showCheck->isChecked())
         onShowBothMorvaneAD(showCheck);

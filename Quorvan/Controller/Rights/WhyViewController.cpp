@@ -77,8 +77,8 @@ void WhyViewController::loadView() {
     connect(copyBtn, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(asText()); });
     connect(exportBtn, &QPushButton::clicked, this, [this] {
-        const QString file = chooseExport(window(), plainL("Why_Export_title"), QStringLiteral("txt"),
-                                          L("Why_Export_Filter_Label"));
+        const QString file =
+            chooseExport(window(), "Why_Export_title", "Why_Export_Filter_Label", QStringLiteral("txt"));
         if (!file.isEmpty())
             exportText(file);
     });
@@ -188,7 +188,7 @@ bool WhyViewController::readWay() {
         return false;
     way_ = readRightsWay(*xmlController, selectedPath, domainIdentity);
     if (xmlController->loss() == 0)
-        xmlController->getEffectiveRightsforUserOnPath(selectedPath, who.id, served_, domainIdentity);
+        served_ = rightsOfUser(*xmlController, selectedPath, who.id, domainIdentity);
     pipe.reset();
     return !reportLoss();
 }
@@ -207,7 +207,10 @@ bool WhyViewController::followLinks() {
 }
 
 void WhyViewController::show() {
-    answerBoxes->setRights(served_.uright);
+    if (served_)
+        answerBoxes->setRights(served_->uright);
+    else
+        answerBoxes->setUnknown();
     const QString unexplained = difference();
     differenceLabel->setText(unexplained);
     differenceLabel->setVisible(!unexplained.isEmpty());
@@ -281,9 +284,11 @@ QString WhyViewController::sentence(const Contribution& contribution, std::uint1
 
 /// The server is right; where its answer does not follow from what can be seen, that is said.
 QString WhyViewController::difference() const {
+    if (!served_)
+        return L("Why_Unknown_Label");
     QStringList texts;
-    const auto more = static_cast<std::uint16_t>(served_.uright & ~explanation_.rights);
-    const auto less = static_cast<std::uint16_t>(explanation_.rights & ~served_.uright);
+    const auto more = static_cast<std::uint16_t>(served_->uright & ~explanation_.rights);
+    const auto less = static_cast<std::uint16_t>(explanation_.rights & ~served_->uright);
     if (more != 0)
         texts.append(L("Why_Served_More_Label").arg(rightsInWords(more)));
     if (less != 0)
@@ -434,7 +439,8 @@ QString WhyViewController::changesAsText() const {
 
 QString WhyViewController::asText() const {
     QStringList lines = {windowTitle(),
-                         L("Why_Served_Label") + QLatin1Char(' ') + rightsInWords(served_.uright)};
+                         L("Why_Served_Label") + QLatin1Char(' ') +
+                             (served_ ? rightsInWords(served_->uright) : L("Why_Unknown_Label"))};
     if (!differenceLabel->text().isEmpty())
         lines.append(differenceLabel->text());
     for (const TextListModel* table : {reasonRows_, wayRows_}) {
@@ -466,7 +472,7 @@ void explainRights(ViewController& view, const SelectionContext& selection, cons
 }
 
 void addWhyAction(ViewController& view, const SelectionContext& selection, ListTable& table,
-                  std::function<WhyQuestion(int row)> questionOf) {
+                  const std::function<WhyQuestion(int row)>& questionOf) {
     auto* action = new QAction(L("Why_title"), &table);
     action->setObjectName(QStringLiteral("whyAction"));
     action->setEnabled(false);

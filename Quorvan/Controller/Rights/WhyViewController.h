@@ -97,7 +97,7 @@ private:
 
     std::vector<FolderOnWay> way_;
     std::vector<RightsHolder> holders_;
-    Rights served_;
+    std::optional<Rights> served_; ///< nothing when the server does not say
     RightsExplanation explanation_;
     std::vector<Reason> reasons_;
     std::vector<Touch> touches_;
@@ -118,6 +118,6 @@ void explainRights(ViewController& view, const SelectionContext& selection, cons
 
 /// Adds "Why does … have these rights here?" to the menu of a table; `questionOf` says what a row asks.
 void addWhyAction(ViewController& view, const SelectionContext& selection, ListTable& table,
-                  std::function<WhyQuestion(int row)> questionOf);
+                  const std::function<WhyQuestion(int row)>& questionOf);
 
 } // namespace quorvan

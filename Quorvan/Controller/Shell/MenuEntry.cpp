@@ -67,8 +67,21 @@ QSize MenuEntry::sizeHint() const {
     return layout()->sizeHint().expandedTo({0, iconEdge + 2 * margin});
 }
 
+/// Where the screen is too small for all entries, they do without their descriptions.
 QSize MenuEntry::minimumSizeHint() const {
-    return layout()->minimumSize();
+    const int least = title->minimumSizeHint().height() + 2 * tightMargin;
+    return {layout()->minimumSize().width(), compact_ ? layout()->minimumSize().height() : least};
+}
+
+void MenuEntry::resizeEvent(QResizeEvent* event) {
+    QPushButton::resizeEvent(event);
+    if (compact_)
+        return;
+    const int both = title->sizeHint().height() + texts_->spacing() + description_->sizeHint().height();
+    if (height() >= both + 2 * tightMargin)
+        description_->show();
+    else
+        hideDescription();
 }
 
 void MenuEntry::keyPressEvent(QKeyEvent* event) {

@@ -512,6 +512,26 @@ TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
                 testing::StartsWith("The server did not take 1 of 2 changes: VOL1:\\Tests\\Box\\Low"));
     mend();
 
+    // What lies elsewhere, be it a neighbour of this name, and what was sent before the list got lost.
+    view<FileSystemRightsViewController>().onReturnSelectedPath({"file:///Volumes/VOL1/Tests/Box2"});
+    EXPECT_THAT(value("noticeText"), testing::StartsWith("Not below"));
+    act("applyBtn");
+    EXPECT_THAT(value("noticeText"), testing::StartsWith("Sent; what came of it is not in this list: VOL1:"));
+    act("tick 0W");
+    breakPipes();
+    act("applyBtn");
+    EXPECT_THAT(value("noticeText"), testing::HasSubstr("could not be read: VOL1:\\Tests\\Box: "));
+    mend();
+
+    open("inherited").act("readIRF");
+    breakPipes();
+    act("applyBtn");
+    EXPECT_THAT(waiting(), SizeIs(1)) << "the filter that was not sent";
+    mend();
+
+    open("rights").act("type searchField zoe, tab 1, tab 0");
+    EXPECT_EQ(value("searchField"), "") << "the list is read anew, and whole";
+
     open("information").act("hideChk");
     EXPECT_THAT(waiting(), ElementsAre(testing::StartsWith("Attributes: ")));
     select("VOL1/Projects/Aurora");

@@ -47,9 +47,14 @@ TEST_F(RightsViewsTest, EffectiveRightsOfTrusteesAndOfOneThatIsChosen) {
               "ADMIN, off grey, on grey, on grey, on grey, on grey, on grey, on grey, on grey");
     page.onReturnSelectedUser({"Müller", "admin", "?"}, {"Müller", "admin"}, "");
     EXPECT_EQ(state(chosen), "admin" + readOnly);
+    const std::string unknown = ", unknown grey";
+    world.server->misbehaviour.code =
+        7; // a refusal holds no rights, and those of the one before are not hers
+    page.onReturnSelectedUser({"Zoe"}, {"Zoe"}, "");
+    EXPECT_EQ(state(chosen).substr(0, 17), ("Zoe" + unknown).substr(0, 17));
+    mend();
     breakPipes();
     page.onReturnSelectedUser({"<b>Zoe"}, {"Zoe"}, "");
-    const std::string unknown = ", unknown grey";
     EXPECT_EQ(state(chosen),
               "<b>Zoe" + unknown + unknown + unknown + unknown + unknown + unknown + unknown + unknown);
     EXPECT_THAT(value("userGroupField", "toolTip"), testing::HasSubstr("&lt;b&gt;")) << "shown as it is";

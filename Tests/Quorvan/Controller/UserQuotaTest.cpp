@@ -144,7 +144,7 @@ TEST_F(UserQuotaTest, EditsFromWhatIsAndLeadsToWhoIsOver) {
     )");
     EXPECT_EQ(act("okBtn").dismissAlert(), "Invalid_Quota_Limit") << "a mere Return changes nobody";
     play(R"(
-        pick 0, takeOffBtn | count 1 | takeOffBtn ready
+        pick 0, takeOffBtn | count 1 | takeOffBtn ready | quotaLimitTextField 1 | selectUnit GB | currentLimits
         type quotaLimitTextField 7, okBtn | pendingLine ready // names those that are marked, not who was meant
         applyButton        | sent guid-0 536870912; guid-2 536870912 | pendingLine hidden
     )");
