@@ -13,12 +13,13 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-const Names& listed(std::optional<Names>& names, platform::IdentityClass identityClass) {
+const Names& listed(std::optional<Names>& names, platform::IdentityClass identityClass, bool& failed) {
     if (names)
         return *names;
     const platform::BusyScope busy(platform::services().busy);
     names.emplace();
     const auto identities = platform::services().directory->managedIdentities(identityClass);
+    failed = !identities;
     for (const auto& identity : identities.value_or(std::vector<platform::ManagedIdentity>()))
         names->push_back(unwrap(identity.posixName, "An identity of this machine has no name"));
     return *names;
@@ -31,11 +32,11 @@ OldBrowseLdapViewModal::OldBrowseLdapViewModal(const std::string& category)
     , usersCategory(ldapCategories(category)) {}
 
 const Names& OldBrowseLdapViewModal::ldapUserList() {
-    return listed(users_, platform::IdentityClass::user);
+    return listed(users_, platform::IdentityClass::user, listingFailed);
 }
 
 const Names& OldBrowseLdapViewModal::ldapGroupList() {
-    return listed(groups_, platform::IdentityClass::group);
+    return listed(groups_, platform::IdentityClass::group, listingFailed);
 }
 
 Names OldBrowseLdapViewModal::searchAD(const std::string& text, const std::string& type) {

@@ -16,6 +16,7 @@ public:
 
     int userTypeCount; ///< how many categories are offered
     std::vector<UserType> usersCategory;
+    bool listingFailed = false; ///< the last list that was asked for: the directory did not answer
 
     /// The names of all users or groups, asked for the first time only.
     const std::vector<std::string>& ldapUserList();

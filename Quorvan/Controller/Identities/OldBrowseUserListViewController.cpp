@@ -80,6 +80,8 @@ void OldBrowseUserListViewController::onSelect() {
 }
 
 QString OldBrowseUserListViewController::emptyText() const {
+    if (ldapList_ && ldapList_->listingFailed)
+        return L("Domain_Silent_Label").arg(QStringLiteral("Active Directory"));
     return L(currUserType == "Users" ? "No_Users_Label" : "No_Groups_Label");
 }
 

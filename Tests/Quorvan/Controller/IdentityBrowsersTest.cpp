@@ -170,6 +170,8 @@ TEST_F(IdentityBrowsersTest, PicksFromTheSingleForestByName) {
     world.directory->state().bound = false;
     play("type searchField x, key Return | count:userListTable 0 | alerts");
     EXPECT_THAT(log.take(), Contains("Could not find a Active Directory on the server"));
+    EXPECT_EQ(open("rights").act("addBtn").control<ListTable>("userListTable").emptyText(),
+              "Active Directory is silent");
 }
 
 } // namespace
