@@ -3,6 +3,7 @@
 
 #include "Quorvan/Toolkit/ViewController.h"
 
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quorvan {
@@ -15,6 +16,8 @@ Sheet::Sheet(ViewController& presenting, ViewController* content)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
+    const auto* back = new QShortcut(QKeySequence(QKeySequence::Back), this);
+    connect(back, &QShortcut::activated, this, &QDialog::reject);
     connect(this, &QDialog::finished, this, [this] {
         content_->disappear();
         deleteLater();

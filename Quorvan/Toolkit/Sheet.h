@@ -7,8 +7,8 @@ namespace quorvan {
 
 class ViewController;
 
-/// The window-modal dialog that carries a view presented as a sheet. Escape closes it. It destroys
-/// itself, and the view with it, once it is closed.
+/// The window-modal dialog that carries a view presented as a sheet. Escape closes it, and so does the Back
+/// key. It destroys itself, and the view with it, once it is closed.
 class Sheet : public QDialog {
 public:
     Sheet(ViewController& presenting, ViewController* content);

@@ -5,6 +5,7 @@
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/NameListModel.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -123,6 +124,7 @@ void FetchingBrowserSheet::buildFetchControls(QBoxLayout& page, QWidget* place, 
     label1->setBuddy(userTypePopUp);
     label2->setBuddy(place);
     connect(btnFetch, &QPushButton::clicked, this, [this] { fetchUserList(); });
+    reloadOnRefreshKey(*this, nullptr, [this] { btnFetch->click(); });
 
     auto* controls = new QGridLayout;
     controls->addWidget(label1, 0, 0);

@@ -6,6 +6,7 @@
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Modal/DistinguishedName.h"
 #include "Quorvan/Modal/Utils.h"
+#include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/ShownText.h"
 #include "Quorvan/Toolkit/TrusteeIcon.h"
 #include "Quorvan/Toolkit/TrusteeRows.h"
@@ -66,6 +67,13 @@ void GroupRightsViewController::loadView() {
     closeBtn->setDefault(true);
     connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });
     connect(closeBtn, &QPushButton::clicked, this, [this] { onClose(closeBtn); });
+
+    reloadOnRefreshKey(*this, nullptr, [this] {
+        search_.end(*searchField);
+        grpTrusteeList.clear();
+        reading_ = Reading::whole;
+        viewWillAppear();
+    });
 
     whoseLabel = outlet(new QLabel(this), "whoseLabel");
     whoseLabel->setTextFormat(Qt::PlainText);

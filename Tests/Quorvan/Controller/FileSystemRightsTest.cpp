@@ -167,6 +167,8 @@ TEST_F(FileSystemRightsTest, GroupRightsOfEitherDirectoryAppearWithEveryAppearan
     play("| rows >Staff Box\\Low RMF, Staff Box\\Low RMF");
     play("type searchField zzz | empty nothing like zzz");
     play("type searchField st?ff | count 2");
+    play("key F5 | rows Staff Box\\Low RMF | searchField");
+    play("key Alt+Left | title File_System_Rights_Title");
 
     Shared::value().bothID = true;
     open("files");

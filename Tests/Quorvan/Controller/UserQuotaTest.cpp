@@ -83,6 +83,7 @@ TEST_F(UserQuotaTest, AddsEditsAndRemovesInOneGo) {
                             "guid-2 5368709120; guid-4 2199023255552; guid-0 2199023255552; " +
                             pavel + " 2199023255552"));
     EXPECT_EQ(onServer("guid-0"), gigabyte << 11);
+    EXPECT_EQ(value("noticeText"), "Applied_Label") << "what was removed and added again, too";
     EXPECT_EQ(world.network->openDescriptors(), 0U);
     play("| applyButton grey | revert grey | count 5");
     edit("0", "7");
