@@ -24,6 +24,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -35,6 +36,7 @@ namespace quorvan {
 
 namespace {
 
+constexpr int changesInView = 3;
 constexpr const char* everyone = "S-1-1-0"; ///< which no directory lists as a group of anybody
 
 QString shown(const std::string& text) {
@@ -68,7 +70,13 @@ void WhyViewController::loadView() {
         text->setTextFormat(Qt::PlainText);
         text->hide();
     }
-    buildChanges();
+    changeArea = outlet(new QScrollArea(this), "changeArea", L("Why_Change_Label"));
+    changeArea->setFrameShape(QFrame::NoFrame);
+    changeArea->setFocusPolicy(Qt::NoFocus); // it follows the buttons
+    changeArea->setWidgetResizable(true);
+    changeArea->setWidget(new QWidget);
+    (new QVBoxLayout(changeArea->widget()))->setContentsMargins(0, 0, 0, 0);
+    addChange();
     copyBtn = outlet(new QPushButton(L("Why_Copy_title"), this), "copyBtn");
     copyBtn->setToolTip(L("Why_Copy_Tip_Label"));
     exportBtn = outlet(new QPushButton(L("Why_Export_title"), this), "exportBtn");
@@ -90,27 +98,27 @@ void WhyViewController::loadView() {
     layOutControls();
 }
 
-void WhyViewController::buildChanges() {
-    for (std::size_t at = 0; at < changes.size(); ++at) {
-        Change& change = changes[at];
-        const std::string number = at == 0 ? "" : std::to_string(at + 1);
-        change.line = new QWidget(this);
-        change.text = outlet(new QLabel(change.line), ("changeLabel" + number).c_str());
-        change.text->setWordWrap(true);
-        change.text->setTextFormat(Qt::PlainText);
-        const QString title = at == 0 ? L("Why_Go_To_title") : plainL("Why_Go_To_title");
-        change.goToBtn = outlet(new QPushButton(title, change.line), ("goToBtn" + number).c_str());
-        change.goToBtn->setToolTip(L("Why_Go_To_Tip_Label"));
-        explainWhenGrey(*change.goToBtn, [this] {
-            return changesWait ? "Why_Leave_Pending_Label" : "Why_No_Assignment_Label";
-        });
-        connect(change.goToBtn, &QPushButton::clicked, this, [this, at] { goTo(touches_[at]); });
-        auto* line = new QHBoxLayout(change.line);
-        line->setContentsMargins(0, 0, 0, 0);
-        line->addWidget(change.text, 1);
-        line->addWidget(change.goToBtn);
-    }
-    moreLabel = outlet(new QLabel(this), "moreLabel");
+void WhyViewController::addChange() {
+    const std::string number = changes.empty() ? "" : std::to_string(changes.size() + 1);
+    Change change;
+    change.line = new QWidget(changeArea->widget());
+    change.text = outlet(new QLabel(change.line), ("changeLabel" + number).c_str());
+    change.text->setWordWrap(true);
+    change.text->setTextFormat(Qt::PlainText);
+    const QString title = changes.empty() ? L("Why_Go_To_title") : plainL("Why_Go_To_title");
+    change.goToBtn = outlet(new QPushButton(title, change.line), ("goToBtn" + number).c_str());
+    change.goToBtn->setToolTip(L("Why_Go_To_Tip_Label"));
+    explainWhenGrey(*change.goToBtn,
+                    [this] { return changesWait ? "Why_Leave_Pending_Label" : "Why_No_Assignment_Label"; });
+    connect(change.goToBtn, &QPushButton::clicked, this, [this, at = changes.size()] { goTo(touches_[at]); });
+    auto* line = new QHBoxLayout(change.line);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(change.text, 1);
+    line->addWidget(change.goToBtn);
+    changeArea->widget()->layout()->addWidget(change.line);
+    if (!changes.empty())
+        setTabOrder(changes.back().goToBtn, change.goToBtn);
+    changes.push_back(change);
 }
 
 void WhyViewController::layOutControls() {
@@ -129,12 +137,9 @@ void WhyViewController::layOutControls() {
     page->addWidget(wayTable, 2);
     page->addWidget(noteLabel);
     page->addWidget(new QLabel(L("Why_Change_Label"), this));
-    for (const Change& change : changes)
-        page->addWidget(change.line);
-    page->addWidget(moreLabel);
+    page->addWidget(changeArea);
     page->addLayout(buttons);
-    setTabOrders({pathLabel, reasonTable, wayTable, changes[0].goToBtn, changes[1].goToBtn,
-                  changes[2].goToBtn, copyBtn, exportBtn, closeBtn});
+    setTabOrders({pathLabel, reasonTable, wayTable, changes[0].goToBtn, copyBtn, exportBtn, closeBtn});
 }
 
 void WhyViewController::viewDidLoad() {
@@ -384,19 +389,20 @@ std::vector<WhyViewController::Touch> WhyViewController::touchesOf(const Reason&
 void WhyViewController::showChanges() {
     const Reason* reason = selectedReason();
     touches_ = reason != nullptr ? touchesOf(*reason) : std::vector<Touch>();
+    while (changes.size() < touches_.size())
+        addChange();
     for (std::size_t at = 0; at < changes.size(); ++at) {
         const Change& change = changes[at];
         const bool isThere = at < touches_.size();
-        change.line->setVisible(isThere || at == 0); // what stands there keeps its place
+        change.text->setText(isThere             ? touches_[at].text
+                             : reason == nullptr ? L("Why_Nothing_Chosen_Label")
+                                                 : L("Why_Nothing_There_Label"));
+        change.line->setVisible(isThere || at == 0);
         change.goToBtn->setEnabled(isThere && !changesWait);
-        change.text->setText(
-            isThere ? touches_[at].text
-                    : L(reason == nullptr ? "Why_Nothing_Chosen_Label" : "Why_Nothing_There_Label"));
         change.goToBtn->setAccessibleDescription(change.text->text());
     }
-    const int more = static_cast<int>(touches_.size()) - static_cast<int>(changes.size());
-    moreLabel->setText(more > 0 ? L("Pending_More_Label", more) : QString());
-    moreLabel->setVisible(more > 0);
+    const int line = changes.front().goToBtn->sizeHint().height() + changeArea->widget()->layout()->spacing();
+    changeArea->setFixedHeight(changesInView * line); // whether they are there or not: nothing jumps
 }
 
 /// Leads to the assignment's row, from a tab of the rights window to its neighbour, from another page to the

@@ -6,7 +6,6 @@
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/ViewController.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -16,6 +15,7 @@
 
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QWidget;
 
 namespace quorvan {
@@ -36,14 +36,14 @@ public:
     ListTable* reasonTable = nullptr;
     ListTable* wayTable = nullptr;
     QLabel* noteLabel = nullptr; ///< what could not be seen
-    /// What would change a right, and the way to it. More is counted below.
+    /// What would change a right, and the way to it. As many as any right has needed yet.
     struct Change {
         QWidget* line = nullptr;
         QLabel* text = nullptr;
         QPushButton* goToBtn = nullptr;
     };
-    std::array<Change, 3> changes;
-    QLabel* moreLabel = nullptr;
+    std::vector<Change> changes;
+    QScrollArea* changeArea = nullptr;
     QPushButton* copyBtn = nullptr;
     QPushButton* exportBtn = nullptr;
     QPushButton* closeBtn = nullptr;
@@ -76,7 +76,7 @@ private:
         std::size_t folder;
     };
 
-    void buildChanges();
+    void addChange();
     void layOutControls();
     bool read();
     bool readWay();

@@ -182,6 +182,7 @@ TEST_F(WhyTest, LeadsFromOtherPagesToTheAssignmentUnlessChangesWait) {
     open("files").take("selectUserBtn", "Users_Title", meridal, {"Ann"});
     EXPECT_EQ(why("fsrTable"), "Why Ann?");
     EXPECT_EQ(state("goToBtn"), "ready");
+    EXPECT_EQ(value("changeLabel2"), "and Supervisor_Label from Inner on VOL1:\\Tests\\Box");
     act("closeBtn, tick 0E");
     why("fsrTable");
     EXPECT_EQ(state("goToBtn"), "grey") << "the page would lose what waits";
