@@ -215,6 +215,7 @@ void way(benchmark::State& state) {
     Page ours;
     const Bare bare;
     std::vector<std::string> requests;
+    requests.reserve(folders.size());
     for (const std::string& folder : folders)
         requests.push_back(XMLReadWriteController::createGetTrusteesListRequestAD(folder));
     ours.open();
