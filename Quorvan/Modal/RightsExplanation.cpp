@@ -4,6 +4,7 @@
 #include "Quorvan/Modal/Constants.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quorvan {
 
@@ -63,6 +64,12 @@ RightsExplanation explainRights(const std::vector<FolderOnWay>& way,
             reason.isHeld = true;
     }
     return explanation;
+}
+
+bool hasUnlistedMembers(const std::string& id) {
+    constexpr std::array wellKnown = {"S-1-1-0", "S-1-5-11", "S-1-5-32-545"};
+    return std::ranges::find(wellKnown, id) != wellKnown.end() ||
+           (id.starts_with("S-1-5-21-") && (id.ends_with("-513") || id.ends_with("-515")));
 }
 
 std::vector<StoppedRight> stoppedRights(const std::vector<FolderOnWay>& way, const std::string& id,

@@ -14,6 +14,7 @@ struct FolderOnWay {
     struct Assignment {
         std::string id;
         std::uint16_t rights = 0; ///< mask of KelpRights
+        std::string name = {};
     };
 
     std::string path;
@@ -61,6 +62,10 @@ struct RightsExplanation {
 /// the holders' rights add up. What lies above a folder that could not be read is left out.
 RightsExplanation explainRights(const std::vector<FolderOnWay>& way,
                                 const std::vector<RightsHolder>& holders);
+
+/// Whether an identifier of Active Directory stands for a group whose members no directory lists: everyone,
+/// whoever has logged in, or the group that every user of a domain has as the primary one.
+bool hasUnlistedMembers(const std::string& id);
 
 /// A right that does not arrive at the path.
 struct StoppedRight {

@@ -1378,7 +1378,7 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <translation>Alle haben auf %1 diese Rechte: %2. Ob das hier gilt, gibt der Verzeichnisdienst nicht an.</translation>
+    <translation>%3 hat auf %1 diese Rechte: %2. Ob das hier gilt, gibt der Verzeichnisdienst nicht an.</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

@@ -1574,8 +1574,8 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <extracomment>%1 is a path, %2 are rights in words.</extracomment>
-    <translation>Everyone is granted %2 on %1. Whether that counts here, the directory does not say.</translation>
+    <extracomment>%1 is a path, %2 are rights in words, %3 is the name of a group such as Everyone.</extracomment>
+    <translation>%3 is granted these rights on %1: %2. Whether that counts here, the directory does not say.</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

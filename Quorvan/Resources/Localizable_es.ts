@@ -1378,7 +1378,7 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <translation>Todos tienen estos derechos en %1: %2. El directorio no dice si eso vale aquí.</translation>
+    <translation>%3 tiene estos derechos en %1: %2. El directorio no dice si eso vale aquí.</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

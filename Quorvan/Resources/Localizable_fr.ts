@@ -1378,7 +1378,7 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <translation>Tout le monde a ces droits sur %1 : %2. L’annuaire ne dit pas si cela vaut ici.</translation>
+    <translation>%3 a ces droits sur %1 : %2. L’annuaire ne dit pas si cela vaut ici.</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

@@ -1373,7 +1373,7 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <translation>%1 で全員に付与されている権限: %2。ここで有効かどうかは、ディレクトリサービスからはわかりません。</translation>
+    <translation>%3 に %1 で付与されている権限: %2。ここで有効かどうかは、ディレクトリサービスからはわかりません。</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

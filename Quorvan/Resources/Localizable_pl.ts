@@ -1383,7 +1383,7 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <translation>Wszyscy mają na %1 uprawnienia: %2. Usługa katalogowa nie określa, czy to tutaj obowiązuje.</translation>
+    <translation>%3 ma na %1 uprawnienia: %2. Usługa katalogowa nie określa, czy to tutaj obowiązuje.</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

@@ -1378,7 +1378,7 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
   </message>
   <message id="Why_Everyone_Label">
     <source></source>
-    <translation>Todos têm estes direitos em %1: %2. O diretório não diz se isso vale aqui.</translation>
+    <translation>%3 tem estes direitos em %1: %2. O diretório não diz se isso vale aqui.</translation>
   </message>
   <message id="Why_No_Assignment_Label">
     <source></source>

@@ -66,7 +66,7 @@ std::vector<FolderOnWay> readRightsWay(XMLReadWriteController& controller, const
             break;
         FolderOnWay step{folder, {}, filter.uright, status == "0", liesBelowLink(status)};
         for (const auto& trustee : trustees)
-            step.assignments.push_back({trustee->trusteeID, trustee->rights});
+            step.assignments.push_back({trustee->trusteeID, trustee->rights, trustee->trusteeName});
         way.push_back(std::move(step));
     }
     return way;

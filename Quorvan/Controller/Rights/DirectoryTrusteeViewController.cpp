@@ -182,7 +182,7 @@ void DirectoryTrusteeViewController::markStoppedRights() {
     }
     for (const DirectoryRights& row : parenttrusteeList)
         if (const auto place = places.find(row.path); place != places.end())
-            way[place->second].assignments.push_back({row.trustee->trusteeID, row.trustee->rights});
+            way[place->second].assignments.push_back({row.trustee->trusteeID, row.trustee->rights, {}});
 
     std::unordered_map<std::string, StoppedRights> stopped;
     int count = 0;

@@ -37,7 +37,6 @@ namespace quorvan {
 namespace {
 
 constexpr int changesInView = 3;
-constexpr const char* everyone = "S-1-1-0"; ///< which no directory lists as a group of anybody
 
 QString shown(const std::string& text) {
     return shownText(QString::fromStdString(text));
@@ -230,10 +229,11 @@ void WhyViewController::show() {
         notes.append(L("Why_Invisible_Label").arg(shown(way_[*explanation_.lastInvisible].path)));
     for (const FolderOnWay& folder : way_)
         for (const auto& assignment : folder.assignments)
-            if (assignment.id == everyone &&
-                std::ranges::find(holders_, everyone, &RightsHolder::id) == holders_.end())
+            if (hasUnlistedMembers(assignment.id) &&
+                std::ranges::find(holders_, assignment.id, &RightsHolder::id) == holders_.end())
                 notes.append(
-                    L("Why_Everyone_Label").arg(shown(folder.path), rightsInWords(assignment.rights)));
+                    L("Why_Everyone_Label")
+                        .arg(shown(folder.path), rightsInWords(assignment.rights), shown(assignment.name)));
     noteLabel->setText(notes.join(QLatin1Char('\n')));
     noteLabel->setVisible(!notes.isEmpty());
     showWay();

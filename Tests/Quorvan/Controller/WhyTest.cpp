@@ -22,6 +22,7 @@ struct WhyTest : WindowTest {
                          {"Why_Served_More_Label", "unexplained: %1"},
                          {"Why_Served_Less_Label", "not granted: %1"},
                          {"Why_Invisible_Label", "%1 is not visible"},
+                         {"Why_Everyone_Label", "%3 has %2 on %1"},
                          {"Why_Window_Title", "Why: %1 on %2"},
                          {"Why_Take_Label", "take %1 from %2 on %3"},
                          {"Why_Take_Also_Label", "and %1 from %2 on %3"},
@@ -39,6 +40,8 @@ struct WhyTest : WindowTest {
         world.server->setTrustee("VOL1:\\Tests", *ann, 0x010);
         world.server->setTrustee("VOL1:\\", *ann, 0x008);
         world.server->setFilter(box, 0x0EB); // stops Erase
+        world.server->setTrustee(
+            "VOL1:\\Tests", world.identities->addDomainGroup("Domain Users", "S-1-5-21-7-8-9-513"), 0x001);
     }
     WhyTest& openWhy() {
         open("effective").take("selectUserBtn", "Users_Title", meridal, {"Ann"});
@@ -59,6 +62,7 @@ TEST_F(WhyTest, NamesWhereEachRightComesFromAndWhatStopsIt) {
                                "Erase_Label Why_No_Label to Ann on VOL1:\\Tests; stopped on Box",
                                "Create_Label Why_No_Label to Ann on VOL1:\\; replaced on VOL1:\\Tests",
                                "Modify_Label Why_No_Label Why_Nowhere_Label"}));
+    EXPECT_EQ(value("noteLabel"), "Domain Users has Read_Label on VOL1:\\Tests");
     EXPECT_FALSE(isEnabled("goToBtn"));
     // By keyboard: the first reasons, then the one of Erase, whose folder is marked for eye and ear.
     const auto& reasons = control<ListTable>("reasonTable");
