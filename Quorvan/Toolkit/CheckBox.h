@@ -5,16 +5,14 @@
 
 namespace quorvan {
 
-/// A colour between two others; `share` 1 is `to`.
-QColor mixedColor(const QColor& from, const QColor& to, float share);
+/// What a box is there for, as far as it shows.
+enum class BoxUse { toRead, toClick, hovered, pressed };
 
-/// The palette for a box that can be clicked: styles outline one with a darkened window colour, which is
-/// lost on most tables and on dark windows.
-QPalette boxPalette(QPalette palette);
-
-/// Draws a box that is there to be read, the same in every style: styles grey out its tick until it cannot
-/// be told from none, or colour it like one that can be clicked. `state` as of QCheckBox.
-void paintReadOnlyBox(QPainter& painter, const QRect& box, const QPalette& palette, Qt::CheckState state);
+/// Draws a box, the same in every style: some outline one so faintly that it is lost on the table, and grey
+/// out the tick of one that is only there to be read until it cannot be told from none, or colour it like
+/// one that can be clicked. `state` as of QCheckBox.
+void paintBox(QPainter& painter, const QRect& area, const QPalette& palette, Qt::CheckState state,
+              BoxUse use);
 
 /// A check box whose outline can be seen in every palette, and which is legible while it is disabled.
 class CheckBox : public QCheckBox {

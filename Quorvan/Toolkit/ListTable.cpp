@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/ListTable.h"
 
-#include "Quorvan/Toolkit/CheckBox.h"
+#include "Quorvan/Toolkit/Contrast.h"
 #include "Quorvan/Toolkit/Export.h"
 #include "Quorvan/Toolkit/ListModel.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
@@ -253,7 +253,9 @@ void ListTable::paintEvent(QPaintEvent* event) {
         return;
     QPainter painter(viewport());
     // Quieter than the rows, but legible in every palette; a placeholder's own colour often is not.
-    painter.setPen(mixedColor(palette().color(QPalette::Base), palette().color(QPalette::Text), 0.67F));
+    const QColor base = palette().color(QPalette::Base);
+    painter.setPen(
+        withContrast(mixedColor(base, palette().color(QPalette::Text), 0.67F), base, legibleContrast));
     painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
                      emptyText_);
 }

@@ -27,21 +27,6 @@ QRect boxRect(const QRect& cell, const QWidget* widget) {
     return QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, cell);
 }
 
-void paintBox(QPainter* painter, const QRect& area, const QStyleOptionViewItem& option, bool ticked,
-              bool pressed) {
-    QStyleOptionButton box;
-    box.rect = area;
-    box.palette = boxPalette(option.palette);
-    box.direction = option.direction;
-    box.fontMetrics = option.fontMetrics;
-    box.state = option.state & (QStyle::State_Active | QStyle::State_MouseOver);
-    box.state.setFlag(QStyle::State_Enabled);
-    box.state.setFlag(QStyle::State_Sunken, pressed);
-    box.state.setFlag(QStyle::State_On, ticked);
-    box.state.setFlag(QStyle::State_Off, !ticked);
-    styleOf(option.widget)->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, option.widget);
-}
-
 /// A bar below the box: what is granted here comes no further.
 void paintStop(QPainter& painter, const QRect& box, const QStyleOptionViewItem& option) {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
@@ -73,10 +58,11 @@ void RightsCheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem
 
     const auto ticked = static_cast<Qt::CheckState>(index.data(Qt::CheckStateRole).toInt());
     const QRect box = boxRect(option.rect, option.widget);
-    if (index.flags().testFlag(Qt::ItemIsUserCheckable))
-        paintBox(painter, box, option, ticked == Qt::Checked, pressed_ == index);
-    else
-        paintReadOnlyBox(*painter, box, option.palette, ticked);
+    const BoxUse use = !index.flags().testFlag(Qt::ItemIsUserCheckable) ? BoxUse::toRead
+                       : pressed_ == index                              ? BoxUse::pressed
+                       : option.state.testFlag(QStyle::State_MouseOver) ? BoxUse::hovered
+                                                                        : BoxUse::toClick;
+    paintBox(*painter, box, option.palette, ticked, use);
     if (index.data(RightsTableModel::stoppedRole).toBool())
         paintStop(*painter, box, option);
     if (option.state.testFlag(QStyle::State_HasFocus))
