@@ -1520,5 +1520,9 @@ Quorvan kann Dateien noch nicht wiederherstellen oder endgültig löschen und se
     <translation>In der Tabelle war kein Benutzer ausgewählt.
 Fügen Sie hier welche hinzu, oder schließen Sie und wählen Sie dort welche aus.</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <translation>Wird hier gezeigt, nicht geändert</translation>
+  </message>
 </context>
 </TS>

@@ -1743,5 +1743,10 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
     <translation>No user was selected in the table.
 Add users here, or close and select some there.</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <extracomment>Why a box of a right cannot be clicked.</extracomment>
+    <translation>Shown here, not changed here</translation>
+  </message>
 </context>
 </TS>

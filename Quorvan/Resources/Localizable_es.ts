@@ -1520,5 +1520,9 @@ Quorvan aún no puede recuperar ni purgar archivos y no envía nada al servidor 
     <translation>No había ningún usuario seleccionado en la tabla.
 Añada usuarios aquí, o cierre y selecciónelos allí.</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <translation>Se muestra aquí; no se cambia aquí</translation>
+  </message>
 </context>
 </TS>

@@ -1520,5 +1520,9 @@ Quorvan ne peut pas encore récupérer ni purger des fichiers et n’envoie rien
     <translation>Aucun utilisateur n’était sélectionné dans le tableau.
 Ajoutez-en ici, ou fermez et sélectionnez-en là-bas.</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <translation>Affiché ici, non modifiable ici</translation>
+  </message>
 </context>
 </TS>

@@ -1514,5 +1514,9 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
     <translation>表でユーザーが選ばれていません。
 ここで追加するか、閉じて表で選んでください。</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <translation>ここでは表示のみで、変更できません</translation>
+  </message>
 </context>
 </TS>

@@ -1526,5 +1526,9 @@ Quorvan nie potrafi jeszcze odzyskiwać ani wymazywać plików i nie wysyła st�
     <translation>W tabeli nie wybrano użytkownika.
 Dodaj użytkowników tutaj albo zamknij i wybierz ich tam.</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <translation>Tutaj tylko pokazane, nie do zmiany</translation>
+  </message>
 </context>
 </TS>

@@ -1520,5 +1520,9 @@ O Quorvan ainda não pode recuperar nem purgar arquivos e não envia nada ao ser
     <translation>Nenhum usuário estava selecionado na tabela.
 Adicione usuários aqui, ou feche e selecione-os lá.</translation>
   </message>
+  <message id="Why_Only_Shown_Label">
+    <source></source>
+    <translation>Mostrado aqui; não é alterado aqui</translation>
+  </message>
 </context>
 </TS>

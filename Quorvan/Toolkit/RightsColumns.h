@@ -29,4 +29,12 @@ inline constexpr std::array<RightsColumn, 8> rightsColumns = {
      {"A", KelpRights::accessControl, "Access_Control_Label", "accessControlCheckID",
       "Access_Control_Explained_Label"}}};
 
+/// The key of the text that says why somebody with these rights of their own cannot click the boxes of a
+/// right; null when they can: only a Supervisor makes another one.
+inline const char* whyRightIsGrey(std::uint16_t bit, bool isSupervisor, bool isAccessControl) {
+    if (isSupervisor || (isAccessControl && bit != KelpRights::supervisor))
+        return nullptr;
+    return bit == KelpRights::supervisor ? "Why_Needs_Supervisor_Label" : "Why_Needs_Rights_Label";
+}
+
 } // namespace quorvan

@@ -71,7 +71,7 @@ void RightsTable::clickBoxes(std::uint16_t rights, std::uint16_t wanted) {
 }
 
 void RightsTable::addRowActions(QMenu& menu) {
-    if (!switchedOn_ || !model_->isEnabled)
+    if (!switchedOn_ || !model_->whyGrey)
         return;
     menu.addSeparator();
     constexpr std::uint16_t all = 0xFFFF;
@@ -84,7 +84,7 @@ void RightsTable::addRowActions(QMenu& menu) {
             (on ? grant : takeAway)
                 ->addAction(model_->rightName(column), this,
                             [this, bit, on] { clickBoxes(bit, on ? all : 0); })
-                ->setEnabled(model_->isEnabled(bit));
+                ->setEnabled(model_->whyGrey(bit) == nullptr);
     }
     using Rights = KelpRights;
     constexpr std::uint16_t read = Rights::read | Rights::fileScan;

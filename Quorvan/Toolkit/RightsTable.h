@@ -21,7 +21,7 @@ public:
     RightsTable(const std::vector<RightsTextColumn>& textColumns, std::unique_ptr<RightsRowSource> rows,
                 QWidget* parent = nullptr);
 
-    void setEnablingRule(RightsTableModel::EnablingRule rule) { model_->isEnabled = std::move(rule); }
+    void setGreyRule(RightsTableModel::GreyRule rule) { model_->whyGrey = std::move(rule); }
     void setClickHandler(RightsTableModel::ClickHandler handler) { model_->onClick = std::move(handler); }
 
     /// A table that is switched off takes neither ticks nor a selection, but unlike a disabled widget it

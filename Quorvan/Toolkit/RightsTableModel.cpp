@@ -70,7 +70,7 @@ Qt::ItemFlags RightsTableModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     const RightsColumn* box = right(index.column());
     // A box that may not be clicked stays within reach of the keyboard, so that it can be read out.
-    flags.setFlag(Qt::ItemIsUserCheckable, box != nullptr && isEnabled && isEnabled(box->bit));
+    flags.setFlag(Qt::ItemIsUserCheckable, box != nullptr && whyFixed(*box) == nullptr);
     return flags;
 }
 
@@ -98,6 +98,10 @@ QVariant RightsTableModel::rightData(const QModelIndex& index, int role) const {
     const QString stop = ticked ? stoppedBy(index) : QString();
     if (role == stoppedRole)
         return !stop.isEmpty();
+    const char* const why = whyFixed(*right(index.column()));
+    const QString reason = why != nullptr ? L(why) : QString();
+    if (role == Qt::AccessibleDescriptionRole)
+        return reason;
     if (role != Qt::ToolTipRole && role != Qt::AccessibleTextRole)
         return {};
     QString text = rightName(index.column());
@@ -105,7 +109,9 @@ QVariant RightsTableModel::rightData(const QModelIndex& index, int role) const {
         text = (ticked ? tickedText_ : untickedText_).arg(text);
     if (!stop.isEmpty())
         text = L("Right_Stopped_Label").arg(text, stop);
-    return role == Qt::ToolTipRole ? plainToolTip(text) : text;
+    if (role == Qt::AccessibleTextRole)
+        return text;
+    return plainToolTip(reason.isEmpty() ? text : text + QLatin1Char('\n') + reason);
 }
 
 QString RightsTableModel::stoppedBy(const QModelIndex& index) const {

@@ -57,13 +57,14 @@ public:
     /// Whether the ticked box of a right carries the mark of one that is stopped.
     static constexpr int stoppedRole = Qt::UserRole;
 
-    using EnablingRule = std::function<bool(std::uint16_t bit)>;
+    /// The key of the text that says why the boxes of a right cannot be clicked; null while they can.
+    using GreyRule = std::function<const char*(std::uint16_t bit)>;
     using ClickHandler = std::function<void(const RightsCheckBox&)>;
 
     RightsTableModel(std::vector<RightsTextColumn> textColumns, std::unique_ptr<RightsRowSource> rows);
 
-    EnablingRule isEnabled; ///< which rights may be clicked; none without a rule
-    ClickHandler onClick;   ///< puts a click into the rows; they are asked again afterwards
+    GreyRule whyGrey;     ///< without a rule no box can be clicked
+    ClickHandler onClick; ///< puts a click into the rows; they are asked again afterwards
 
     const RightsTextColumn& textColumn(int column) const {
         return textColumns_[static_cast<std::size_t>(column)];
@@ -91,6 +92,9 @@ protected:
     int listedRows() const override { return rows_->rowCount(); }
 
 private:
+    const char* whyFixed(const RightsColumn& box) const {
+        return whyGrey ? whyGrey(box.bit) : "Why_Only_Shown_Label";
+    }
     QVariant textData(const QModelIndex& index, int role) const;
     QVariant rightData(const QModelIndex& index, int role) const;
     /// The path that stops a right; empty where none does.

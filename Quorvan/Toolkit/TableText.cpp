@@ -3,6 +3,7 @@
 
 #include <QAbstractItemModel>
 
+#include <algorithm>
 #include <numeric>
 #include <utility>
 
@@ -22,13 +23,17 @@ QString headerText(const QAbstractItemModel& model, int column) {
     return name.isEmpty() ? model.headerData(column, Qt::Horizontal).toString() : name;
 }
 
+bool isControl(QChar letter) {
+    return letter.category() == QChar::Other_Control;
+}
+
 QString onOneLine(QString text) {
-    return text.replace(QLatin1Char('\t'), QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
+    std::ranges::replace_if(text, &isControl, u' ');
+    return text;
 }
 
 bool looksLikeFormula(const QString& text) {
-    return !text.isEmpty() &&
-           (QStringLiteral("=+-@").contains(text.front()) || text.front() < QLatin1Char(' '));
+    return !text.isEmpty() && (QStringLiteral("=+-@").contains(text.front()) || isControl(text.front()));
 }
 
 QString quoted(QString text) {

@@ -96,12 +96,18 @@ int walkThrough(const QString& folder, const QString& style, bool mainPagesOnly,
     int status = 0;
     if (!mainPagesOnly)
         status = walkThroughAtTwiceTheSize(folder, style);
-    QApplication::setStyle(style);
     QApplication::setQuitOnLastWindowClosed(false);
-    const std::pair<const char*, QPalette> looks[] = {{"light", quorvan::demo::lightPalette()},
-                                                      {"dark", quorvan::demo::darkPalette()},
-                                                      {"contrast", quorvan::demo::contrastPalette()}};
-    for (const auto& [prefix, palette] : looks) {
+    struct Look {
+        const char* prefix;
+        QPalette palette;
+        const char* variant; ///< what some styles have for it instead of following the palette
+    };
+    const Look looks[] = {{"light", quorvan::demo::lightPalette(), ""},
+                          {"dark", quorvan::demo::darkPalette(), "-dark"},
+                          {"contrast", quorvan::demo::contrastPalette(), "-highcontrastinverse"}};
+    for (const auto& [prefix, palette, variant] : looks) {
+        if (QApplication::setStyle(style + variant) == nullptr)
+            QApplication::setStyle(style);
         QApplication::setPalette(palette);
         output.prefix = QString::fromLatin1(prefix) + (mainPagesOnly ? "-200-percent" : "");
         if (mainPagesOnly || prefix == std::string_view("contrast"))

@@ -12,7 +12,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace quorvan {
@@ -47,8 +46,8 @@ void DirectoryTrusteeViewController::buildSides() {
         side.removeBtn = new QPushButton(this);
         side.removeBtn->setToolTip(L("Remove_Tip_Label"));
         explainWhenGrey(*side.removeBtn, "Why_Needs_Rights_Label");
-        side.table->setEnablingRule(
-            [this](std::uint16_t bit) { return bit == KelpRights::supervisor ? isSupervisor : canEdit(); });
+        side.table->setGreyRule(
+            [this](std::uint16_t bit) { return whyRightIsGrey(bit, isSupervisor, isAccessControl); });
         side.table->setClickHandler(
             [this, &side](const RightsCheckBox& sender) { onMouseClickCheckbox(side, sender); });
         addWhyAction(*this, *this, *side.table, [&side](int row) {
@@ -69,12 +68,9 @@ void DirectoryTrusteeViewController::buildSides() {
     outlet(removeLabel2, "removeLabel2");
     outlet(removeBtnSub, "removeBtnSub")->setText(L("Remove_title"));
     outlet(removeBtnParent, "removeBtnParent")->setText(L("Remove_Parent_title"));
-    stoppedBtn = outlet(new QToolButton(this), "stoppedBtn");
-    stoppedBtn->setAutoRaise(true);
-    stoppedBtn->setFocusPolicy(Qt::TabFocus);
-    stoppedBtn->setText(L("Stopped_title"));
+    stoppedBtn = outlet(new QPushButton(L("Stopped_title"), this), "stoppedBtn");
     stoppedBtn->setToolTip(L("Stopped_Tip_Label"));
-    connect(stoppedBtn, &QToolButton::clicked, this, [this] { markStoppedRights(); });
+    connect(stoppedBtn, &QPushButton::clicked, this, [this] { markStoppedRights(); });
     subdirTable->setRemoveButton(removeBtnSub);
     parentdirTable->setRemoveButton(removeBtnParent);
     connect(removeBtnSub, &QPushButton::clicked, this, [this] { removeTrusteeforSubdir(removeBtnSub); });

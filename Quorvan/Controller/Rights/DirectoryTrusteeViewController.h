@@ -11,7 +11,6 @@
 
 class QLabel;
 class QPushButton;
-class QToolButton;
 
 namespace quorvan {
 
@@ -34,7 +33,7 @@ public:
     RightsTable* parentdirTable = nullptr;
     QPushButton* removeBtnSub = nullptr;
     QPushButton* removeBtnParent = nullptr;
-    QToolButton* stoppedBtn = nullptr; ///< marks what does not arrive of the rights above
+    QPushButton* stoppedBtn = nullptr; ///< marks what does not arrive of the rights above
     SearchField* searchInSubField = nullptr;
     SearchField* searchInParentField = nullptr;
     QLabel* readOnlyLabel = nullptr; ///< says why nothing can be changed, where that is so

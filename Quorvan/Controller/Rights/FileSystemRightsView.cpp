@@ -68,8 +68,11 @@ void FileSystemRightsViewController::buildTable() {
                    {{"path", L("Col_Path"), Qt::ElideLeft}},
                    std::make_unique<RowsOf<std::shared_ptr<FileRights>, ShowPath>>(editedfrightsList), this),
                "fsrTable", plainL("File_System_Rights_Title"));
-    fsrTable->setEnablingRule(
-        [this](std::uint16_t /*bit*/) { return isSupervisor && !selectedTrusteeID.empty(); });
+    fsrTable->setGreyRule([this](std::uint16_t /*bit*/) -> const char* {
+        if (!isSupervisor)
+            return "Why_Needs_Supervisor_Label";
+        return selectedTrusteeID.empty() ? "Why_Nobody_Chosen_Label" : nullptr;
+    });
     fsrTable->setClickHandler([this](const RightsCheckBox& sender) { onMouseClickCheckbox(sender); });
     addWhyAction(*this, *this, *fsrTable, [this](int row) {
         const std::string name =

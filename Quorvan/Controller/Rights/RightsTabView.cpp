@@ -85,8 +85,8 @@ void RightsTabViewController::layOutControls() {
 void RightsTabViewController::connectControls() {
     rightsTable->setRemoveButton(removeBtn);
     reloadOnRefreshKey(*this, pendingLine, [this] { loadAgain(); });
-    rightsTable->setEnablingRule(
-        [this](std::uint16_t bit) { return bit == KelpRights::supervisor ? isSupervisor : canEdit(); });
+    rightsTable->setGreyRule(
+        [this](std::uint16_t bit) { return whyRightIsGrey(bit, isSupervisor, isAccessControl); });
     rightsTable->setClickHandler([this](const RightsCheckBox& sender) { onMouseClickCheckbox(sender); });
     rightsTable->setSortHandler([this] { sortDescriptorsDidChange(); });
     connect(searchField, &QLineEdit::textChanged, this, [this] { onSearch(searchField); });

@@ -31,7 +31,8 @@ struct RightsTableTest : testing::Test {
         for (const char* name : {"Cara", "abel", "Bea", "Abel"})
             rows.push_back(std::make_shared<Trustees>(name, name, KelpRights::read, "", "Users", ""));
         table = new RightsTable({{"username", "Name"}}, std::make_unique<TrusteeRows>(rows), &window);
-        table->setEnablingRule([](std::uint16_t bit) { return bit != KelpRights::supervisor; });
+        table->setGreyRule(
+            [](std::uint16_t bit) { return bit == KelpRights::supervisor ? "Why_Label" : nullptr; });
         table->setClickHandler([this](const RightsCheckBox& box) {
             clicks += std::to_string(box.row) + box.identifier + (box.ticked ? "+ " : "- ");
             rows[static_cast<std::size_t>(box.row)]->rights = box.ticked ? 0x1FB : 0;
@@ -88,7 +89,7 @@ TEST_F(RightsTableTest, ClicksBoxesWithTheMouseAndLeavesTheSelectionAlone) {
     EXPECT_THAT(table->selectedRowIndexes(), ElementsAre(3));
 
     // Switched off, it can be read with the keyboard, but takes neither ticks nor a selection.
-    table->setEnablingRule({});
+    table->setGreyRule({});
     table->setSwitchedOn(false);
     click(0, "R");
     click(2, "username");
@@ -226,6 +227,13 @@ TEST_F(RightsTableTest, SpeaksToScreenReaders) {
         EXPECT_EQ(reader->cellAt(0, column)->state().checkable, checks);
         EXPECT_EQ(reader->cellAt(0, column)->state().checked, checks);
     }
+    const auto said = [this](int column, int role) {
+        return table->model()->index(0, column).data(role).toString();
+    };
+    EXPECT_EQ(said(1, Qt::ToolTipRole), "Supervisor\nWhy_Label");
+    EXPECT_EQ(said(1, Qt::AccessibleDescriptionRole), "Why_Label");
+    EXPECT_EQ(said(2, Qt::ToolTipRole), "Read_Label");
+    EXPECT_EQ(said(2, Qt::AccessibleDescriptionRole), "");
     QString letters;
     for (int column = 1; column < 9; ++column)
         letters += table->model()->headerData(column, Qt::Horizontal).toString();
