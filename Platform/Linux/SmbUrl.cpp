@@ -3,6 +3,7 @@
 
 #include "Platform/PercentEscapes.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace quorvan::platform {
@@ -10,9 +11,18 @@ namespace {
 
 constexpr std::string_view scheme = "smb://";
 
+bool isPort(std::string_view text) {
+    return text.empty() || (text.front() == ':' && text.find_first_not_of("0123456789", 1) == text.npos);
+}
+
+/// A name or an address, one of IPv6 in brackets, and maybe a port.
 bool isServer(std::string_view text) {
-    return !text.empty() && text.front() != ':' &&
-           text.find_first_not_of(std::string(urlAlphanumerics) + "-._:[]") == std::string_view::npos;
+    const bool isV6 = text.substr(0, 1) == "[";
+    const std::size_t end = std::min(text.find(isV6 ? ']' : ':'), text.size());
+    const std::string_view host = text.substr(0, end).substr(isV6 ? 1 : 0);
+    const std::string allowed = std::string(urlAlphanumerics) + (isV6 ? ".:" : "-._");
+    return !host.empty() && host.find_first_not_of(allowed) == host.npos && (!isV6 || end < text.size()) &&
+           isPort(text.substr(isV6 ? end + 1 : end));
 }
 
 std::string_view trimSlashes(std::string_view text) {

@@ -37,9 +37,26 @@ TEST(SmbUrlTest, TakesShareUrlsApartAndPutsThemTogether) {
         EXPECT_EQ(url->name(), item.name);
         EXPECT_EQ(url->below("/a b"), item.below);
     }
-    for (const char* url :
-         {"", "smb://", "smb:///IPC$", "smb://h", "smb://h/", "smb://h//", "cifs://h/x", "//h/x",
-          "smb://user:pw@h/x", "smb://h?port=1/x", "smb://a b/x", "smb://h/a%00b", "smb://:445/x"})
+    for (const char* url : {"",
+                            "smb://",
+                            "smb:///IPC$",
+                            "smb://h",
+                            "smb://h/",
+                            "smb://h//",
+                            "cifs://h/x",
+                            "//h/x",
+                            "smb://user:pw@h/x",
+                            "smb://h?port=1/x",
+                            "smb://a b/x",
+                            "smb://h/a%00b",
+                            "smb://:445/x",
+                            "smb://[/x",
+                            "smb://[::1/x",
+                            "smb://[]/x",
+                            "smb://a]/x",
+                            "smb://[::1]x/x",
+                            "smb://h:x/x",
+                            "smb://a:b:1/x"})
         EXPECT_FALSE(SmbUrl::parse(url)) << url;
 }
 
