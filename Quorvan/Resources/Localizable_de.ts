@@ -1524,5 +1524,17 @@ Fügen Sie hier welche hinzu, oder schließen Sie und wählen Sie dort welche au
     <source></source>
     <translation>Wird hier gezeigt, nicht geändert</translation>
   </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <translation>ein</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <translation>aus</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <translation>wie zuvor</translation>
+  </message>
 </context>
 </TS>

@@ -1136,7 +1136,7 @@ Quorvan cannot salvage or purge files yet and sends nothing to the server here. 
   </message>
   <message id="Attributes_Change_Label">
     <source></source>
-    <extracomment>What a pending change is about; the attributes that are on follow.</extracomment>
+    <extracomment>What a pending change is about.</extracomment>
     <translation>Attributes</translation>
   </message>
   <message id="Owner_Change_Label">
@@ -1747,6 +1747,21 @@ Add users here, or close and select some there.</translation>
     <source></source>
     <extracomment>Why a box of a right cannot be clicked.</extracomment>
     <translation>Shown here, not changed here</translation>
+  </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <extracomment>What an attribute of a file is to be.</extracomment>
+    <translation>on</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <extracomment>What an attribute of a file is to be.</extracomment>
+    <translation>off</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <extracomment>What attributes of a file are to be that were changed and changed back.</extracomment>
+    <translation>as before</translation>
   </message>
 </context>
 </TS>

@@ -1524,5 +1524,17 @@ Añada usuarios aquí, o cierre y selecciónelos allí.</translation>
     <source></source>
     <translation>Se muestra aquí; no se cambia aquí</translation>
   </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <translation>activado</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <translation>desactivado</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <translation>como antes</translation>
+  </message>
 </context>
 </TS>

@@ -1524,5 +1524,17 @@ Ajoutez-en ici, ou fermez et sélectionnez-en là-bas.</translation>
     <source></source>
     <translation>Affiché ici, non modifiable ici</translation>
   </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <translation>activé</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <translation>désactivé</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <translation>comme avant</translation>
+  </message>
 </context>
 </TS>

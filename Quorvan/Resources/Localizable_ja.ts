@@ -1518,5 +1518,17 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
     <source></source>
     <translation>ここでは表示のみで、変更できません</translation>
   </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <translation>オン</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <translation>オフ</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <translation>以前のまま</translation>
+  </message>
 </context>
 </TS>

@@ -1530,5 +1530,17 @@ Dodaj użytkowników tutaj albo zamknij i wybierz ich tam.</translation>
     <source></source>
     <translation>Tutaj tylko pokazane, nie do zmiany</translation>
   </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <translation>włączony</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <translation>wyłączony</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <translation>jak poprzednio</translation>
+  </message>
 </context>
 </TS>

@@ -1524,5 +1524,17 @@ Adicione usuários aqui, ou feche e selecione-os lá.</translation>
     <source></source>
     <translation>Mostrado aqui; não é alterado aqui</translation>
   </message>
+  <message id="Attribute_On_Label">
+    <source></source>
+    <translation>ativado</translation>
+  </message>
+  <message id="Attribute_Off_Label">
+    <source></source>
+    <translation>desativado</translation>
+  </message>
+  <message id="Attributes_As_Before_Label">
+    <source></source>
+    <translation>como antes</translation>
+  </message>
 </context>
 </TS>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/NoticeLine.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
@@ -13,6 +13,12 @@ namespace {
 QPointer<NoticeLine>& theLine() {
     static QPointer<NoticeLine> line;
     return line;
+}
+
+/// Screen readers read out a notification that appears, wherever the focus is; of a label they do not.
+QAccessibleInterface* notification(const QString& /*className*/, QObject* object) {
+    auto* line = dynamic_cast<NoticeLine*>(object);
+    return line != nullptr ? new QAccessibleWidget(line, QAccessible::Notification) : nullptr;
 }
 
 } // namespace
@@ -32,6 +38,7 @@ NoticeLine::NoticeLine(QWidget* parent)
     line->addWidget(icon_, 0, Qt::AlignTop);
     line->addWidget(text_, 1);
     hide();
+    QAccessible::installFactory(&notification); // once, however often it is called
     theLine() = this;
 }
 
@@ -43,10 +50,9 @@ void NoticeLine::tell(Kind kind, const QString& text) {
     const int edge = line->fontMetrics().height();
     line->icon_->setPixmap(line->style()->standardIcon(icon).pixmap(edge, edge));
     line->text_->setText(text);
-    line->text_->setAccessibleName(text);
+    line->setAccessibleName(text);
+    line->hide(); // so that one that is there already appears anew
     line->show();
-    QAccessibleEvent announcement(line->text_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
 }
 
 void NoticeLine::forget() {

@@ -218,6 +218,26 @@ class View:
             pass
         time.sleep(0.2)  # for a tenth of a second the button is seen pressed; another press would begin it anew
 
+    def announced_by(self, act):
+        """What a screen reader reads out of itself within two seconds of `act`."""
+        from gi.repository import Atspi, GLib
+
+        said = []
+
+        def notice(event):
+            if event.detail1 and event.source.get_role() == Atspi.Role.NOTIFICATION:
+                said.append(event.source.get_name())
+
+        listener = Atspi.EventListener.new(notice)
+        listener.register("object:state-changed:showing")
+        act()
+        end = time.monotonic() + 2
+        while time.monotonic() < end:
+            GLib.MainContext.default().iteration(False)
+            time.sleep(0.01)
+        listener.deregister("object:state-changed:showing")
+        return said
+
     def cell(self, row, column):
         return self.wait_for("table").get_table_iface().get_accessible_at(row, column)
 

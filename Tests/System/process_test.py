@@ -270,8 +270,9 @@ class ProcessTest(WindowTest):
             self.view.click(self.view.cell(names.index(name), 3))  # W
         until(lambda: self.view.find("push button", "2 changes wait for Apply"), "both changes")
         self.server.kelp.ask("set-trustee", PATH, self.sid_of("Finance"), str(0x0141))  # meanwhile a Supervisor
-        self.apply()
-        until(lambda: self.view.find("label", "The server did not take 1 of 2 changes: Finance"), "the outcome")
+        outcome = "The server did not take 1 of 2 changes: Finance"
+        self.assertEqual(self.view.announced_by(self.apply), [outcome])
+        self.assertTrue(self.view.find("label", outcome), "which is on the screen, too")
         on_screen = dict(self.trustees_on_screen())
         self.assertEqual((on_screen["Ticketing"], on_screen["Finance"]), (0x0043, 0x0141))
         self.close("Trustee Rights")

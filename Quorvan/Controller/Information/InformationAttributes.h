@@ -3,7 +3,10 @@
 
 #include "Quorvan/Controller/Information/InformationViewController.h"
 
+#include <algorithm>
 #include <array>
+#include <string>
+#include <vector>
 
 namespace quorvan {
 
@@ -36,5 +39,9 @@ inline constexpr std::array<AttributeBox, 8> attributeBoxes = {{
     {&InformationViewController::dontCompressChk, "dontCompressChk", "dontCompressChkID", "doNotCompress",
      "Dont_Compress_Label", "Dont_Compress_Tip_Label"},
 }};
+
+inline bool hasAttribute(const std::vector<std::string>& attributes, const AttributeBox& box) {
+    return std::ranges::find(attributes, box.attribute) != attributes.end();
+}
 
 } // namespace quorvan

@@ -231,19 +231,25 @@ void InformationViewController::setOwner() {
         editedOwner = {"", ""};
 }
 
+std::vector<PendingChange> InformationViewController::changedAttributes() const {
+    std::vector<PendingChange> changes;
+    const std::vector<std::string> before = fileAttributes.attributes.value_or(std::vector<std::string>());
+    for (const AttributeBox& each : attributeBoxes)
+        if (const bool on = hasAttribute(editedFileAttributes, each); on != hasAttribute(before, each))
+            changes.push_back({each.attribute, PendingChange::Kind::changed, plainL(each.titleKey),
+                               L(on ? "Attribute_On_Label" : "Attribute_Off_Label"), on ? 1 : 0});
+    return changes;
+}
+
 std::vector<PendingChange> InformationViewController::pendingChanges() const {
     const auto change = [](const char* key, QString what) {
         return PendingChange{key, PendingChange::Kind::changed, plainL(key), std::move(what), 0};
     };
     std::vector<PendingChange> changes;
-    if (applyAttrs) {
-        QStringList names;
-        for (const AttributeBox& each : attributeBoxes)
-            if (std::ranges::find(editedFileAttributes, each.attribute) != editedFileAttributes.end())
-                names.append(plainL(each.titleKey));
-        changes.push_back(
-            change("Attributes_Change_Label", names.isEmpty() ? L("Pending_None_Label") : names.join(", ")));
-    }
+    if (applyAttrs)
+        changes = changedAttributes();
+    if (applyAttrs && changes.empty()) // ticked and cleared again: what is there is sent once more
+        changes.push_back(change("Attributes_Change_Label", L("Attributes_As_Before_Label")));
     if (applyOwner)
         changes.push_back(
             change("Owner_Change_Label", QString::fromStdString(editedOwner.ownerName.value_or(""))));
@@ -276,21 +282,14 @@ void InformationViewController::onApply() {
 }
 
 bool InformationViewController::applyAttributes(Outcome& outcome) {
-    const auto isIn = [](const std::vector<std::string>& names, const char* name) {
-        return std::ranges::find(names, name) != names.end();
-    };
-    const std::vector<std::string> before = fileAttributes.attributes.value_or(std::vector<std::string>());
-    for (const AttributeBox& each : attributeBoxes)
-        if (const bool on = isIn(editedFileAttributes, each.attribute); on != isIn(before, each.attribute))
-            outcome.sent.push_back(
-                {each.attribute, PendingChange::Kind::changed, plainL(each.titleKey), {}, on ? 1 : 0});
+    outcome.sent = changedAttributes();
     setFileAttributes(attributeTags());
     if (isLost())
         return false;
     outcome.isKnown = getFileAttributes() && outcome.isKnown;
     applyAttrs = false;
     for (const AttributeBox& each : attributeBoxes)
-        outcome.now[each.attribute] = isIn(editedFileAttributes, each.attribute) ? 1 : 0;
+        outcome.now[each.attribute] = hasAttribute(editedFileAttributes, each) ? 1 : 0;
     return !isLost();
 }
 

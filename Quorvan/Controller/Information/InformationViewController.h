@@ -117,6 +117,8 @@ public:
                               const std::string& category) override;
 
 private:
+    /// The attributes that are to be other than they were read.
+    std::vector<PendingChange> changedAttributes() const;
     std::vector<PendingChange> pendingChanges() const;
     void showPending();
     void buildHeader(QVBoxLayout& page);

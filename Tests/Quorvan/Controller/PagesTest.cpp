@@ -532,8 +532,17 @@ TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
     open("rights").act("type searchField zoe, tab 1, tab 0");
     EXPECT_EQ(value("searchField"), "") << "the list is read anew, and whole";
 
-    open("information").act("hideChk");
-    EXPECT_THAT(waiting(), ElementsAre(testing::StartsWith("Attributes: ")));
+    open("information").act("hideChk, readChk");
+    EXPECT_THAT(waiting(),
+                ElementsAre("Read Only: on", "Hidden: on", "Rename Inhibit: on", "Delete Inhibit: on"));
+    act("readChk");
+    world.server->misbehaviour.code = 7;
+    world.server->misbehaviour.onlyWith = "<setFileInfo";
+    act("applyButton");
+    EXPECT_EQ(value("noticeText"), "The server did not take 1 of 1 change: Hidden");
+    mend();
+    act("hideChk, hideChk");
+    EXPECT_THAT(waiting(), ElementsAre("Attributes: as before"));
     select("VOL1/Projects/Aurora");
     open("limit").act("editLimitBtn, type dirQuotaLimit 3");
     EXPECT_THAT(waiting(), ElementsAre("Limit of the directory: 3 GB"));
