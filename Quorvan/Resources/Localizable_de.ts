@@ -1536,5 +1536,9 @@ Fügen Sie hier welche hinzu, oder schließen Sie und wählen Sie dort welche au
     <source></source>
     <translation>wie zuvor</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <translation>Wählen Sie zuerst eine einzelne Zeile aus</translation>
+  </message>
 </context>
 </TS>

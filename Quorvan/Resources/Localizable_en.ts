@@ -1763,5 +1763,10 @@ Add users here, or close and select some there.</translation>
     <extracomment>What attributes of a file are to be that were changed and changed back.</extracomment>
     <translation>as before</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <extracomment>Why a control is grey.</extracomment>
+    <translation>Select a single row first</translation>
+  </message>
 </context>
 </TS>

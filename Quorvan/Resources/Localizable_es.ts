@@ -1536,5 +1536,9 @@ Añada usuarios aquí, o cierre y selecciónelos allí.</translation>
     <source></source>
     <translation>como antes</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <translation>Seleccione antes una sola fila</translation>
+  </message>
 </context>
 </TS>

@@ -1536,5 +1536,9 @@ Ajoutez-en ici, ou fermez et sélectionnez-en là-bas.</translation>
     <source></source>
     <translation>comme avant</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <translation>Sélectionnez d’abord une seule ligne</translation>
+  </message>
 </context>
 </TS>

@@ -1530,5 +1530,9 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
     <source></source>
     <translation>以前のまま</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <translation>先に 1 行だけ選択してください</translation>
+  </message>
 </context>
 </TS>

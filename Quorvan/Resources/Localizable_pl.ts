@@ -1542,5 +1542,9 @@ Dodaj użytkowników tutaj albo zamknij i wybierz ich tam.</translation>
     <source></source>
     <translation>jak poprzednio</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <translation>Najpierw zaznacz jeden wiersz</translation>
+  </message>
 </context>
 </TS>

@@ -1536,5 +1536,9 @@ Adicione usuários aqui, ou feche e selecione-os lá.</translation>
     <source></source>
     <translation>como antes</translation>
   </message>
+  <message id="Why_One_Only_Label">
+    <source></source>
+    <translation>Selecione antes uma única linha</translation>
+  </message>
 </context>
 </TS>

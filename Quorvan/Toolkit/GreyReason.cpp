@@ -3,7 +3,9 @@
 
 #include "Quorvan/Toolkit/Localized.h"
 
+#include <QAction>
 #include <QEvent>
+#include <QMenu>
 #include <QWidget>
 
 #include <algorithm>
@@ -48,6 +50,20 @@ void explainWhenGrey(QWidget& control, std::function<const char*()> whyKey) {
 
 void explainWhenGrey(QWidget& control, const char* whyKey) {
     explainWhenGrey(control, [whyKey] { return whyKey; });
+}
+
+void setGrey(QAction& action, const char* whyKey) {
+    action.setEnabled(whyKey == nullptr);
+    action.setToolTip(whyKey != nullptr ? L(whyKey) : QString());
+}
+
+void showGreyReasons(QMenu& menu) {
+    const QList<QAction*> entries = menu.actions();
+    menu.setToolTipsVisible(std::ranges::any_of(
+        entries, [](const QAction* entry) { return !entry->isEnabled() && !entry->isSeparator(); }));
+    for (const QAction* entry : entries)
+        if (entry->menu() != nullptr)
+            showGreyReasons(*entry->menu());
 }
 
 } // namespace quorvan

@@ -3,6 +3,8 @@
 
 #include <functional>
 
+class QAction;
+class QMenu;
 class QWidget;
 
 namespace quorvan {
@@ -11,5 +13,10 @@ namespace quorvan {
 /// returns the key of the text; the control must have its usual tool tip by then.
 void explainWhenGrey(QWidget& control, std::function<const char*()> whyKey);
 void explainWhenGrey(QWidget& control, const char* whyKey);
+
+/// The same for an entry of a menu; null when it is not grey.
+void setGrey(QAction& action, const char* whyKey);
+/// Lets a menu and those below it show the tips of their entries where one of them is grey.
+void showGreyReasons(QMenu& menu);
 
 } // namespace quorvan

@@ -3,6 +3,7 @@
 
 #include "Quorvan/Toolkit/Contrast.h"
 #include "Quorvan/Toolkit/Export.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/ListModel.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
 #include "Quorvan/Toolkit/TableText.h"
@@ -171,8 +172,10 @@ void ListTable::contextMenuEvent(QContextMenuEvent* event) {
         QAction* remove = menu.addAction(removeButton_->text(), QKeySequence(Qt::Key_Delete), removeButton_,
                                          &QPushButton::click);
         remove->setEnabled(removeButton_->isEnabled());
+        remove->setToolTip(removeButton_->toolTip()); // which says why it is grey
     }
     menu.addActions(actions());
+    showGreyReasons(menu);
     menu.exec(event->globalPos());
 }
 

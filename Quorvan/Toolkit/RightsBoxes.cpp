@@ -44,6 +44,11 @@ void RightsBoxes::setRights(std::uint16_t mask) {
     sayUnknown(false);
 }
 
+void RightsBoxes::makeReadOnly() {
+    setEnabled(false);
+    setToolTip(L("Why_Only_Shown_Label"));
+}
+
 void RightsBoxes::setUnknown() {
     for (QCheckBox* box : boxes_)
         box->setCheckState(Qt::PartiallyChecked);

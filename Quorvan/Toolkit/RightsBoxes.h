@@ -21,6 +21,8 @@ public:
     QCheckBox* box(std::uint16_t bit) const;
     static std::uint16_t bitOf(const QCheckBox* box);
 
+    /// They are there to be read, and say so.
+    void makeReadOnly();
     /// Ticks each box whose bit is set.
     void setRights(std::uint16_t mask);
     /// Shows of no right whether it is held.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Toolkit/RightsTable.h"
 
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/RightsCheckBoxDelegate.h"
 #include "Quorvan/Toolkit/TextDelegate.h"
 
@@ -81,10 +82,10 @@ void RightsTable::addRowActions(QMenu& menu) {
     for (int column = model_->textColumnCount(); column < model_->columnCount(); ++column) {
         const std::uint16_t bit = model_->right(column)->bit;
         for (const bool on : {true, false})
-            (on ? grant : takeAway)
-                ->addAction(model_->rightName(column), this,
-                            [this, bit, on] { clickBoxes(bit, on ? all : 0); })
-                ->setEnabled(model_->whyGrey(bit) == nullptr);
+            setGrey(*(on ? grant : takeAway)
+                         ->addAction(model_->rightName(column), this,
+                                     [this, bit, on] { clickBoxes(bit, on ? all : 0); }),
+                    model_->whyGrey(bit));
     }
     using Rights = KelpRights;
     constexpr std::uint16_t read = Rights::read | Rights::fileScan;
@@ -96,7 +97,7 @@ void RightsTable::addRowActions(QMenu& menu) {
                                         {"Preset_None_title", std::uint16_t{0}}})
         preset->addAction(L(title), this, [this, wanted = rights] { clickBoxes(all, wanted); });
     for (QMenu* each : {grant, takeAway, preset})
-        each->setEnabled(!selectedRowIndexes().empty());
+        setGrey(*each->menuAction(), selectedRowIndexes().empty() ? "Why_Nothing_Selected_Label" : nullptr);
 }
 
 void RightsTable::setSwitchedOn(bool on) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Quorvan/Controller/Identities/BrowseUserListViewController.h"
 
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PlainToolTip.h"
 
@@ -36,7 +37,8 @@ void BrowseUserListViewController::buildHead(QBoxLayout& page) {
 }
 
 void BrowseUserListViewController::initMainView() {
-    searchField->setEnabled(false); // there is nowhere to search yet
+    explainWhenGrey(*searchField, "Why_No_Place_Label");
+    searchField->setEnabled(false);
 }
 
 void BrowseUserListViewController::viewDidAppear() {

@@ -4,6 +4,7 @@
 #include "Common/ServerDetails.h"
 #include "Quorvan/Controller/Quota/UserQuotaRows.h"
 #include "Quorvan/Modal/Constants.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/ListRows.h"
 #include "Quorvan/Toolkit/ListTable.h"
 #include "Quorvan/Toolkit/Localized.h"
@@ -40,6 +41,7 @@ void AddUserQuotaViewController::loadView() {
     currentLimits = outlet(new QLabel(this), "currentLimits");
     takeOffBtn = outlet(new QPushButton(L("Take_Off_title"), this), "takeOffBtn");
     takeOffBtn->setToolTip(L("Take_Off_Tip_Label"));
+    explainWhenGrey(*takeOffBtn, "Why_Nobody_Chosen_Label");
     userList->setRemoveButton(takeOffBtn);
     cancelBtn = outlet(new QPushButton(this), "cancelBtn");
     okBtn = outlet(new QPushButton(this), "okBtn");

@@ -56,7 +56,7 @@ void EffectiveRightsViewController::buildChosenIdentity() {
     });
 
     effectiveBoxes = outlet(new RightsBoxes(4, this), "effectiveBoxes", L("Select_Effective_Trustee_Label"));
-    effectiveBoxes->setEnabled(false); // for reading
+    effectiveBoxes->makeReadOnly();
     readChk = outlet(effectiveBoxes->box(KelpRights::read), "readChk");
     writeChk = outlet(effectiveBoxes->box(KelpRights::write), "writeChk");
     eraseChk = outlet(effectiveBoxes->box(KelpRights::erase), "eraseChk");

@@ -52,7 +52,7 @@ void WhyViewController::loadView() {
     using Kind = ColumnWidths::Kind;
     pathLabel = outlet(new PathLabel(this), "pathLabel", L("Managed_Path_Label"));
     answerBoxes = outlet(new RightsBoxes(4, this), "answerBoxes", L("Why_Served_Label"));
-    answerBoxes->setEnabled(false); // for reading
+    answerBoxes->makeReadOnly();
     differenceLabel = outlet(new QLabel(this), "differenceLabel");
     QFont bold = font();
     bold.setBold(true);
@@ -481,12 +481,14 @@ void addWhyAction(ViewController& view, const SelectionContext& selection, ListT
                   const std::function<WhyQuestion(int row)>& questionOf) {
     auto* action = new QAction(L("Why_title"), &table);
     action->setObjectName(QStringLiteral("whyAction"));
-    action->setEnabled(false);
+    setGrey(*action, "Why_Nothing_Selected_Label");
     table.addAction(action);
     QObject::connect(table.selectionModel(), &QItemSelectionModel::selectionChanged, action,
                      [action, &table, questionOf] {
                          const std::vector<int> rows = table.selectedRowIndexes();
-                         action->setEnabled(rows.size() == 1);
+                         setGrey(*action, rows.empty()       ? "Why_Nothing_Selected_Label"
+                                          : rows.size() == 1 ? nullptr
+                                                             : "Why_One_Only_Label");
                          if (rows.size() == 1)
                              action->setText(L("Why_Named_title")
                                                  .arg(shown(questionOf(rows.front()).who.name)

@@ -5,6 +5,7 @@
 #include "Quorvan/Controller/Shell/MainMenu.h"
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/Toolkit/CheckBox.h"
+#include "Quorvan/Toolkit/GreyReason.h"
 #include "Quorvan/Toolkit/Localized.h"
 #include "Quorvan/Toolkit/PageKeys.h"
 #include "Quorvan/Toolkit/PathLabel.h"
@@ -22,6 +23,7 @@ void SettingsController::loadView() {
     currentPath = outlet(new PathLabel(this), "currentPath", L("Managed_Path_Label"));
     currentPath->setPath(selectedPathName());
     ListBoth = outlet(new CheckBox(this), "ListBoth");
+    explainWhenGrey(*ListBoth, "Why_Needs_Rights_Label");
     AddTrusteesMessage = outlet(new QLabel(this), "AddTrusteesMessage");
     readOnlyLabel = outlet(new QLabel(L("Settings_Read_Only_Label"), this), "readOnlyLabel");
     LogDetailsLabel = outlet(new QLabel(this), "LogDetailsLabel");

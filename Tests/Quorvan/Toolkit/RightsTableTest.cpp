@@ -139,17 +139,25 @@ TEST_F(RightsTableTest, SurvivesRowsThatChangeBeforeItIsToldAndKeepsTheKeyboards
 }
 
 TEST_F(RightsTableTest, ClicksTheBoxesOfSeveralRowsFromTheirMenu) {
-    const auto choose = [this](const QString& menuTitle, const QString& actionTitle) {
+    QString why; // an entry is grey
+    const auto choose = [&](const QString& menuTitle, const QString& actionTitle) {
         bool isChosen = false;
+        why.clear();
         QTimer::singleShot(0, table, [&] {
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            for (const QAction* sub : menu->actions())
-                if (sub->text() == menuTitle && sub->isEnabled())
-                    for (QAction* action : sub->menu()->actions())
-                        if (action->text() == actionTitle && action->isEnabled()) {
-                            action->trigger();
-                            isChosen = true;
-                        }
+            const auto take = [&](QMenu& list, const QString& title) -> QAction* {
+                for (QAction* action : list.actions())
+                    if (action->text() == title && action->isEnabled())
+                        return action;
+                    else if (action->text() == title && list.toolTipsVisible())
+                        why = action->toolTip();
+                return nullptr;
+            };
+            QAction* const sub = take(*menu, menuTitle);
+            if (QAction* const action = sub != nullptr ? take(*sub->menu(), actionTitle) : nullptr) {
+                action->trigger();
+                isChosen = true;
+            }
             menu->close();
         });
         const QPoint place = center(0, "username");
@@ -163,6 +171,7 @@ TEST_F(RightsTableTest, ClicksTheBoxesOfSeveralRowsFromTheirMenu) {
         clicks += std::to_string(box.row) + box.identifier + (box.ticked ? "+ " : "- ");
     });
     EXPECT_FALSE(choose("Grant_title", "Write_Label")) << "no row is selected";
+    EXPECT_EQ(why, "Why_Nothing_Selected_Label");
     click(1, "username");
     click(3, "username", Qt::ControlModifier);
     rows[3]->rights = KelpRights::write | KelpRights::supervisor;
@@ -171,6 +180,7 @@ TEST_F(RightsTableTest, ClicksTheBoxesOfSeveralRowsFromTheirMenu) {
     EXPECT_TRUE(choose("Take_Away_title", "Read_Label"));
     EXPECT_EQ(std::exchange(clicks, {}), "1R- ");
     EXPECT_FALSE(choose("Grant_title", "Supervisor")) << "which this user may not grant";
+    EXPECT_EQ(why, "Why_Label");
     EXPECT_TRUE(choose("Set_Rights_title", "Preset_Read_title"));
     EXPECT_EQ(std::exchange(clicks, {}), "1R+ 1W- 1F+ 3R+ 3W- 3F+ ");
     EXPECT_TRUE(choose("Set_Rights_title", "Preset_Write_title"));
