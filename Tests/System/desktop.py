@@ -67,10 +67,10 @@ def until(condition, what, seconds=20):
 class Screen:
     """An X server with its pointer."""
 
-    def __init__(self):
+    def __init__(self, size="1280x1024"):
         reading, writing = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp"],
             pass_fds=[writing],
             stderr=subprocess.DEVNULL,
         )
@@ -101,13 +101,16 @@ class Screen:
             xtest.fake_input(self.display, X.KeyRelease, code)
         self.display.sync()
 
+    def window(self, title):
+        return next((w for w in self.display.screen().root.query_tree().children if w.get_wm_name() == title), None)
+
     def close_window(self, title):
         """What the close button of a title bar does."""
         from Xlib import X
         from Xlib.protocol import event
 
         atom = self.display.intern_atom
-        window = next(w for w in self.display.screen().root.query_tree().children if w.get_wm_name() == title)
+        window = self.window(title)
         window.send_event(
             event.ClientMessage(
                 window=window,

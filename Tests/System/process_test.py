@@ -15,6 +15,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import unittest.mock
 
 import desktop
 from desktop import until
@@ -259,6 +260,18 @@ class ProcessTest(WindowTest):
         )
         mode = self.log.stat().st_mode & 0o777
         self.assertEqual(mode, 0o600, "the log holds requests and replies of the server's management")
+
+    def test_the_first_window_fits_a_small_screen_with_large_text(self):
+        self.keyring.store(ADDRESS, USER, PASSWORD)
+        with unittest.mock.patch.dict(os.environ):
+            small = desktop.Screen("1366x768")
+            self.addCleanup(small.stop)
+            self.start(ADDRESS, "env", "QT_FONT_DPI=192")
+        self.view.wait_for("push button", "Trustee Rights")
+        window = small.window("Rights Management").get_geometry()
+        self.assertGreater(window.width, 800, "the text is large")
+        self.assertLessEqual(window.width, 1366)
+        self.assertLessEqual(window.height, 768 - 40, "a title bar is above it")
 
     def test_what_the_server_does_not_take_is_named(self):
         self.keyring.store(ADDRESS, "tomas.beran", PASSWORD)  # Access Control, and no Supervisor
