@@ -49,6 +49,7 @@ void NoticeLine::tell(Kind kind, const QString& text) {
     const auto icon = kind == Kind::done ? QStyle::SP_MessageBoxInformation : QStyle::SP_MessageBoxWarning;
     const int edge = line->fontMetrics().height();
     line->icon_->setPixmap(line->style()->standardIcon(icon).pixmap(edge, edge));
+    line->kind_ = kind;
     line->text_->setText(text);
     line->setAccessibleName(text);
     line->hide(); // so that one that is there already appears anew
@@ -60,6 +61,11 @@ void NoticeLine::forget() {
         line->text_->clear();
         line->hide();
     }
+}
+
+void NoticeLine::forget(Kind kind) {
+    if (theLine() != nullptr && theLine()->kind_ == kind)
+        forget();
 }
 
 } // namespace quorvan

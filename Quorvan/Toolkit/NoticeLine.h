@@ -19,8 +19,11 @@ public:
     static void tell(Kind kind, const QString& text);
     /// Hides the line.
     static void forget();
+    /// … if what it says is of this kind.
+    static void forget(Kind kind);
 
 private:
+    Kind kind_ = Kind::done;
     QLabel* icon_;
     QLabel* text_;
 };

@@ -8,6 +8,7 @@
 
 #include <QLocale>
 #include <QMenu>
+#include <QPushButton>
 #include <QTime>
 
 #include <algorithm>
@@ -53,7 +54,13 @@ PendingLine::PendingLine(QWidget* parent)
     hide();
 }
 
+void PendingLine::setApplyButton(QPushButton& apply) {
+    connect(&apply, &QPushButton::pressed, this, [] { NoticeLine::forget(); });
+}
+
 void PendingLine::show(std::vector<PendingChange> changes, const std::vector<ListTable*>& tables) {
+    if (!changes.empty())
+        NoticeLine::forget(NoticeLine::Kind::done); // not of these
     changes_ = std::move(changes);
     tables_ = tables;
     std::unordered_map<std::string, ListModel::Pending> marks;

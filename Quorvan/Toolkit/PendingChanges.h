@@ -12,6 +12,8 @@
 #include <unordered_map>
 #include <vector>
 
+class QPushButton;
+
 namespace quorvan {
 
 /// A change that Apply would send.
@@ -37,6 +39,8 @@ class PendingLine : public QToolButton {
 public:
     explicit PendingLine(QWidget* parent = nullptr);
 
+    /// The button that sends the changes: pressing it takes the outcome of those before off the screen.
+    void setApplyButton(QPushButton& apply);
     /// Shows the changes, and marks their rows in `tables`, where they belong to them.
     void show(std::vector<PendingChange> changes, const std::vector<ListTable*>& tables);
     /// The changes in words, and which of them no table lists at the moment.

@@ -57,6 +57,11 @@ void showDirectoryQuota(const Output& output) {
         stage.photograph("34-limit-removed", "the limit is to be removed");
         stage.press("applyButton");
         stage.photograph("35-unlimited", "the limit after that");
+        stage.refuse("<addQuota");
+        stage.press("editLimitBtn");
+        stage.type("dirQuotaLimit", "3");
+        stage.press("applyButton");
+        stage.photograph("106-limit-refused", "a limit that the server did not take");
     }
     {
         Stage stage(output, Embedded::demo(account::supervisorTree, "VOL1:\\Public\\Briefkasten"));
@@ -97,6 +102,15 @@ void showUserQuotas(const Output& output) {
         stage.press("removeUQButton");
         stage.press("applyButton");
         stage.photograph("55-user-quotas-applied", "one removed, and all of it sent");
+        stage.select({1, 2}, "userQuotaTable");
+        stage.press("editUQButton");
+        stage.type("quotaLimitTextField", "30");
+        stage.press("okBtn");
+        stage.refuse("<set type=");
+        stage.expectDialog("108-alert-quotas-refused", "the alert when the server takes no limits");
+        stage.press("applyButton");
+        stage.photograph("107-user-quotas-refused", "… and the page then");
+        stage.world.server->misbehaviour = {};
         stage.press("addUQButton");
         stage.photograph("56-add-user-quotas", "the dialog for new users, before any are chosen");
         stage.press("cancelBtn");

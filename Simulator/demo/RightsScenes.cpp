@@ -42,6 +42,11 @@ void showInheritedRights(const Output& output) {
         stage.photograph("81-inherited-edited", "another one cleared");
         stage.press("applyBtn");
         stage.photograph("82-inherited-applied", "… and sent");
+        stage.refuse("<modifyInheritedRightsFilter");
+        stage.find<QAbstractButton>("readIRF")->click();
+        stage.expectDialog("109-alert-filter-refused", "the alert when the server takes no filter");
+        stage.press("applyBtn");
+        stage.photograph("110-filter-refused", "… and the page then");
     }
     Stage stage(output, Embedded::demo(account::readOnly));
     openTab(stage, inheritedTab);
@@ -88,6 +93,9 @@ void showDirectoryTrustees(const Output& output) {
         stage.type("searchInSubField", "drawings");
         stage.type("searchInParentField", "zzz");
         stage.photograph("90-directories-search", "a search by path, and one without a match");
+        stage.refuse("<removeTrustee");
+        stage.press("applybtn");
+        stage.photograph("111-directories-refused", "the server took neither change");
     }
     {
         Stage stage(output, Embedded::demo(account::readOnly, "VOL1:\\Projects\\Tideline"));
@@ -119,6 +127,12 @@ void showFileSystemRights(const Output& output) {
         stage.photograph("96-path-added", "a path added and a right ticked");
         stage.press("applyBtn");
         stage.photograph("97-path-applied", "… and sent");
+        stage.tick(0, "E", "fsrTable");
+        stage.tick(2, "E", "fsrTable");
+        stage.refuse("Projects");
+        stage.press("applyBtn");
+        stage.photograph("112-paths-partly-refused", "one of two changes was not taken");
+        stage.world.server->misbehaviour = {};
         stage.press("selectUserBtn");
         pick(stage, "Users", 14);
         stage.photograph("98-paths-of-a-user", "the paths of a user");

@@ -93,6 +93,11 @@ QWidget* Stage::front() const {
     return sheet != nullptr ? sheet : window();
 }
 
+void Stage::refuse(const char* text) {
+    world.server->misbehaviour.code = 7;
+    world.server->misbehaviour.onlyWith = text;
+}
+
 void Stage::press(const char* control) {
     find<QAbstractButton>(control)->click();
     QApplication::processEvents();

@@ -38,6 +38,8 @@ public:
     std::map<std::string, bool> otherFeatures; ///< switches that differ from those of feature.plist
 
     void launch() { delegate_.launch(); }
+    /// From now on the server takes no request that holds this text.
+    void refuse(const char* text);
     void press(const char* control); ///< clicks a button, by its outlet
     void chooseFromMenu(const char* button, const char* item);
     void type(const char* control, const char* text); ///< into a text field

@@ -133,6 +133,7 @@ void InformationViewController::buildButtons(QVBoxLayout& page) {
     closeButton->setToolTip(L("Close_Tip_Label"));
     pendingLine = outlet(new PendingLine(this), "pendingLine");
     applyButton = outlet(new QPushButton(this), "applyButton");
+    pendingLine->setApplyButton(*applyButton);
     applyButton->setToolTip(L("Apply_Tip_Label"));
     applyButton->setEnabled(false);
     auto* buttons = new QHBoxLayout;

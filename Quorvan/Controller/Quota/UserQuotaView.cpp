@@ -54,6 +54,7 @@ void UserQuotaViewController::buildControls() {
     pendingLine = outlet(new PendingLine(this), "pendingLine");
     revert = outlet(new QPushButton(this), "revert");
     applyButton = outlet(new QPushButton(this), "applyButton");
+    pendingLine->setApplyButton(*applyButton);
     for (QPushButton* button : {revert, applyButton})
         button->setEnabled(false);
 

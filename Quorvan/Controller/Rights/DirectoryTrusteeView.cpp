@@ -25,6 +25,7 @@ void DirectoryTrusteeViewController::loadView() {
     reloadOnRefreshKey(*this, pendingLine, [this] { loadAgain(); });
     revertbtn = outlet(new QPushButton(this), "revertbtn");
     applybtn = outlet(new QPushButton(this), "applybtn");
+    pendingLine->setApplyButton(*applybtn);
     revertbtn->setToolTip(L("Revert_Tip_Label"));
     applybtn->setToolTip(L("Apply_Tip_Label"));
     for (QPushButton* button : {revertbtn, applybtn})

@@ -92,6 +92,7 @@ void FileSystemRightsViewController::buildButtons() {
     pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
+    pendingLine->setApplyButton(*applyBtn);
     addBtn->setToolTip(L("Add_Path_Tip_Label"));
     removeBtn->setToolTip(L("Remove_Path_Tip_Label"));
     cancelBtn->setToolTip(L("Close_Tip_Label"));

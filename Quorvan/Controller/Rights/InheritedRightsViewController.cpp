@@ -48,6 +48,7 @@ void InheritedRightsViewController::loadView() {
     pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
+    pendingLine->setApplyButton(*applyBtn);
     revertBtn->setToolTip(L("Revert_Tip_Label"));
     applyBtn->setToolTip(L("Apply_Tip_Label"));
     for (QPushButton* button : {revertBtn, applyBtn})

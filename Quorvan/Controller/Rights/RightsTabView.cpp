@@ -41,6 +41,7 @@ void RightsTabViewController::buildControls() {
     pendingLine = outlet(new PendingLine(this), "pendingLine");
     revertBtn = outlet(new QPushButton(this), "revertBtn");
     applyBtn = outlet(new QPushButton(this), "applyBtn");
+    pendingLine->setApplyButton(*applyBtn);
     readOnlyLabel = outlet(new QLabel(L("Rights_Read_Only_Label"), this), "readOnlyLabel");
     readOnlyLabel->setWordWrap(true);
 

@@ -4,6 +4,7 @@
 #include "Platform/Qt/QtBundle.h"
 #include "Quorvan/Controller/Rights/FileSystemRightsViewController.h"
 #include "Quorvan/Controller/Selection/Shared.h"
+#include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PendingChanges.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
 
@@ -584,9 +585,15 @@ TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
     EXPECT_THAT(value("noticeText"), testing::HasSubstr("could not be read: VOL1:\\Tests\\Box: "));
     mend();
 
-    open("inherited").act("readIRF");
+    // What came of one Apply is not there after the next, and not while something else waits.
+    open("inherited").act("readIRF, applyBtn");
+    EXPECT_TRUE(isShown("noticeText"));
+    act("readIRF");
+    EXPECT_FALSE(isShown("noticeText"));
+    NoticeLine::tell(NoticeLine::Kind::problem, "The server did not take 1 of 1 change");
     breakPipes();
     act("applyBtn");
+    EXPECT_FALSE(isShown("noticeText"));
     EXPECT_THAT(waiting(), SizeIs(1)) << "the filter that was not sent";
     mend();
 
