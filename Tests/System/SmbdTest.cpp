@@ -3,6 +3,8 @@
 #include "Platform/Linux/SmbClientFileSystem.h"
 #include "Tests/Support/ChildProcess.h"
 
+#include <fcntl.h>
+
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
@@ -38,6 +40,7 @@ public:
         server = std::make_unique<ChildProcess>(std::vector<std::string>{"smbd", "-F", "-s", conf});
     }
 
+    std::filesystem::path share() const { return folder.path / "share"; }
     std::string url() const { return "smb://127.0.0.1:" + std::to_string(port) + "/vol1"; }
 
     /// How the one session is signed, as smbd has it: "-" for not at all.
@@ -62,6 +65,48 @@ private:
     std::string conf = (folder.path / "smb.conf").string();
     std::unique_ptr<ChildProcess> server;
 };
+
+/// Mounts the share as root, once smbd listens.
+platform::MountResult mount(platform::SmbClientFileSystem& files, const Smbd& smbd, const char* secret) {
+    platform::MountResult mounted;
+    for (int tries = 0; tries < 200; ++tries) {
+        mounted = files.mount(smbd.url(), "root", platform::Secret(secret), {});
+        if (mounted.error != ECONNREFUSED)
+            break;
+        ::usleep(20'000);
+    }
+    return mounted;
+}
+
+/// What a request was cut off by is a loss, though writing is not waited for: the answer to it says nothing.
+TEST(SmbdTest, TakesARequestThatWasNotWrittenForALoss) {
+    if (!isInstalled("smbd") || !isInstalled("pdbedit"))
+        GTEST_SKIP() << "samba is not installed";
+    const Smbd smbd("strict locking = yes");
+    platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
+                                        {.silence = std::chrono::seconds(5)});
+    const std::string file = smbd.share() / "pipe";
+    std::ofstream(file) << "an answer";
+    const auto exchange = [&](const platform::MountResult& share) {
+        const int descriptor = files.open(share.mountPoints.at(0) + "/pipe");
+        EXPECT_GE(descriptor, 0);
+        char buffer[64];
+        files.write(descriptor, "a request", 9);
+        files.seek(descriptor, 0);
+        while (files.read(descriptor, buffer, sizeof(buffer)) > 0)
+            continue;
+        const int loss = files.lossOn(descriptor);
+        files.close(descriptor);
+        return loss;
+    };
+    const platform::MountResult share = mount(files, smbd, password);
+    EXPECT_EQ(exchange(share), 0);
+    const int locked = ::open(file.c_str(), O_RDWR);
+    struct flock beginning = {.l_type = F_WRLCK, .l_whence = SEEK_SET, .l_start = 0, .l_len = 4, .l_pid = 0};
+    ASSERT_EQ(::fcntl(locked, F_SETLK, &beginning), 0);
+    EXPECT_NE(exchange(share), 0);
+    ::close(locked);
+}
 
 TEST(SmbdTest, IsLoggedInToByTheUserAndSignedOrNotAtAll) {
     if (!isInstalled("smbd") || !isInstalled("pdbedit"))
@@ -89,13 +134,7 @@ TEST(SmbdTest, IsLoggedInToByTheUserAndSignedOrNotAtAll) {
         const Smbd smbd(item.settings);
         platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
                                             {.silence = std::chrono::seconds(5)});
-        platform::MountResult mounted;
-        for (int tries = 0; tries < 200; ++tries) { // until smbd listens
-            mounted = files.mount(smbd.url(), "root", platform::Secret(item.secret), {});
-            if (mounted.error != ECONNREFUSED)
-                break;
-            ::usleep(20'000);
-        }
+        const platform::MountResult mounted = mount(files, smbd, item.secret);
         EXPECT_EQ(mounted.error, item.error);
         EXPECT_EQ(mounted.error == 0 ? smbd.signing() : "", item.signing);
     }
