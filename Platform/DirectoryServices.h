@@ -39,6 +39,15 @@ public:
 
     /// All values of an attribute (empty when the record has none); nothing when reading failed.
     virtual std::optional<std::vector<std::string>> values(const std::string& attribute) = 0;
+
+    /// The first of them, "" without one. An adapter that can do without the list of all says so here: a
+    /// list of users asks this twice for each.
+    virtual std::optional<std::string> first(const std::string& attribute) {
+        const auto all = values(attribute);
+        if (!all)
+            return std::nullopt;
+        return all->empty() ? std::string() : all->front();
+    }
 };
 
 using DirectoryRecords = std::vector<std::shared_ptr<DirectoryRecord>>;

@@ -49,6 +49,14 @@ public:
         return accounts_->read(account_->distinguishedName, *native);
     }
 
+    std::optional<std::string> first(const std::string& attribute) override {
+        if (attribute == kODAttributeTypePrimaryNTDomain)
+            return account_->domain;
+        if (attribute == kODAttributeTypeRecordName)
+            return account_->name.value_or("");
+        return DirectoryRecord::first(attribute);
+    }
+
 private:
     std::shared_ptr<LdapAccounts> accounts_;
     std::shared_ptr<const LdapAccount> account_;

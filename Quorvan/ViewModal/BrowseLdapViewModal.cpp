@@ -14,17 +14,13 @@ namespace quorvan {
 
 namespace {
 
-std::string firstOf(const std::vector<std::string>& values) {
-    return values.empty() ? std::string() : values.front();
-}
-
 /// A record's row; nothing when it cannot be read.
 std::optional<LdapRow> rowOf(platform::DirectoryRecord& record) {
-    const auto sids = record.values(kODAttributeTypeSMBSID);
-    const auto names = record.values(kODAttributeTypeRecordName);
-    if (!sids || !names)
+    auto sid = record.first(kODAttributeTypeSMBSID);
+    auto name = record.first(kODAttributeTypeRecordName);
+    if (!sid || !name)
         return std::nullopt;
-    return LdapRow{firstOf(*names), firstOf(*sids)};
+    return LdapRow{*std::move(name), *std::move(sid)};
 }
 
 std::optional<platform::DirectoryRecords> query(const std::string& domain,

@@ -33,10 +33,6 @@ void add(std::vector<RightsHolder>& holders, std::string id, std::string name) {
         holders.push_back({std::move(id), std::move(name)});
 }
 
-std::string firstOf(const std::optional<std::vector<std::string>>& values) {
-    return values && !values->empty() ? values->front() : std::string();
-}
-
 /// Adds an object of the tree. A number is the status with which the server has none.
 void addOfTheTree(std::vector<RightsHolder>& holders, XMLReadWriteController& controller,
                   const std::string& distinguishedName) {
@@ -100,8 +96,8 @@ std::vector<RightsHolder> holdersOfActiveDirectory(const RightsHolder& account) 
             if (groups.empty())
                 continue;
             for (const auto& group : recordsWith(platform::nativeDistinguishedName, std::move(groups)))
-                add(holders, firstOf(group->values(kODAttributeTypeSMBSID)),
-                    firstOf(group->values(kODAttributeTypeRecordName)));
+                add(holders, group->first(kODAttributeTypeSMBSID).value_or(""),
+                    group->first(kODAttributeTypeRecordName).value_or(""));
         }
     return holders;
 }

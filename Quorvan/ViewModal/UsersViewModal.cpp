@@ -8,6 +8,7 @@
 #include "Quorvan/Modal/Constants.h"
 #include "Quorvan/ViewModal/ScopedPipe.h"
 
+#include <algorithm>
 #include <map>
 
 namespace quorvan {
@@ -115,13 +116,13 @@ std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
                                                    const std::string& attributeType) const {
     std::string result = "Unknown";
     for (const auto& record : recordsOfID(objectID)) {
-        const auto values = record->values(attributeType);
-        if (!values) {
+        auto value = record->first(attributeType);
+        if (!value) {
             logFailure("Error in Opening Session");
             return result;
         }
-        const std::string_view first = values->empty() ? std::string_view() : values->front();
-        result = first.substr(0, first.find(':'));
+        result = *std::move(value);
+        result.resize(std::min(result.find(':'), result.size()));
         if (result.empty())
             result = "Unknown";
     }
@@ -154,12 +155,12 @@ std::string DirectoryLookup::getSidforObject(const std::string& objName, const s
     }
     std::string sid;
     for (const auto& record : *records) {
-        const auto values = record->values(kODAttributeTypeSMBSID);
-        if (!values) {
+        auto value = record->first(kODAttributeTypeSMBSID);
+        if (!value) {
             logFailure("Error in Open Directory Session");
             return sid;
         }
-        sid = values->empty() ? "" : values->front();
+        sid = *std::move(value);
     }
     return sid;
 }

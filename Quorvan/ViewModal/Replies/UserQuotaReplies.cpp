@@ -33,15 +33,14 @@ void nameFromDirectory(std::span<const std::shared_ptr<UserQuotaData>> users) {
     while (!users.empty()) {
         const auto announced = users.first(std::min(batch, users.size()));
         users = users.subspan(announced.size());
-        sids.clear();
-        for (const auto& user : announced)
-            sids.push_back(*user->SID);
+        sids.resize(announced.size());
+        for (std::size_t at = 0; at < announced.size(); ++at)
+            sids[at] = *announced[at]->SID;
         DirectoryLookup::prefetch(sids);
         for (const auto& user : announced) {
-            std::string name = lookup.lookupAttrValueFromID(*user->SID, domain);
+            std::string& name = user->displayName.emplace(lookup.lookupAttrValueFromID(*user->SID, domain));
             name += '\\';
             name += lookup.lookupAttrValueFromID(*user->SID, account);
-            user->displayName = std::move(name);
         }
     }
 }
