@@ -33,11 +33,10 @@ struct DirectoryLookup::Surroundings {
         return node_.get();
     }
 
-    platform::DirectoryQuery query; ///< kept for its memory
-
-    // The records of the ID that was looked up last: a list asks for one attribute after the other. Without
+    // The last question for an ID and its records: a list asks for one attribute after the other. Without
     // any they may have failed, which the next look-up meets anew.
-    std::string lastID;
+    platform::DirectoryQuery byID{
+        usersAndGroups, kODAttributeTypeSMBSID, platform::DirectoryMatch::equalTo, {""}};
     platform::DirectoryRecords recordsOfLastID;
 
 private:
@@ -52,30 +51,28 @@ void DirectoryLookup::prefetch(const std::vector<std::string>& sids) {
     platform::services().directory->prefetch(sids);
 }
 
-std::optional<platform::DirectoryRecords> DirectoryLookup::ask(const std::string& strToQuery,
-                                                               const std::optional<std::string>& recType,
-                                                               std::string_view attribute) const {
+DirectoryLookup::Surroundings& DirectoryLookup::surroundings() const {
     if (!surroundings_)
         surroundings_ = std::make_unique<Surroundings>();
-    if (!surroundings_->state) {
+    return *surroundings_;
+}
+
+std::optional<platform::DirectoryRecords> DirectoryLookup::ask(const platform::DirectoryQuery& query) const {
+    if (!surroundings().state) {
         logFailure("Could not find a Active Directory on the server");
         return platform::DirectoryRecords();
     }
-    platform::DirectoryQuery& query = surroundings_->query;
-    if (recType)
-        query.recordTypes = {*recType};
-    else
-        query.recordTypes = usersAndGroups;
-    query.attribute = attribute;
-    query.values.assign(1, strToQuery);
-    platform::DirectoryNode* node = surroundings_->node();
+    platform::DirectoryNode* node = surroundings().node();
     return node != nullptr ? node->query(query) : std::nullopt;
 }
 
 platform::DirectoryRecords
 DirectoryLookup::getUserGroupInfo(const std::string& strToQuery, const std::optional<std::string>& recType,
                                   const std::optional<std::string>& attribute) const {
-    auto records = ask(strToQuery, recType, attribute ? *attribute : kODAttributeTypeRecordName);
+    auto records = ask({recType ? std::vector{*recType} : usersAndGroups,
+                        attribute.value_or(kODAttributeTypeRecordName),
+                        platform::DirectoryMatch::equalTo,
+                        {strToQuery}});
     if (!records) {
         reportFailure();
         return {};
@@ -102,14 +99,16 @@ void DirectoryLookup::reportFailure() const {
 }
 
 const platform::DirectoryRecords& DirectoryLookup::recordsOfID(const std::string& objectID) const {
-    if (!surroundings_ || surroundings_->recordsOfLastID.empty() || surroundings_->lastID != objectID) {
-        auto records = ask(objectID, {}, kODAttributeTypeSMBSID);
+    Surroundings& known = surroundings();
+    std::string& lastID = known.byID.values.front();
+    if (known.recordsOfLastID.empty() || lastID != objectID) {
+        lastID = objectID;
+        auto records = ask(known.byID);
         if (!records)
             reportFailure();
-        surroundings_->lastID = objectID;
-        surroundings_->recordsOfLastID = std::move(records).value_or(platform::DirectoryRecords());
+        known.recordsOfLastID = std::move(records).value_or(platform::DirectoryRecords());
     }
-    return surroundings_->recordsOfLastID;
+    return known.recordsOfLastID;
 }
 
 std::string DirectoryLookup::lookupAttrValueFromID(const std::string& objectID,
@@ -147,7 +146,7 @@ std::string DirectoryLookup::getSidforObject(const std::string& objName, const s
                                              const std::string& attributeName) const {
     const auto records = [&] {
         const platform::BusyScope busy(platform::services().busy);
-        return ask(objName, recordTypeOf(objType), attributeName);
+        return ask({{recordTypeOf(objType)}, attributeName, platform::DirectoryMatch::equalTo, {objName}});
     }();
     if (!records) {
         reportFailure();

@@ -8,7 +8,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace quorvan {
 
@@ -43,9 +42,8 @@ public:
 
 private:
     struct Surroundings;
-    std::optional<platform::DirectoryRecords> ask(const std::string& strToQuery,
-                                                  const std::optional<std::string>& recType,
-                                                  std::string_view attribute) const;
+    Surroundings& surroundings() const;
+    std::optional<platform::DirectoryRecords> ask(const platform::DirectoryQuery& query) const;
     void reportFailure() const;
     const platform::DirectoryRecords& recordsOfID(const std::string& objectID) const;
     mutable std::unique_ptr<Surroundings> surroundings_; ///< read by the first look-up
