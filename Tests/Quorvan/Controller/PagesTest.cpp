@@ -7,6 +7,7 @@
 #include "Quorvan/Toolkit/NoticeLine.h"
 #include "Quorvan/Toolkit/PendingChanges.h"
 #include "Tests/Quorvan/Controller/WindowTest.h"
+#include "Tests/Support/Table.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -19,23 +20,38 @@
 namespace quorvan::test {
 namespace {
 
+using testing::StartsWith;
+
+/// The texts that the user reads.
+struct RealTexts : FakeBundle {
+    explicit RealTexts(const QLocale& locale = QLocale(QLocale::English))
+        : table(QString(), locale) {}
+    std::string localizedString(const std::string& key) override { return table.localizedString(key); }
+    platform::QtBundle table;
+};
+
 struct PagesTest : WindowTest {
-    /// The rows of a table in text, their cells separated by bars.
-    static std::vector<Texts> tableOf(const char* text) {
-        std::vector<Texts> table;
-        for (const QString& line : QString(text).split('\n', Qt::SkipEmptyParts)) {
-            table.emplace_back();
-            for (const QString& cell : line.split('|'))
-                table.back().push_back(cell.trimmed().toStdString());
-        }
-        return table;
+    /// The server refuses all requests with this in them.
+    void refuse(const char* request) {
+        world.server->misbehaviour.code = 7;
+        world.server->misbehaviour.onlyWith = request;
     }
+    /// From now on the program shows the texts that the user reads.
+    void speak(const QLocale& locale = QLocale(QLocale::English)) {
+        bundle = std::make_shared<RealTexts>(locale);
+        platform::Services services = platform::services();
+        services.bundle = bundle;
+        spoken_.emplace(services);
+    }
+
+private:
+    std::optional<platform::ScopedServices> spoken_;
 };
 
 TEST_F(PagesTest, OfferWhatTheUsersOwnRightsAllow) {
     // What a supervisor reaches, and what another loses or gets: one with Access Control, one who may only
     // read, and a supervisor where both directories are on show but not to choose from.
-    const auto cases = tableOf(R"(
+    const auto cases = test::table<5>(R"(
 rights      | rightsTable addBtn removeBtn closeBtn tabs searchField | | addBtn removeBtn read-only | addBtn
 inherited   | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF closeBtn tabs | | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF read-only |
 effective   | searchField effRightsTable selectUserBtn closeBtn tabs | | selectUserBtn | selectUserBtn
@@ -52,7 +68,7 @@ settings    | ListBoth CloseBtn | | ListBoth read-only |
                 names.append(name);
         return names.join(' ').toStdString();
     };
-    for (const Texts& each : cases) {
+    for (const auto& each : cases) {
         SCOPED_TRACE(each[0]);
         const char* page = each[0].c_str();
         bundle->features->at("addBothTrustees") = true;
@@ -200,14 +216,6 @@ TEST_F(PagesTest, TakeALostConnectionForAFailure) {
         }
 }
 
-/// The texts that the user reads.
-struct RealTexts : FakeBundle {
-    explicit RealTexts(const QLocale& locale = QLocale(QLocale::English))
-        : table(QString(), locale) {}
-    std::string localizedString(const std::string& key) override { return table.localizedString(key); }
-    platform::QtBundle table;
-};
-
 /// Every table can be copied and exported, and what comes from a server stays a text in a spreadsheet.
 /// Where the status of a list says nothing, or that of a half of it, the list says that it is not whole.
 TEST_F(PagesTest, NeverShowPartOfAListAsTheWhole) {
@@ -315,7 +323,7 @@ TEST_F(PagesTest, SayWhyAControlIsGrey) {
         for (const auto* each : front().findChildren<QWidget*>())
             if (each->isVisible() && !each->isEnabled() && each->parentWidget()->isEnabled()) {
                 EXPECT_THAT(each->toolTip().toStdString(),
-                            testing::AnyOf(testing::StartsWith("Why_"), "Choose_Needs_Rights_Label",
+                            testing::AnyOf(StartsWith("Why_"), "Choose_Needs_Rights_Label",
                                            "Inherited_Supervisor_Tip_Label"))
                     << where << ' ' << each->objectName().toStdString();
             }
@@ -361,67 +369,37 @@ TEST_F(PagesTest, KeepTheKeyboardWithTheIdentity) {
     }
     const Texts boxes = {"tick @E, REVERT", "tick @E, APPLY", "key F5"};
     const Texts limit = {"EDIT, REVERT", "EDIT, APPLY", "key F5"};
+    const Texts newLimit = {"type quotaLimitTextField 3"};
+    const auto rightsOf = [this](const char* name) { take("selectUserBtn", "Users_Title", meridal, {name}); };
+    const auto rightsOfAdmin = [&] { rightsOf("admin"); };
+    const auto groupsOfAnn = [&] { rightsOf("Ann"), click("grpBtn"); };
+    const auto limitForEverybody = [&] {
+        click("addUQButton");
+        take("selectTrusteeBtn", "Users_Title", meridal, everybody);
+    };
+    const auto usersOfDomain = [this] { browse("addBtn", "Users_Title", meridal); };
+    const auto usersOfOneForest = [this] {
+        bundle->features->at("multiForest") = false;
+        open("rights").act("addBtn");
+    };
     const struct {
         const char *page, *table, *search, *revert, *apply, *remove;
         Texts ways;
-        const char* added;
+        const char* added = nullptr;
         std::function<void()> prepare = [] {};
     } cases[] = {
         {"rights", "rightsTable", "searchField", "revertBtn", "applyBtn", "removeBtn", boxes, "lea.fournier"},
-        {"effective", "effRightsTable", "searchField", "", "", nullptr, {"key F5"}, nullptr},
-        {"folders", "subdirTable", "searchInSubField", "revertbtn", "applybtn", "removeBtnSub", boxes,
-         nullptr},
+        {"effective", "effRightsTable", "searchField", "", "", nullptr, {"key F5"}},
+        {"folders", "subdirTable", "searchInSubField", "revertbtn", "applybtn", "removeBtnSub", boxes},
         {"folders", "parentdirTable", "searchInParentField", "revertbtn", "applybtn", "removeBtnParent",
-         boxes, nullptr},
-        {"files", "fsrTable", nullptr, "revertBtn", "applyBtn", "removeBtn", boxes, "Tests",
-         [this] { take("selectUserBtn", "Users_Title", meridal, {"admin"}); }},
-        {"files",
-         "groupRightsTable",
-         "searchField",
-         "",
-         "",
-         nullptr,
-         {"key F5"},
-         nullptr,
-         [this] {
-             take("selectUserBtn", "Users_Title", meridal, {"Ann"});
-             act("grpBtn");
-         }},
+         boxes},
+        {"files", "fsrTable", nullptr, "revertBtn", "applyBtn", "removeBtn", boxes, "Tests", rightsOfAdmin},
+        {"files", "groupRightsTable", "searchField", "", "", nullptr, {"key F5"}, nullptr, groupsOfAnn},
         {"quota", "userQuotaTable", "searchField", "revert", "applyButton", "removeUQButton", limit,
          "lea.fournier"},
-        {"quota",
-         "userList",
-         nullptr,
-         "",
-         "",
-         "takeOffBtn",
-         {"type quotaLimitTextField 3"},
-         nullptr,
-         [&] {
-             act("addUQButton");
-             take("selectTrusteeBtn", "Users_Title", meridal, everybody);
-         }},
-        {"rights",
-         "userListTable",
-         "searchField",
-         "",
-         "",
-         nullptr,
-         {},
-         nullptr,
-         [this] { browse("addBtn", "Users_Title", meridal); }},
-        {"rights",
-         "userListTable",
-         nullptr,
-         "",
-         "",
-         nullptr,
-         {},
-         nullptr,
-         [this] {
-             bundle->features->at("multiForest") = false;
-             open("rights").act("addBtn");
-         }},
+        {"quota", "userList", nullptr, "", "", "takeOffBtn", newLimit, nullptr, limitForEverybody},
+        {"rights", "userListTable", "searchField", "", "", nullptr, {}, nullptr, usersOfDomain},
+        {"rights", "userListTable", nullptr, "", "", nullptr, {}, nullptr, usersOfOneForest},
     };
     for (const auto& each : cases) {
         open(each.page);
@@ -505,10 +483,7 @@ TEST_F(PagesTest, KeepTheKeyboardWithTheIdentity) {
 /// What waits for Apply is counted and listed in words, hidden or not, and what the server has made of it is
 /// said.
 TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
-    platform::Services services = platform::services();
-    const auto texts = std::make_shared<RealTexts>();
-    services.bundle = texts;
-    const platform::ScopedServices real(services);
+    speak();
     const auto waiting = [this] {
         Texts changes;
         if (isShown("pendingLine"))
@@ -536,30 +511,27 @@ TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
     EXPECT_THAT(waiting(), SizeIs(3));
     act("tick 0C, tick 0C");
     const std::size_t sent = waiting().size();
-    world.server->misbehaviour.code = 7;
-    world.server->misbehaviour.onlyWith = "<addTrustee";
+    refuse("<addTrustee");
     act("applyBtn");
     EXPECT_THAT(waiting(), IsEmpty());
-    EXPECT_THAT(value("noticeText"),
-                testing::StartsWith("The server did not take 3 of " + std::to_string(sent)));
+    EXPECT_THAT(value("noticeText"), StartsWith("The server did not take 3 of " + std::to_string(sent)));
     EXPECT_THAT(value("noticeText"), testing::HasSubstr("lea.fournier"));
     mend();
     act("tick 1W, applyBtn");
-    EXPECT_THAT(value("noticeText"), testing::StartsWith("Applied "));
+    EXPECT_THAT(value("noticeText"), StartsWith("Applied "));
 
     open("inherited").act("readIRF");
     EXPECT_THAT(waiting(), SizeIs(1));
     act("applyBtn");
     EXPECT_THAT(waiting(), IsEmpty());
-    EXPECT_THAT(value("noticeText"), testing::StartsWith("Applied "));
+    EXPECT_THAT(value("noticeText"), StartsWith("Applied "));
 
     open("folders").act("tick:subdirTable 1W");
-    EXPECT_THAT(waiting(), ElementsAre(testing::StartsWith("admin VOL1:\\Tests\\Box: ")));
-    world.server->misbehaviour.code = 7;
-    world.server->misbehaviour.onlyWith = "<addTrustee";
+    EXPECT_THAT(waiting(), ElementsAre(StartsWith("admin VOL1:\\Tests\\Box: ")));
+    refuse("<addTrustee");
     act("applybtn");
     EXPECT_THAT(value("noticeText"),
-                testing::StartsWith("The server did not take 1 of 1 change: admin VOL1:\\Tests\\Box"));
+                StartsWith("The server did not take 1 of 1 change: admin VOL1:\\Tests\\Box"));
     mend();
 
     open("files");
@@ -567,18 +539,17 @@ TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
     act("tick 0W, pick 1, removeBtn");
     EXPECT_THAT(waiting(),
                 ElementsAre("VOL1:\\Tests\\Box: Read, File Scan", testing::EndsWith(" will be removed")));
-    world.server->misbehaviour.code = 7;
-    world.server->misbehaviour.onlyWith = "<removeTrustee";
+    refuse("<removeTrustee");
     act("applyBtn");
     EXPECT_THAT(value("noticeText"),
-                testing::StartsWith("The server did not take 1 of 2 changes: VOL1:\\Tests\\Box\\Low"));
+                StartsWith("The server did not take 1 of 2 changes: VOL1:\\Tests\\Box\\Low"));
     mend();
 
     // What lies elsewhere, be it a neighbour of this name, and what was sent before the list got lost.
     view<FileSystemRightsViewController>().onReturnSelectedPath({"file:///Volumes/VOL1/Tests/Box2"});
-    EXPECT_THAT(value("noticeText"), testing::StartsWith("Not below"));
+    EXPECT_THAT(value("noticeText"), StartsWith("Not below"));
     act("applyBtn");
-    EXPECT_THAT(value("noticeText"), testing::StartsWith("Sent; what came of it is not in this list: VOL1:"));
+    EXPECT_THAT(value("noticeText"), StartsWith("Sent; what came of it is not in this list: VOL1:"));
     act("tick 0W");
     breakPipes();
     act("applyBtn");
@@ -604,8 +575,7 @@ TEST_F(PagesTest, SayWhatWaitsAndWhatCameOfIt) {
     EXPECT_THAT(waiting(),
                 ElementsAre("Read Only: on", "Hidden: on", "Rename Inhibit: on", "Delete Inhibit: on"));
     act("readChk");
-    world.server->misbehaviour.code = 7;
-    world.server->misbehaviour.onlyWith = "<setFileInfo";
+    refuse("<setFileInfo");
     act("applyButton");
     EXPECT_EQ(value("noticeText"), "The server did not take 1 of 1 change: Hidden");
     mend();
@@ -644,17 +614,14 @@ TEST_F(PagesTest, EndTheProgramWithoutAFeature) {
 struct PagesInALanguage : PagesTest, testing::WithParamInterface<QString> {};
 
 TEST_P(PagesInALanguage, GiveNoMnemonicTwiceAndCutNoText) {
-    platform::Services services = platform::services();
-    const auto texts = std::make_shared<RealTexts>(QLocale(GetParam()));
-    services.bundle = texts;
-    const platform::ScopedServices real(services);
+    speak(QLocale(GetParam()));
     const char* const flags[] = {"enableSettings", "bothIdentities", "addBothTrustees", "multiForest",
                                  "newFileBrowser"};
     for (unsigned mask = 0; mask < 1U << std::size(flags); mask += GetParam() == "en" ? 1 : 31) // none, all
         for (const char* page : {"", "rights", "inherited", "effective", "folders", "files", "quota",
                                  "information", "settings"}) {
             for (std::size_t flag = 0; flag < std::size(flags); ++flag)
-                texts->features->at(flags[flag]) = (mask & 1U << flag) != 0;
+                bundle->features->at(flags[flag]) = (mask & 1U << flag) != 0;
             if (*page == '\0' || (*page == 's' && (mask & 1U) == 0))
                 openWindow();
             else
@@ -689,10 +656,7 @@ TEST_P(PagesInALanguage, GiveNoMnemonicTwiceAndCutNoText) {
 INSTANTIATE_TEST_SUITE_P(Every, PagesInALanguage, testing::ValuesIn(platform::QtBundle::languages()));
 
 TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
-    platform::Services services = platform::services();
-    const auto texts = std::make_shared<RealTexts>();
-    services.bundle = texts;
-    const platform::ScopedServices real(services);
+    speak();
     const auto expectNamed = [this](const std::string& expected) {
         SCOPED_TRACE(expected);
         EXPECT_EQ(reached(), expected);
@@ -712,7 +676,7 @@ TEST_F(PagesTest, NameEveryControlAndReachItByTab) {
         }
     };
     // The script switches more controls on, or leads to a sheet.
-    const auto places = tableOf(R"(
+    const auto places = test::table<3>(R"(
 inherited   | readIRF | readIRF writeIRF eraseIRF createIRF modifyIRF fscanIRF accessIRF pendingLine revertBtn applyBtn closeBtn tabs
 effective   | key Ctrl+F | searchField effRightsTable selectUserBtn closeBtn tabs
 folders     | removeBtnSub | removeBtnSub searchInParentField parentdirTable removeBtnParent stoppedBtn revertbtn applybtn closeBtn tabs searchInSubField subdirTable
@@ -731,7 +695,7 @@ rights      | removeBtn | removeBtn revertBtn applyBtn closeBtn tabs searchField
 rights      | addBtn | userTypePopUp domainPopUp userListTable cancelButton
 )");
     select("VOL1/Projects/Aurora");
-    for (const Texts& place : places) {
+    for (const auto& place : places) {
         open(place[0].c_str());
         if (place[0] == "files")
             take("selectUserBtn", "Users", meridal, {"admin"});
@@ -740,7 +704,7 @@ rights      | addBtn | userTypePopUp domainPopUp userListTable cancelButton
     }
     open("rights", demo::supervisorTree).act("addBtn");
     expectNamed("userTypePopUp treeTextField searchField userListTable cancelButton");
-    texts->features->at("multiForest") = false;
+    bundle->features->at("multiForest") = false;
     open("rights").act("addBtn");
     expectNamed("searchField userListTable cancelButton userTypeTable");
     Shared::value().bothID = true;

@@ -5,6 +5,7 @@
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Quorvan/Toolkit/Storyboard.h"
+#include "Tests/Support/Table.h"
 
 #include <QComboBox>
 #include <QHeaderView>
@@ -155,12 +156,6 @@ void WindowTest::play(const char* scenario) {
 }
 
 void WindowTest::expect(const QString& what, const QString& wanted) {
-    const auto joined = [](const Texts& texts, const char* by) {
-        std::string all;
-        for (const std::string& text : texts)
-            all += (all.empty() ? "" : by) + text;
-        return all;
-    };
     const std::string kind = what.section(':', 0, 0).toStdString();
     const std::string list = what.section(':', 1).toStdString();
     std::string seen;

@@ -133,6 +133,12 @@ TEST_F(RequestLayer, ReadsRepliesThatAreWrittenOnSeveralLines) {
 TEST_F(RequestLayer, SaysOfEveryBrokenReplyWhatItSpoils) {
     const std::string path = "VOL1:\\a";
     const std::string kelp = "Error parsing KELP Reply - ";
+    const std::string ofInfo = "Error parsing ownerInfo ";
+    const std::string ofQuota = "Error parsing Directory Quota Response - ";
+    const std::string ofUsers = "Error parsing UserQuota Response : error ";
+    const std::string ofPaths = "Error parsing FSR Response : error ";
+    const std::string ofTree = "Error parsing TRELL ";
+    XMLReadWriteController& c = controller;
     OwnerInfo owner;
     AttributesInfo attributes;
     DirectoryQuotaInfo quota;
@@ -147,34 +153,20 @@ TEST_F(RequestLayer, SaysOfEveryBrokenReplyWhatItSpoils) {
         std::string status;
         Strings complaints;
     } cases[] = {
-        {[&] { return controller.getFileInfoOwner(path, owner, "Morvane"); },
-         "0",
-         {kelp, "Error parsing ownerInfo - "}},
-        {[&] { return controller.getAttributes(path, attributes, "Morvane"); },
-         "0",
-         {kelp, "Error parsing ownerInfo - "}},
-        {[&] { return controller.getDirectoryQuota(path, quota, "Morvane"); },
-         "0",
-         {kelp, "Error parsing Directory Quota Response - "}},
-        {[&] { return controller.getUserQuotaInfo(path, users, "ActiveDirectory"); },
-         "0",
-         {"Error parsing UserQuota Response : error ", kelp}},
-        {[&] { return controller.getIRRequest(path, directories, "Morvane"); }, "0", {kelp}},
-        {[&] { return controller.getFSRights(path, {"S-1"}, files, "Morvane"); },
-         "0",
-         {"Error parsing FSR Response : error "}},
-        {[&] { return controller.getEffectiveRightsForMappedUser(path, names, "Morvane"); },
+        {[&] { return c.getFileInfoOwner(path, owner, "Morvane"); }, "0", {kelp, ofInfo + "- "}},
+        {[&] { return c.getAttributes(path, attributes, "Morvane"); }, "0", {kelp, ofInfo + "- "}},
+        {[&] { return c.getDirectoryQuota(path, quota, "Morvane"); }, "0", {kelp, ofQuota}},
+        {[&] { return c.getUserQuotaInfo(path, users, "ActiveDirectory"); }, "0", {ofUsers, kelp}},
+        {[&] { return c.getIRRequest(path, directories, "Morvane"); }, "0", {kelp}},
+        {[&] { return c.getFSRights(path, {"S-1"}, files, "Morvane"); }, "0", {ofPaths}},
+        {[&] { return c.getEffectiveRightsForMappedUser(path, names, "Morvane"); },
          "-1",
-         {"Error parsing ownerInfo : error "}},
-        {[&] { return controller.getMorvaneBrowse("O=org", objects); },
-         "",
-         {kelp, "Error parsing TRELL Response : error "}},
-        {[&] { return controller.getGuid_Morvane("", ""); },
+         {ofInfo + ": error "}},
+        {[&] { return c.getMorvaneBrowse("O=org", objects); }, "", {kelp, ofTree + "Response : error "}},
+        {[&] { return c.getGuid_Morvane("", ""); }, "0", {kelp, ofTree + "Morvane Guid Response : error "}},
+        {[&] { return c.getGroupMemberShip_Morvane("", groups, "", ""); },
          "0",
-         {kelp, "Error parsing TRELL Morvane Guid Response : error "}},
-        {[&] { return controller.getGroupMemberShip_Morvane("", groups, "", ""); },
-         "0",
-         {kelp, "Error parsing TRELL Morvane Groups Response : error "}},
+         {kelp, ofTree + "Morvane Groups Response : error "}},
     };
     const std::string result = "<result value=\"0\"/>";
     for (const auto& [run, status, complaints] : cases) {
