@@ -5,6 +5,7 @@
 #include "Quorvan/Controller/Selection/Shared.h"
 #include "Quorvan/Controller/Shell/MainStoryboard.h"
 #include "Quorvan/Toolkit/Storyboard.h"
+#include "Quorvan/Toolkit/ViewState.h"
 #include "Tests/Support/Table.h"
 
 #include <QComboBox>
@@ -55,6 +56,7 @@ WindowTest::WindowTest() {
     fillMainStoryboard();
     Shared::value().bothID = false;
     SharedTreeName::value().treeName.clear();
+    ViewState().clear(); // the tests of one run share it
 
     for (const char* name : {"Müller", "admin", "Zoe", "ADMIN"})
         world.identities->addDomainUser(name, name);
