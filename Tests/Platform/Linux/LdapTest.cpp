@@ -84,8 +84,9 @@ struct RudeServer : test::TestServer {
 
 struct SameItem : Keychain {
     KeychainResult findInternetPassword(const std::string&) override {
-        return {0, KeychainItem{"u", Secret("s3cret")}};
+        return {0, KeychainItem{account, Secret("s3cret")}};
     }
+    std::string account = "u";
 };
 
 const DirectoryQuery everyUser{users, "", DirectoryMatch::any, {}};
@@ -100,8 +101,8 @@ struct Client {
     test::LdapSetting uri;
     std::chrono::milliseconds timeLimit;
     Texts log;
-    LdapDirectory directory{std::make_shared<SameItem>(),
-                            [this](std::string_view line) { log.emplace_back(line); }, timeLimit};
+    std::shared_ptr<SameItem> keychain = std::make_shared<SameItem>();
+    LdapDirectory directory{keychain, [this](std::string_view line) { log.emplace_back(line); }, timeLimit};
 };
 
 TEST(LdapDirectory, IsUnboundWithoutBase) {
@@ -171,6 +172,13 @@ TEST(LdapDirectory, SendsARefusedPasswordNowhereElseAndNotAgain) {
         EXPECT_EQ(client.directory.openNetworkNode(), nullptr);
     EXPECT_THAT(client.log, ElementsAre(HasSubstr("refuses the keyring's password of u@north.example")));
     EXPECT_EQ(std::pair(first.load(), second.load()), std::pair(1, 0));
+
+    for (const char* account : {"u@south.example", "SOUTH\\u", "cn=u,dc=south"}) { // which name their domain
+        Client whole("ldap://" + refusing.address());
+        whole.keychain->account = account;
+        EXPECT_EQ(whole.directory.openNetworkNode(), nullptr);
+        EXPECT_THAT(whole.log, ElementsAre(testing::EndsWith(std::string("password of ") + account)));
+    }
 }
 
 TEST(LdapDirectory, FollowsNoReferral) {

@@ -22,6 +22,7 @@ TEST(MountedVolumes, FindsAShareAmongTheMountsWhereverItLies) {
     make("Volumes/VOL1");
     make("mnt/big disk");
     make("mnt/other");
+    make("mnt/whole/a"); // of the share that "other" is a part of
     make("gvfs/smb-share:server=files,share=vol 3%2cx,user=ingrid");
     make("gvfs/smb-share:server=FILES,share=gone");
     make("kio-fuse-x1/smb/ingrid@files/team space");
@@ -31,6 +32,7 @@ TEST(MountedVolumes, FindsAShareAmongTheMountsWhereverItLies) {
         << "21 1 8:1 / / rw,relatime shared:1 - ext4 //files/VOL4 rw\n"
         << "36 21 0:41 / " << mnt << "/big\\040disk rw shared:9 master:2 - cifs //files/VOL2 rw,vers=3.1.1\n"
         << "37 21 0:42 /a/Team " << mnt << "/other rw - smb3 //files/data/a/Team rw\n"
+        << "37 21 0:42 / " << mnt << "/whole rw - smb3 //files/data rw\n"
         << "38 21 0:43 /part " << mnt << "/other rw - cifs //files/VOL5 rw\n"
         << "broken\n";
     std::ofstream(top.path / "shares.conf") << "[Files]\nTeam Space = VOL7:\\teams\\space\n[*]\ngone = \n";
