@@ -148,9 +148,12 @@ class Keyring:
         )
 
     def store(self, server, user, password):
-        command = ["secret-tool", "store", "--label=x", "xdg:schema", KEYRING_SCHEMA]
-        command += ["server", server, "user", user, "protocol", "smb"]
-        subprocess.run(command, input=password.encode(), check=True)
+        """The one account that is kept for the server from now on."""
+        kept = ["xdg:schema", KEYRING_SCHEMA, "server", server, "protocol", "smb"]
+        subprocess.run(["secret-tool", "clear", *kept], check=False)  # which fails where nothing is kept
+        subprocess.run(
+            ["secret-tool", "store", "--label=x", *kept, "user", user], input=password.encode(), check=True
+        )
 
 
 class View:
