@@ -14,9 +14,15 @@ inline constexpr std::int32_t errSecItemNotFound = -25300;
 
 /// What the keychain knows about one internet password.
 struct KeychainItem {
-    std::optional<std::string> account; ///< user name
+    std::optional<std::string> account; ///< user name; DOMAIN\USER where the store keeps a domain with it
     std::optional<Secret> data;         ///< the password
 };
+
+/// The account of a user name and a domain that are kept apart; a user name that names its domain itself, as
+/// DOMAIN\USER or USER@DOMAIN, and one without a domain stay as they are.
+inline std::string accountOf(const std::string& domain, const std::string& user) {
+    return domain.empty() || user.find_first_of("\\@") != std::string::npos ? user : domain + '\\' + user;
+}
 
 struct KeychainResult {
     std::int32_t status = 0;          ///< 0, or the service's own code; errSecItemNotFound
@@ -27,8 +33,8 @@ class Keychain {
 public:
     virtual ~Keychain() = default;
 
-    /// The one internet-password item whose server attribute equals `server` exactly. Never asks the
-    /// user anything: a locked store counts as one without the item.
+    /// The internet-password item whose server attribute equals `server` exactly; of several, the one that
+    /// was written last. Never asks the user anything: a locked store counts as one without the item.
     virtual KeychainResult findInternetPassword(const std::string& server) = 0;
 };
 

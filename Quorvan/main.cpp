@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/Log.h"
 #include "Platform/Linux/LdapDirectory.h"
+#include "Platform/Linux/MountCredentials.h"
 #include "Platform/Linux/MountedVolumes.h"
 #include "Platform/Linux/PlistSharedDefaults.h"
 #include "Platform/Linux/SecretServiceKeychain.h"
@@ -68,7 +69,7 @@ quorvan::platform::Services platformServices() {
     const LogLine log = [](std::string_view text) { quorvan::Log("%@", text); };
     Services services;
     services.sharedDefaults = std::make_shared<PlistSharedDefaults>(log);
-    services.keychain = std::make_shared<SecretServiceKeychain>();
+    services.keychain = std::make_shared<MountCredentials>(std::make_shared<SecretServiceKeychain>());
     services.busy = std::make_shared<QtWaitCursor>(
         [](std::chrono::seconds soFar) { return quorvan::L("Waiting_Label").arg(soFar.count()); });
     services.network = std::make_shared<SmbClientFileSystem>(

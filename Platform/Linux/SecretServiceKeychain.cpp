@@ -6,6 +6,7 @@
 #include <memory>
 #include <string_view>
 #include <thread>
+#include <tuple>
 #include <utility>
 
 #include <strings.h>
@@ -34,15 +35,31 @@ struct SecretDeleter {
     void operator()(gpointer secret) const { secret_value_unref(secret); }
 };
 
-/// What an item holds; nothing when its secret cannot be had without asking the user.
-std::optional<KeychainItem> contents(SecretItem* item) {
-    const std::unique_ptr<SecretValue, SecretDeleter> secret(secret_item_get_secret(item));
-    if (!secret)
-        return std::nullopt;
-    KeychainItem found;
+std::unique_ptr<SecretValue, SecretDeleter> secretOf(SecretItem* item) {
+    return std::unique_ptr<SecretValue, SecretDeleter>(secret_item_get_secret(item));
+}
+
+/// An attribute of an item; "" where it has none of that name.
+std::string attribute(SecretItem* item, const char* name) {
     const Table attributes(secret_item_get_attributes(item));
-    if (const auto* user = static_cast<const char*>(g_hash_table_lookup(attributes.get(), "user")))
-        found.account = user;
+    const auto* value = static_cast<const char*>(g_hash_table_lookup(attributes.get(), name));
+    return value != nullptr ? value : "";
+}
+
+/// Which of two items for one server is the better one: one with an account, then one for SMB's own port,
+/// then the one that was written last.
+auto rank(SecretItem* item) {
+    const std::string port = attribute(item, "port");
+    return std::tuple(!attribute(item, "user").empty(), port.empty() || port == "0" || port == "445",
+                      secret_item_get_modified(item));
+}
+
+/// What an item that has a secret holds.
+KeychainItem contents(SecretItem* item) {
+    const auto secret = secretOf(item);
+    KeychainItem found;
+    if (const std::string user = attribute(item, "user"); !user.empty())
+        found.account = accountOf(attribute(item, "domain"), user);
     gsize length = 0;
     const char* bytes = secret_value_get(secret.get(), &length);
     found.data.emplace(std::string_view(bytes, length));
@@ -75,12 +92,16 @@ KeychainResult find(const std::string& server, GCancellable* cancellable) {
     const Items items =
         search(server.c_str(), static_cast<SecretSearchFlags>(SECRET_SEARCH_ALL | SECRET_SEARCH_LOAD_SECRETS),
                cancellable);
-    // After the time limit the answer is not waited for, so no password is copied either.
-    for (const GList* at = items.get(); at != nullptr && g_cancellable_is_cancelled(cancellable) == FALSE;
-         at = at->next) {
-        if (auto item = contents(SECRET_ITEM(at->data)))
-            return {0, std::move(item)};
+    SecretItem* best = nullptr;
+    for (const GList* at = items.get(); at != nullptr; at = at->next) {
+        // Without a secret is what cannot be had without asking the user.
+        SecretItem* const item = SECRET_ITEM(at->data);
+        if (secretOf(item) && (best == nullptr || rank(item) > rank(best)))
+            best = item;
     }
+    // After the time limit the answer is not waited for, so no password is copied either.
+    if (best != nullptr && g_cancellable_is_cancelled(cancellable) == FALSE)
+        return {0, contents(best)};
     return result;
 }
 
@@ -88,13 +109,11 @@ std::string findSpelling(const std::string& server, GCancellable* cancellable) {
     const Items items = search(nullptr, SECRET_SEARCH_ALL, cancellable);
     std::string found = server;
     for (const GList* at = items.get(); at != nullptr; at = at->next) {
-        const Table attributes(secret_item_get_attributes(SECRET_ITEM(at->data)));
-        const auto* name = static_cast<const char*>(g_hash_table_lookup(attributes.get(), "server"));
-        if (name == nullptr || strcasecmp(name, server.c_str()) != 0)
-            continue;
+        const std::string name = attribute(SECRET_ITEM(at->data), "server");
         if (name == server)
             return server;
-        found = name;
+        if (strcasecmp(name.c_str(), server.c_str()) == 0)
+            found = name;
     }
     return found;
 }

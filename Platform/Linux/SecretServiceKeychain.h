@@ -8,7 +8,8 @@
 namespace quorvan::platform {
 
 /// The desktop's keyring, through the Secret Service: the network passwords that the file manager
-/// stores for its own SMB mounts (attributes server, user and protocol = smb).
+/// stores for its own SMB mounts (attributes server, user and protocol = smb, and where given domain and
+/// port).
 ///
 /// Everything that keeps it from finding a password gives errSecItemNotFound: no session bus, no service, a
 /// locked collection, no item, or a service that does not answer within the time limit. Nothing ever

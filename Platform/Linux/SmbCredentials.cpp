@@ -15,18 +15,26 @@ void fillIn(std::span<char> target, std::string_view text) {
 
 } // namespace
 
-SmbCredentials::SmbCredentials(std::string host, std::string user, Secret password)
+SmbCredentials::SmbCredentials(std::string host, std::string account, Secret password)
     : host_(std::move(host))
-    , user_(std::move(user))
-    , password_(std::move(password)) {}
-
-bool SmbCredentials::canUse(std::string_view user, const Secret& password) {
-    return user.size() <= longestCredential && password.size() <= longestCredential;
+    , user_(std::move(account))
+    , password_(std::move(password)) {
+    if (const std::size_t end = user_.find('\\'); end != std::string::npos) {
+        domain_ = user_.substr(0, end);
+        user_.erase(0, end + 1);
+    }
 }
 
-void SmbCredentials::answer(std::string_view host, std::span<char> user, std::span<char> password) const {
+bool SmbCredentials::canUse(std::string_view account, const Secret& password) {
+    return account.size() <= longestCredential && password.size() <= longestCredential;
+}
+
+void SmbCredentials::answer(std::string_view host, std::span<char> domain, std::span<char> user,
+                            std::span<char> password) const {
     if (host != host_)
         return;
+    if (!domain_.empty())
+        fillIn(domain, domain_);
     fillIn(user, user_);
     fillIn(password, password_.reveal());
 }

@@ -12,17 +12,20 @@ namespace quorvan::platform {
 /// Name and password for one server, and for no other that it may refer to.
 class SmbCredentials {
 public:
-    SmbCredentials(std::string host, std::string user, Secret password);
+    /// An account DOMAIN\USER logs in to that domain.
+    SmbCredentials(std::string host, std::string account, Secret password);
 
     /// Whether the library takes these as they are; it would log in with a part of longer ones.
-    static bool canUse(std::string_view user, const Secret& password);
+    static bool canUse(std::string_view account, const Secret& password);
 
     /// Answers the library's question for a login: fills its buffers when `host` is the server that this is
-    /// for, and leaves them as they are for any other.
-    void answer(std::string_view host, std::span<char> user, std::span<char> password) const;
+    /// for, and leaves them as they are for any other; that of the domain, too, for an account without one.
+    void answer(std::string_view host, std::span<char> domain, std::span<char> user,
+                std::span<char> password) const;
 
 private:
     std::string host_;
+    std::string domain_;
     std::string user_;
     Secret password_;
 };

@@ -88,9 +88,10 @@ SmbSession& SmbSession::of(SMBCCTX* context) {
     return *static_cast<SmbSession*>(smbc_getOptionUserData(context));
 }
 
-void SmbSession::logIn(SMBCCTX* context, const char* server, const char*, char*, int, char* user,
-                       int userSize, char* password, int passwordSize) {
-    of(context).credentials_.answer(server, {user, static_cast<std::size_t>(userSize)},
+void SmbSession::logIn(SMBCCTX* context, const char* server, const char*, char* domain, int domainSize,
+                       char* user, int userSize, char* password, int passwordSize) {
+    of(context).credentials_.answer(server, {domain, static_cast<std::size_t>(domainSize)},
+                                    {user, static_cast<std::size_t>(userSize)},
                                     {password, static_cast<std::size_t>(passwordSize)});
 }
 

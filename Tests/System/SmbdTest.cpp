@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <memory>
+#include <sstream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -41,6 +42,11 @@ public:
     }
 
     std::filesystem::path share() const { return folder.path / "share"; }
+    std::string log() const {
+        std::stringstream text;
+        text << std::ifstream(folder.path / "log").rdbuf();
+        return text.str();
+    }
     std::string url() const { return "smb://127.0.0.1:" + std::to_string(port) + "/vol1"; }
 
     /// How the one session is signed, as smbd has it: "-" for not at all.
@@ -67,15 +73,26 @@ private:
 };
 
 /// Mounts the share as root, once smbd listens.
-platform::MountResult mount(platform::SmbClientFileSystem& files, const Smbd& smbd, const char* secret) {
+platform::MountResult mount(platform::SmbClientFileSystem& files, const Smbd& smbd, const char* secret,
+                            const char* account = "root") {
     platform::MountResult mounted;
     for (int tries = 0; tries < 200; ++tries) {
-        mounted = files.mount(smbd.url(), "root", platform::Secret(secret), {});
+        mounted = files.mount(smbd.url(), account, platform::Secret(secret), {});
         if (mounted.error != ECONNREFUSED)
             break;
         ::usleep(20'000);
     }
     return mounted;
+}
+
+TEST(SmbdTest, IsToldTheDomainOfAnAccountThatHasOne) {
+    if (!isInstalled("smbd") || !isInstalled("pdbedit"))
+        GTEST_SKIP() << "samba is not installed";
+    const Smbd smbd("log level = 1 auth_audit:3");
+    platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
+                                        {.silence = std::chrono::seconds(5)});
+    EXPECT_EQ(mount(files, smbd, password, "MERIDAL\\root").error, 0);
+    EXPECT_NE(smbd.log().find("user [MERIDAL]\\[root]"), std::string::npos) << smbd.log();
 }
 
 /// What a request was cut off by is a loss, though writing is not waited for: the answer to it says nothing.

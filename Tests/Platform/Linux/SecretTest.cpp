@@ -120,13 +120,21 @@ TEST(SecretTest, LeavesNothingOfItInMemory) {
 }
 
 TEST(SecretTest, IsForOneServer) {
-    const platform::SmbCredentials credentials("192.0.2.1", "bob", Secret("s3cret"));
-    for (const auto& [host, expected] :
-         {std::pair{"192.0.2.1", "bob s3cret"}, {"192.0.2.10", " "}, {"", " "}}) {
-        char user[8] = "";
+    const struct {
+        const char *account, *host, *given;
+    } cases[] = {{"bob", "192.0.2.1", "HERE bob s3cret"},
+                 {"bob", "192.0.2.10", "HERE  "},
+                 {"bob", "", "HERE  "},
+                 {"MERIDAL\\bob", "192.0.2.1", "MERIDAL bob s3cret"},
+                 {"MERIDAL\\bob", "192.0.2.10", "HERE  "},
+                 {"bob@meridal.example", "192.0.2.1", "HERE bob@meridal.example s3cret"}};
+    for (const auto& item : cases) {
+        const platform::SmbCredentials credentials("192.0.2.1", item.account, Secret("s3cret"));
+        char domain[8] = "HERE";
+        char user[32] = "";
         char password[8] = "";
-        credentials.answer(host, user, password);
-        EXPECT_EQ(std::string(user) + " " + password, expected) << host;
+        credentials.answer(item.host, domain, user, password);
+        EXPECT_EQ(std::string(domain) + " " + user + " " + password, item.given) << item.host;
     }
 }
 

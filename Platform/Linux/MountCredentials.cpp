@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Platform/Linux/MountCredentials.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include <fcntl.h>
+#include <mntent.h>
+#include <strings.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quorvan::platform {
+namespace {
+
+/// Longer ones do not hold just an account.
+constexpr std::size_t longestFile = 4096;
+
+struct TableCloser {
+    void operator()(FILE* table) const { endmntent(table); }
+};
+
+/// Cuts off and returns what comes before the first `separator`; all where there is none.
+std::string_view takeUntil(std::string_view& text, char separator) {
+    const std::size_t end = std::min(text.find(separator), text.size());
+    const std::string_view part = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return part;
+}
+
+/// What options and credentials file say of an account, in the words that mount.cifs takes.
+struct Account {
+    std::string domain;
+    std::string user;
+    std::string file;
+    std::optional<Secret> password;
+
+    void take(std::string_view setting) {
+        const std::string_view name = takeUntil(setting, '=');
+        if (name == "username" || name == "user")
+            user = setting;
+        else if (name == "domain" || name == "dom" || name == "workgroup")
+            domain = setting;
+        else if (name == "password" || name == "pass")
+            password.emplace(setting);
+        else if (name == "credentials" || name == "cred")
+            file = setting;
+    }
+
+    /// Takes what the file says, as far as this user may read it.
+    void readFile() {
+        const int descriptor = ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+        if (descriptor < 0)
+            return;
+        std::array<char, longestFile> bytes;
+        struct stat status {};
+        ssize_t length = 0;
+        if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+            status.st_size <= static_cast<off_t>(bytes.size()))
+            length = ::read(descriptor, bytes.data(), bytes.size());
+        ::close(descriptor);
+        std::string_view text(bytes.data(), static_cast<std::size_t>(std::max<ssize_t>(length, 0)));
+        while (!text.empty()) {
+            std::string_view line = takeUntil(text, '\n');
+            line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+            take(line);
+        }
+        ::explicit_bzero(bytes.data(), bytes.size());
+    }
+};
+
+/// Whether an entry mounts a share of the server: "//server/share/folder".
+bool isOf(const mntent& entry, const std::string& server) {
+    const std::string_view kind = entry.mnt_type;
+    std::string_view source = entry.mnt_fsname;
+    if ((kind != "cifs" && kind != "smb3") || !source.starts_with("//"))
+        return false;
+    source.remove_prefix(2);
+    const std::string host(takeUntil(source, '/'));
+    return ::strcasecmp(host.c_str(), server.c_str()) == 0;
+}
+
+} // namespace
+
+MountCredentials::MountCredentials(std::shared_ptr<Keychain> first, std::filesystem::path table)
+    : first_(std::move(first))
+    , table_(std::move(table)) {}
+
+KeychainResult MountCredentials::findInternetPassword(const std::string& server) {
+    KeychainResult kept = first_->findInternetPassword(server);
+    if (kept.item && kept.item->account)
+        return kept;
+    const std::unique_ptr<FILE, TableCloser> table(::setmntent(table_.c_str(), "re"));
+    mntent entry{};
+    std::array<char, longestFile> line;
+    while (table &&
+           ::getmntent_r(table.get(), &entry, line.data(), static_cast<int>(line.size())) != nullptr) {
+        if (!isOf(entry, server))
+            continue;
+        Account account;
+        for (std::string_view options = entry.mnt_opts; !options.empty();)
+            account.take(takeUntil(options, ','));
+        if (!account.file.empty())
+            account.readFile();
+        if (!account.user.empty() && account.password)
+            return {0, KeychainItem{accountOf(account.domain, account.user), std::move(account.password)}};
+    }
+    return kept;
+}
+
+} // namespace quorvan::platform
