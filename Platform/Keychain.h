@@ -15,7 +15,7 @@ inline constexpr std::int32_t errSecItemNotFound = -25300;
 /// What the keychain knows about one internet password.
 struct KeychainItem {
     std::optional<std::string> account; ///< user name; DOMAIN\USER where the store keeps a domain with it
-    std::optional<Secret> data;         ///< the password
+    std::optional<Secret> data;         ///< the password; empty where a ticket stands for it
 };
 
 /// The account of a user name and a domain that are kept apart; a user name that names its domain itself, as

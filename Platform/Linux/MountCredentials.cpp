@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Platform/Linux/MountCredentials.h"
 
+#include "Platform/Linux/KerberosTicket.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstring>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <mntent.h>
@@ -73,6 +76,10 @@ struct Account {
     }
 };
 
+bool isSameHost(const std::string& one, const std::string& other) {
+    return ::strcasecmp(one.c_str(), other.c_str()) == 0;
+}
+
 /// Whether an entry mounts a share of the server: "//server/share/folder".
 bool isOf(const mntent& entry, const std::string& server) {
     const std::string_view kind = entry.mnt_type;
@@ -80,21 +87,12 @@ bool isOf(const mntent& entry, const std::string& server) {
     if ((kind != "cifs" && kind != "smb3") || !source.starts_with("//"))
         return false;
     source.remove_prefix(2);
-    const std::string host(takeUntil(source, '/'));
-    return ::strcasecmp(host.c_str(), server.c_str()) == 0;
+    return isSameHost(std::string(takeUntil(source, '/')), server);
 }
 
-} // namespace
-
-MountCredentials::MountCredentials(std::shared_ptr<Keychain> first, std::filesystem::path table)
-    : first_(std::move(first))
-    , table_(std::move(table)) {}
-
-KeychainResult MountCredentials::findInternetPassword(const std::string& server) {
-    KeychainResult kept = first_->findInternetPassword(server);
-    if (kept.item && kept.item->account)
-        return kept;
-    const std::unique_ptr<FILE, TableCloser> table(::setmntent(table_.c_str(), "re"));
+/// The account with which the table has a share of the server mounted.
+std::optional<KeychainItem> accountInTable(const std::filesystem::path& path, const std::string& server) {
+    const std::unique_ptr<FILE, TableCloser> table(::setmntent(path.c_str(), "re"));
     mntent entry{};
     std::array<char, longestFile> line;
     while (table &&
@@ -107,8 +105,38 @@ KeychainResult MountCredentials::findInternetPassword(const std::string& server)
         if (!account.file.empty())
             account.readFile();
         if (!account.user.empty() && account.password)
-            return {0, KeychainItem{accountOf(account.domain, account.user), std::move(account.password)}};
+            return KeychainItem{accountOf(account.domain, account.user), std::move(account.password)};
     }
+    return std::nullopt;
+}
+
+/// The account of the user's ticket, where it may have opened a mounted share of the server.
+std::optional<KeychainItem> accountOfTicket(const MountPlaces& places, const std::string& server) {
+    const std::vector<ShareMount> mounts = shareMounts(places);
+    if (std::none_of(mounts.begin(), mounts.end(), [&server](const ShareMount& mount) {
+            return mount.triesTicket && isSameHost(mount.server, server);
+        }))
+        return std::nullopt;
+    const std::string owner = ticketOwner();
+    return owner.empty() ? std::nullopt : std::optional(KeychainItem{owner, Secret()});
+}
+
+} // namespace
+
+MountCredentials::MountCredentials(std::shared_ptr<Keychain> first, std::filesystem::path table,
+                                   MountPlaces places)
+    : first_(std::move(first))
+    , table_(std::move(table))
+    , places_(std::move(places)) {}
+
+KeychainResult MountCredentials::findInternetPassword(const std::string& server) {
+    KeychainResult kept = first_->findInternetPassword(server);
+    if (kept.item && kept.item->account)
+        return kept;
+    if (auto item = accountInTable(table_, server))
+        return {0, std::move(item)};
+    if (auto item = accountOfTicket(places_, server))
+        return {0, std::move(item)};
     return kept;
 }
 

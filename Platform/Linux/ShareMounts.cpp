@@ -58,7 +58,7 @@ fs::path folderOf(const std::string& ofSource, const std::string& root) {
 }
 
 /// A line of the mount table: id, parent, device, root, mount point, options, optional fields, "-", kind,
-/// source, …
+/// source, options of the file system.
 ShareMount parsedMountLine(const std::string& line) {
     std::istringstream fields(line);
     std::string skipped;
@@ -69,7 +69,8 @@ ShareMount parsedMountLine(const std::string& line) {
     fields >> skipped >> skipped >> skipped >> root >> point;
     while (fields >> skipped && skipped != "-") {
     }
-    fields >> kind >> source;
+    std::string options;
+    fields >> kind >> source >> options;
     ShareMount mount;
     mount.point = unescaped(point);
     if ((kind != "cifs" && kind != "smb3") || !source.starts_with("//"))
@@ -78,6 +79,7 @@ ShareMount parsedMountLine(const std::string& line) {
     mount.server = takePart(source);
     mount.share = takePart(source);
     mount.folder = folderOf(trimmed(source), trimmed(unescaped(root)));
+    mount.triesTicket = (',' + options).find(",sec=krb5") != std::string::npos; // and krb5i
     return mount;
 }
 
@@ -102,6 +104,7 @@ ShareMount parsedDesktopMount(const fs::path& point) {
     }
     if (!isOfSmbPort)
         mount.server.clear();
+    mount.triesTicket = true;
     mount.hasLowerCaseName = true;
     return mount;
 }
@@ -153,7 +156,7 @@ std::vector<ShareMount> allMounts(const MountPlaces& places) {
         forEachEntry(entry / "smb", [&add](const fs::path& host) {
             const std::string server = serverOf(host.filename().native());
             forEachEntry(host, [&](const fs::path& share) {
-                add({server, share.filename().native(), {}, share, false});
+                add({server, share.filename().native(), {}, share, true, false});
             });
         });
     });

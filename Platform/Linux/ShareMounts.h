@@ -13,6 +13,7 @@ struct ShareMount {
     std::string share;
     std::filesystem::path folder;  ///< below the share, what is mounted; empty for the whole
     std::filesystem::path point;   ///< where it is mounted
+    bool triesTicket = false;      ///< the user's Kerberos ticket opens it, where there is one
     bool hasLowerCaseName = false; ///< the file manager writes the names of shares so, whatever they are
 };
 

@@ -15,6 +15,8 @@ public:
     /// An account DOMAIN\USER logs in to that domain.
     SmbCredentials(std::string host, std::string account, Secret password);
 
+    bool hasPassword() const { return !password_.empty(); }
+
     /// Whether the library takes these as they are; it would log in with a part of longer ones.
     static bool canUse(std::string_view account, const Secret& password);
 

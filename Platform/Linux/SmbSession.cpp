@@ -13,7 +13,7 @@ namespace quorvan::platform {
 SmbSession::SmbSession(const SmbUrl& share, ServerAddress server, std::string user, const Secret& password,
                        std::chrono::milliseconds timeLimit)
     : server_(std::move(server))
-    , share_(share.at(server_.host))
+    , share_(password.empty() ? share : share.at(server_.host))
     , credentials_(share_.host(), std::move(user), password.share())
     , timeLimit_(timeLimit) {}
 
@@ -31,7 +31,8 @@ bool SmbSession::makeContext() {
     smbc_setPort(context_, 445); // left to itself, the library tries NetBIOS first
     smbc_setOptionUserData(context_, this);
     smbc_setFunctionAuthDataWithContext(context_, logIn);
-    smbc_setOptionUseKerberos(context_, 0);
+    smbc_setOptionUseKerberos(context_, credentials_.hasPassword() ? 0 : 1);
+    smbc_setOptionFallbackAfterKerberos(context_, 1);
     smbc_setOptionUseCCache(context_, 0);
     smbc_setOptionNoAutoAnonymousLogin(context_, 1);
     // Below this level the library takes a guest login for the user's, and signs nothing but the login where

@@ -13,8 +13,9 @@
 
 namespace quorvan::platform {
 
-/// One authenticated connection to one share. Functions fail with -1 or null, and errno. The time limit is
-/// the library's own, for each message: a last resort behind the caller's.
+/// One authenticated connection to one share, by the user's Kerberos ticket where the password is empty.
+/// Functions fail with -1 or null, and errno. The time limit is the library's own, for each message: a last
+/// resort behind the caller's.
 class SmbSession {
 public:
     SmbSession(const SmbUrl& share, ServerAddress server, std::string user, const Secret& password,
@@ -45,7 +46,7 @@ private:
     void seek(SMBCFILE* file, off_t offset);
 
     ServerAddress server_;
-    SmbUrl share_; ///< on the server's address, so that the library has no name to resolve
+    SmbUrl share_; ///< on the server's address, so that the library has no name to resolve; tickets need it
     SmbCredentials credentials_;
     std::chrono::milliseconds timeLimit_;
     SMBCCTX* context_ = nullptr;

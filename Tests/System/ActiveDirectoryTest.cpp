@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Common/ServerDetails.h"
 #include "Platform/Linux/LdapDirectory.h"
+#include "Platform/Linux/MountCredentials.h"
 #include "Platform/Linux/SmbClientFileSystem.h"
 #include "Quorvan/ViewModal/RightsWay.h"
 #include "Quorvan/ViewModal/ScopedPipe.h"
@@ -8,13 +9,18 @@
 #include "Quorvan/ViewModal/XMLReadWrite.h"
 #include "Tests/Support/Fakes.h"
 #include "Tests/System/ActiveDirectoryServer.h"
+#include "Tests/System/Smbd.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <chrono>
+#include <climits>
+#include <fstream>
 #include <set>
+
+#include <unistd.h>
 
 namespace quorvan::test {
 namespace {
@@ -272,8 +278,34 @@ TEST_F(ActiveDirectory, LetsTheTicketInWithoutPassword) {
     const auto node = client()->openNode(domainNode);
     ASSERT_NE(node, nullptr);
     EXPECT_EQ(node->query({users, recordName, DirectoryMatch::any, {}, 1001}).value().size(), 1001U);
-    ::setenv("KRB5CCNAME", controller->file("tickets").c_str(), 1);
     EXPECT_THAT(log, IsEmpty());
+
+    // And to a file server of the domain, which knows no password of hers.
+    char host[HOST_NAME_MAX + 1] = "";
+    ::gethostname(host, sizeof(host));
+    SmbClientFileSystem files([](std::string_view) {});
+    if (!Smbd::isInstalled() || files.resolve(host) != "127.0.0.1")
+        GTEST_SKIP() << "there is no smbd, or this machine's name is not that of 127.0.0.1";
+    std::ofstream(controller->file("names")) << "root = administrator QUORVAN\\administrator\n";
+    const Smbd smbd("realm = QUORVAN.TEST\nworkgroup = QUORVAN\nkerberos method = dedicated keytab\n"
+                    "dedicated keytab file = FILE:" +
+                    controller->file("cifs.keytab") + "\nusername map = " + controller->file("names"));
+    std::ofstream(controller->file("mounts"))
+        << "1 1 0:1 / /mnt rw - cifs //" << host << "/vol1 rw,sec=krb5,username=x\n"
+        << "2 1 0:1 / /srv rw - cifs //other/vol1 rw,sec=ntlmssp,username=x\n";
+    keychain->server = "none";
+    MountCredentials mounts(keychain, "/dev/null", {controller->file("mounts"), controller->file("none")});
+    EXPECT_EQ(mounts.findInternetPassword("other").status, -25300);
+    const auto item = mounts.findInternetPassword(host).item;
+    ASSERT_TRUE(item);
+    EXPECT_EQ(item->account, "administrator@QUORVAN.TEST");
+    ASSERT_TRUE(item->data->empty());
+    EXPECT_EQ(mount(files, smbd.url(host), "", item->account->c_str()).error, 0) << smbd.log();
+
+    ::setenv("KRB5CCNAME", controller->file("tickets").c_str(), 1);
+    EXPECT_EQ(mounts.findInternetPassword(host).status, -25300) << "without a ticket";
+    files.forgetRefusals();
+    EXPECT_EQ(mount(files, smbd.url(host), "", item->account->c_str()).error, EACCES);
 }
 
 TEST_F(ActiveDirectory, OpensDroppedConnectionsAnew) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The SMB adapter in front of Debian's own server, set up in the ways in which a server can be careless.
-#include "Platform/Linux/SmbClientFileSystem.h"
-#include "Tests/Support/ChildProcess.h"
+#include "Tests/System/Smbd.h"
 
 #include <fcntl.h>
 
@@ -20,84 +19,21 @@ namespace {
 
 using namespace test;
 
-constexpr const char* password = "sm8d-s3cret";
-
-/// smbd with a configuration in a folder of its own, on a port of this test program's.
-class Smbd {
-public:
-    explicit Smbd(const std::string& settings) {
-        std::ofstream file(conf);
-        file << "[global]\nserver role = standalone\nsmb ports = " << port
-             << "\ninterfaces = lo 127.0.0.1/8\nbind interfaces only = yes\nguest account = nobody\n"
-                "load printers = no\ndisable spoolss = yes\n"
-             << "log file = " << (folder.path / "log").string() << '\n';
-        for (const char* name : {"private dir", "lock directory", "state directory", "cache directory",
-                                 "pid directory", "ncalrpc dir"})
-            file << name << " = " << made(name) << '\n';
-        file << settings << "\n[vol1]\npath = " << made("share") << "\nguest ok = yes\nread only = no\n"
-             << std::flush;
-        const std::string secret = std::string(password) + "\n";
-        run({"pdbedit", "-s", conf, "-a", "-t", "root"}, secret + secret);
-        server = std::make_unique<ChildProcess>(std::vector<std::string>{"smbd", "-F", "-s", conf});
-    }
-
-    std::filesystem::path share() const { return folder.path / "share"; }
-    std::string log() const {
-        std::stringstream text;
-        text << std::ifstream(folder.path / "log").rdbuf();
-        return text.str();
-    }
-    std::string url() const { return "smb://127.0.0.1:" + std::to_string(port) + "/vol1"; }
-
-    /// How the one session is signed, as smbd has it: "-" for not at all.
-    std::string signing() const {
-        ChildProcess status({"smbstatus", "-s", conf, "-p"});
-        status.closeInput();
-        std::string line;
-        for (int lines = 0; lines < 20 && line.find("(ipv4:127.0.0.1:") == std::string::npos; ++lines)
-            line = status.readLine();
-        line.erase(line.find_last_not_of(' ') + 1);
-        return line.substr(line.rfind(' ') + 1);
-    }
-
-private:
-    std::string made(const std::string& name) const {
-        std::filesystem::create_directory(folder.path / name);
-        return (folder.path / name).string();
-    }
-
-    TemporaryFolder folder;
-    int port = 20000 + ::getpid() % 10000;
-    std::string conf = (folder.path / "smb.conf").string();
-    std::unique_ptr<ChildProcess> server;
-};
-
-/// Mounts the share as root, once smbd listens.
-platform::MountResult mount(platform::SmbClientFileSystem& files, const Smbd& smbd, const char* secret,
-                            const char* account = "root") {
-    platform::MountResult mounted;
-    for (int tries = 0; tries < 200; ++tries) {
-        mounted = files.mount(smbd.url(), account, platform::Secret(secret), {});
-        if (mounted.error != ECONNREFUSED)
-            break;
-        ::usleep(20'000);
-    }
-    return mounted;
-}
+constexpr const char* password = Smbd::password;
 
 TEST(SmbdTest, IsToldTheDomainOfAnAccountThatHasOne) {
-    if (!isInstalled("smbd") || !isInstalled("pdbedit"))
+    if (!Smbd::isInstalled())
         GTEST_SKIP() << "samba is not installed";
     const Smbd smbd("log level = 1 auth_audit:3");
     platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
                                         {.silence = std::chrono::seconds(5)});
-    EXPECT_EQ(mount(files, smbd, password, "MERIDAL\\root").error, 0);
+    EXPECT_EQ(mount(files, smbd.url(), password, "MERIDAL\\root").error, 0);
     EXPECT_NE(smbd.log().find("user [MERIDAL]\\[root]"), std::string::npos) << smbd.log();
 }
 
 /// What a request was cut off by is a loss, though writing is not waited for: the answer to it says nothing.
 TEST(SmbdTest, TakesARequestThatWasNotWrittenForALoss) {
-    if (!isInstalled("smbd") || !isInstalled("pdbedit"))
+    if (!Smbd::isInstalled())
         GTEST_SKIP() << "samba is not installed";
     const Smbd smbd("strict locking = yes");
     platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
@@ -116,7 +52,7 @@ TEST(SmbdTest, TakesARequestThatWasNotWrittenForALoss) {
         files.close(descriptor);
         return loss;
     };
-    const platform::MountResult share = mount(files, smbd, password);
+    const platform::MountResult share = mount(files, smbd.url(), password);
     EXPECT_EQ(exchange(share), 0);
     const int locked = ::open(file.c_str(), O_RDWR);
     struct flock beginning = {.l_type = F_WRLCK, .l_whence = SEEK_SET, .l_start = 0, .l_len = 4, .l_pid = 0};
@@ -126,7 +62,7 @@ TEST(SmbdTest, TakesARequestThatWasNotWrittenForALoss) {
 }
 
 TEST(SmbdTest, IsLoggedInToByTheUserAndSignedOrNotAtAll) {
-    if (!isInstalled("smbd") || !isInstalled("pdbedit"))
+    if (!Smbd::isInstalled())
         GTEST_SKIP() << "samba is not installed";
     // What the library reads of the user's must not weaken a login; smbd refuses the older NTLM.
     const TemporaryFolder home;
@@ -151,7 +87,7 @@ TEST(SmbdTest, IsLoggedInToByTheUserAndSignedOrNotAtAll) {
         const Smbd smbd(item.settings);
         platform::SmbClientFileSystem files([](std::string_view) {}, nullptr,
                                             {.silence = std::chrono::seconds(5)});
-        const platform::MountResult mounted = mount(files, smbd, item.secret);
+        const platform::MountResult mounted = mount(files, smbd.url(), item.secret);
         EXPECT_EQ(mounted.error, item.error);
         EXPECT_EQ(mounted.error == 0 ? smbd.signing() : "", item.signing);
     }

@@ -8,11 +8,13 @@ what keeps it from running here.
 """
 import os
 import pathlib
+import socket
 import subprocess
 import sys
 
 USERS, GROUPS, MEMBERS = 2500, 200, 50
 PASSWORD = "Pl3nty-0f-s3crets"
+SHARES = "cifs/" + socket.gethostname()  # of a file server beside this one, which has cifs.keytab
 ODD = "Zoë (q*x\\y)"
 
 if sys.argv[1] == "--obstacle":
@@ -87,6 +89,10 @@ odd = "CN=" + ODD.replace("\\", "\\5c") + below
 directory.add({"dn": odd, "objectClass": "user", "sAMAccountName": "odd"})
 directory.modify_ldif(f"dn: CN=DC1,OU=Domain Controllers,{base}\nchangetype: modify\n"
                       f"add: servicePrincipalName\nservicePrincipalName: ldap/{address}\n")
+# The file server is no member of the domain, and takes tickets that say nothing of groups (0x2000000).
+directory.add({"dn": "CN=shares" + below, "objectClass": "user", "sAMAccountName": "shares",
+               "servicePrincipalName": SHARES, "userAccountControl": str(0x2000000 | 0x200),
+               "unicodePwd": f'"{PASSWORD}"'.encode("utf-16-le")})
 directory.transaction_commit()
 del directory
 # The rules for account names forbid some of these characters; what is in a directory need not obey them.
@@ -95,6 +101,9 @@ change = ldb.Message(ldb.Dn(store, odd))
 change["name"] = ldb.MessageElement(ODD, ldb.FLAG_MOD_REPLACE, "sAMAccountName")
 store.modify(change)
 del store
+
+subprocess.run(["samba-tool", "domain", "exportkeytab", top / "cifs.keytab", f"--principal={SHARES}",
+                f"--configfile={configuration}"], **quiet)
 
 print("filled", flush=True)
 os.execv("/usr/sbin/samba", ["samba", "-F", "-M", "single", "--no-process-group", "-s", str(configuration)])
