@@ -30,17 +30,16 @@ namespace {
 
 using quorvan::L;
 
-constexpr const char* helpText =
-    "Usage: quorvan-handover PATH|URI\n"
-    "\n"
-    "Opens Quorvan on a file or folder of a mounted SMB share: a local path, or an\n"
-    "address smb://HOST/SHARE/path. The menus of the file managers call it.\n"
-    "\n"
-    "  -h, --help     show this text and end\n"
-    "  -v, --version  show the version and end\n";
-
 bool hasDisplay() {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+/// A text of the string tables; there is an application.
+QString localized(const char* key) {
+    quorvan::platform::Services services;
+    services.bundle = std::make_shared<quorvan::platform::QtBundle>();
+    const quorvan::platform::ScopedServices installed(services);
+    return L(key);
 }
 
 /// On a terminal as text, anywhere else as a dialog.
@@ -51,10 +50,7 @@ int refuse(int& count, char** arguments, const char* key, const QString& what) {
         application = std::make_unique<QApplication>(count, arguments);
     else
         application = std::make_unique<QCoreApplication>(count, arguments);
-    quorvan::platform::Services services;
-    services.bundle = std::make_shared<quorvan::platform::QtBundle>();
-    const quorvan::platform::ScopedServices installed(services);
-    QString text = L(key);
+    QString text = localized(key);
     if (text.contains(QLatin1String("%1")))
         text = text.arg(quorvan::shownText(what));
     if (!asDialog) {
@@ -95,7 +91,8 @@ bool isStarted() {
 int handOver(int& argc, char** argv) {
     const std::string_view first = argc > 1 ? argv[1] : "";
     if (first == "-h" || first == "--help") {
-        std::fputs(helpText, stdout);
+        const QCoreApplication application(argc, argv);
+        std::puts(qPrintable(localized("Handover_Help_Label")));
         return 0;
     }
     if (first == "-v" || first == "--version") {

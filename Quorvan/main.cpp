@@ -29,14 +29,13 @@
 
 namespace {
 
-constexpr const char* helpText =
-    "Usage: quorvan [--help] [--version]\n"
-    "\n"
-    "Shows and edits the rights on the file or folder that was chosen in the file manager.\n"
-    "The file manager's menu starts it; on its own it works on the last selection.\n"
-    "\n"
-    "  -h, --help     show this text and end\n"
-    "  -v, --version  show the version and end\n";
+/// What --help prints; there is an application, and no service as yet.
+QByteArray helpText() {
+    quorvan::platform::Services services;
+    services.bundle = std::make_shared<quorvan::platform::QtBundle>();
+    const quorvan::platform::ScopedServices installed(services);
+    return (quorvan::L("Quorvan_Help_Label") + '\n').toLocal8Bit();
+}
 
 bool isGiven(int count, char** arguments, std::string_view shortForm, std::string_view longForm) {
     return std::any_of(arguments + 1, arguments + count, [&](std::string_view argument) {
@@ -85,7 +84,8 @@ quorvan::platform::Services platformServices() {
 
 int main(int argc, char** argv) {
     if (isGiven(argc, argv, "-h", "--help")) {
-        std::fputs(helpText, stdout);
+        const QCoreApplication application(argc, argv);
+        std::fputs(helpText().constData(), stdout);
         return 0;
     }
     if (isGiven(argc, argv, "-v", "--version")) {
@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
     keepMemoryPrivate();
     quorvan::Application application(argc, argv);
     if (argc > 1) { // Qt has taken out what it understands
-        std::fprintf(stderr, "quorvan: unknown argument: %s\n%s", argv[1], helpText);
+        std::fprintf(stderr, "quorvan: unknown argument: %s\n%s", argv[1], helpText().constData());
         return 2;
     }
 #ifdef QUORVAN_SHORT_LIMITS

@@ -1540,5 +1540,27 @@ Fügen Sie hier welche hinzu, oder schließen Sie und wählen Sie dort welche au
     <source></source>
     <translation>Wählen Sie zuerst eine einzelne Zeile aus</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <translation>Aufruf: quorvan [--help] [--version]
+
+Zeigt und ändert die Rechte an der Datei oder dem Ordner, die in der
+Dateiverwaltung gewählt wurden. Deren Menü startet das Programm; für sich
+gestartet arbeitet es mit der letzten Auswahl.
+
+  -h, --help     zeigt diesen Text und endet
+  -v, --version  zeigt die Version und endet</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <translation>Aufruf: quorvan-handover PATH|URI
+
+Öffnet Quorvan für eine Datei oder einen Ordner einer eingehängten
+SMB-Freigabe: ein lokaler Pfad oder eine Adresse smb://HOST/SHARE/Pfad. Die
+Menüs der Dateiverwaltungen rufen es auf.
+
+  -h, --help     zeigt diesen Text und endet
+  -v, --version  zeigt die Version und endet</translation>
+  </message>
 </context>
 </TS>

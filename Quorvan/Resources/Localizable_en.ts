@@ -1768,5 +1768,27 @@ Add users here, or close and select some there.</translation>
     <extracomment>Why a control is grey.</extracomment>
     <translation>Select a single row first</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <extracomment>Printed on a terminal: lines of at most 80 columns. The options stay as they are.</extracomment>
+    <translation>Usage: quorvan [--help] [--version]
+
+Shows and edits the rights on the file or folder that was chosen in the file
+manager, whose menu starts it; on its own it works on the last selection.
+
+  -h, --help     show this text and end
+  -v, --version  show the version and end</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <extracomment>Printed on a terminal: lines of at most 80 columns. The options stay as they are.</extracomment>
+    <translation>Usage: quorvan-handover PATH|URI
+
+Opens Quorvan on a file or folder of a mounted SMB share: a local path, or an
+address smb://HOST/SHARE/path. The menus of the file managers call it.
+
+  -h, --help     show this text and end
+  -v, --version  show the version and end</translation>
+  </message>
 </context>
 </TS>

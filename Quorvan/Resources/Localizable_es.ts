@@ -1540,5 +1540,27 @@ Añada usuarios aquí, o cierre y selecciónelos allí.</translation>
     <source></source>
     <translation>Seleccione antes una sola fila</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <translation>Uso: quorvan [--help] [--version]
+
+Muestra y cambia los derechos sobre el archivo o la carpeta que se eligió en el
+gestor de archivos, cuyo menú lo inicia; por sí solo trabaja con la última
+selección.
+
+  -h, --help     muestra este texto y termina
+  -v, --version  muestra la versión y termina</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <translation>Uso: quorvan-handover PATH|URI
+
+Abre Quorvan sobre un archivo o una carpeta de un recurso SMB montado: una ruta
+local o una dirección smb://HOST/SHARE/ruta. Lo llaman los menús de los
+gestores de archivos.
+
+  -h, --help     muestra este texto y termina
+  -v, --version  muestra la versión y termina</translation>
+  </message>
 </context>
 </TS>

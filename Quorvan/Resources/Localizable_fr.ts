@@ -1540,5 +1540,27 @@ Ajoutez-en ici, ou fermez et sélectionnez-en là-bas.</translation>
     <source></source>
     <translation>Sélectionnez d’abord une seule ligne</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <translation>Utilisation: quorvan [--help] [--version]
+
+Affiche et modifie les droits sur le fichier ou le dossier choisi dans le
+gestionnaire de fichiers, dont le menu le lance ; lancé seul, il reprend la
+dernière sélection.
+
+  -h, --help     affiche ce texte et s’arrête
+  -v, --version  affiche la version et s’arrête</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <translation>Utilisation: quorvan-handover PATH|URI
+
+Ouvre Quorvan sur un fichier ou un dossier d’un partage SMB monté : un chemin
+local ou une adresse smb://HOST/SHARE/chemin. Les menus des gestionnaires de
+fichiers l’appellent.
+
+  -h, --help     affiche ce texte et s’arrête
+  -v, --version  affiche la version et s’arrête</translation>
+  </message>
 </context>
 </TS>

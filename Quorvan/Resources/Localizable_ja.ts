@@ -1534,5 +1534,27 @@ Quorvan はまだファイルの復元や完全削除ができず、ここから
     <source></source>
     <translation>先に 1 行だけ選択してください</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <translation>使い方: quorvan [--help] [--version]
+
+ファイルマネージャーで選んだファイルやフォルダーの権限を表示し、変更します。
+ファイルマネージャーのメニューから起動します。単独で起動すると、最後に
+選んだものを対象にします。
+
+  -h, --help     この説明を表示して終了します
+  -v, --version  バージョンを表示して終了します</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <translation>使い方: quorvan-handover PATH|URI
+
+マウント済みの SMB 共有のファイルまたはフォルダーを対象に Quorvan を開きます。
+ローカルのパスか、smb://HOST/SHARE/パス の形のアドレスを指定します。ファイル
+マネージャーのメニューから呼び出されます。
+
+  -h, --help     この説明を表示して終了します
+  -v, --version  バージョンを表示して終了します</translation>
+  </message>
 </context>
 </TS>

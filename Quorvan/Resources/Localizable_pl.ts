@@ -1546,5 +1546,26 @@ Dodaj użytkowników tutaj albo zamknij i wybierz ich tam.</translation>
     <source></source>
     <translation>Najpierw zaznacz jeden wiersz</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <translation>Użycie: quorvan [--help] [--version]
+
+Wyświetla i zmienia uprawnienia do pliku lub folderu wybranego w menedżerze
+plików, którego menu uruchamia program; uruchomiony samodzielnie pracuje na
+ostatnim wyborze.
+
+  -h, --help     wyświetla ten tekst i kończy
+  -v, --version  wyświetla wersję i kończy</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <translation>Użycie: quorvan-handover PATH|URI
+
+Otwiera Quorvan na pliku lub folderze zamontowanego udziału SMB: ścieżka lokalna
+lub adres smb://HOST/SHARE/ścieżka. Wywołują go menu menedżerów plików.
+
+  -h, --help     wyświetla ten tekst i kończy
+  -v, --version  wyświetla wersję i kończy</translation>
+  </message>
 </context>
 </TS>

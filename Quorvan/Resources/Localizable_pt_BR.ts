@@ -1540,5 +1540,26 @@ Adicione usuários aqui, ou feche e selecione-os lá.</translation>
     <source></source>
     <translation>Selecione antes uma única linha</translation>
   </message>
+  <message id="Quorvan_Help_Label">
+    <source></source>
+    <translation>Uso: quorvan [--help] [--version]
+
+Mostra e altera os direitos sobre o arquivo ou a pasta escolhida no gerenciador
+de arquivos, cujo menu o inicia; sozinho, trabalha com a última seleção.
+
+  -h, --help     mostra este texto e termina
+  -v, --version  mostra a versão e termina</translation>
+  </message>
+  <message id="Handover_Help_Label">
+    <source></source>
+    <translation>Uso: quorvan-handover PATH|URI
+
+Abre o Quorvan em um arquivo ou uma pasta de um compartilhamento SMB montado: um
+caminho local ou um endereço smb://HOST/SHARE/caminho. Os menus dos
+gerenciadores de arquivos o chamam.
+
+  -h, --help     mostra este texto e termina
+  -v, --version  mostra a versão e termina</translation>
+  </message>
 </context>
 </TS>
