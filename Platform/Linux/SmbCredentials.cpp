@@ -29,14 +29,13 @@ bool SmbCredentials::canUse(std::string_view account, const Secret& password) {
     return account.size() <= longestCredential && password.size() <= longestCredential;
 }
 
-void SmbCredentials::answer(std::string_view host, std::span<char> domain, std::span<char> user,
-                            std::span<char> password) const {
+void SmbCredentials::answer(std::string_view host, const LoginBuffers& buffers) const {
     if (host != host_)
         return;
     if (!domain_.empty())
-        fillIn(domain, domain_);
-    fillIn(user, user_);
-    fillIn(password, password_.reveal());
+        fillIn(buffers.domain, domain_);
+    fillIn(buffers.user, user_);
+    fillIn(buffers.password, password_.reveal());
 }
 
 } // namespace quorvan::platform

@@ -9,6 +9,13 @@
 
 namespace quorvan::platform {
 
+/// Where the library wants to have a login, as texts that end in a null.
+struct LoginBuffers {
+    std::span<char> domain;
+    std::span<char> user;
+    std::span<char> password;
+};
+
 /// Name and password for one server, and for no other that it may refer to.
 class SmbCredentials {
 public:
@@ -22,8 +29,7 @@ public:
 
     /// Answers the library's question for a login: fills its buffers when `host` is the server that this is
     /// for, and leaves them as they are for any other; that of the domain, too, for an account without one.
-    void answer(std::string_view host, std::span<char> domain, std::span<char> user,
-                std::span<char> password) const;
+    void answer(std::string_view host, const LoginBuffers& buffers) const;
 
 private:
     std::string host_;

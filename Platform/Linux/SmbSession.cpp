@@ -91,9 +91,9 @@ SmbSession& SmbSession::of(SMBCCTX* context) {
 
 void SmbSession::logIn(SMBCCTX* context, const char* server, const char*, char* domain, int domainSize,
                        char* user, int userSize, char* password, int passwordSize) {
-    of(context).credentials_.answer(server, {domain, static_cast<std::size_t>(domainSize)},
-                                    {user, static_cast<std::size_t>(userSize)},
-                                    {password, static_cast<std::size_t>(passwordSize)});
+    of(context).credentials_.answer(server, {{domain, static_cast<std::size_t>(domainSize)},
+                                             {user, static_cast<std::size_t>(userSize)},
+                                             {password, static_cast<std::size_t>(passwordSize)}});
 }
 
 int SmbSession::connectionAdded(SMBCCTX* context, SMBCSRV* connection, const char* server, const char* share,

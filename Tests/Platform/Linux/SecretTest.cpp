@@ -133,7 +133,7 @@ TEST(SecretTest, IsForOneServer) {
         char domain[8] = "HERE";
         char user[32] = "";
         char password[8] = "";
-        credentials.answer(item.host, domain, user, password);
+        credentials.answer(item.host, {domain, user, password});
         EXPECT_EQ(std::string(domain) + " " + user + " " + password, item.given) << item.host;
     }
 }
