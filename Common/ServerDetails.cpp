@@ -112,6 +112,7 @@ void ServerDetails::getKeychainCred() {
     platform::KeychainResult found = platform::services().keychain->findInternetPassword(server);
     if (found.status == 0 && found.item) {
         username = found.item->account;
+        domain = found.item->domain;
         require(isUtf8(unwrap(found.item->data, "The keychain item has no data").reveal()),
                 "The data of the keychain item is not UTF-8");
         password = std::move(found.item->data);

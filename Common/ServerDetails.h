@@ -32,6 +32,7 @@ public:
     std::optional<std::string> mappedPathName;       ///< the server path of the share's root, VOLUME:\dir
     std::optional<std::string> username;
     std::optional<platform::Secret> password;
+    std::string domain; ///< of the account, where the keychain keeps it apart from the user name
     std::optional<std::int32_t> keychainStatus; ///< 0 or errSecItemNotFound
     std::optional<std::string> loggedUserType;  ///< "ActiveDirectory" or "Morvane"
 

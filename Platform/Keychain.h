@@ -14,12 +14,13 @@ inline constexpr std::int32_t errSecItemNotFound = -25300;
 
 /// What the keychain knows about one internet password.
 struct KeychainItem {
-    std::optional<std::string> account; ///< user name; DOMAIN\USER where the store keeps a domain with it
+    std::optional<std::string> account; ///< user name
     std::optional<Secret> data;         ///< the password; empty where a ticket stands for it
+    std::string domain = {};            ///< that the account belongs to, where the store keeps it apart
 };
 
-/// The account of a user name and a domain that are kept apart; a user name that names its domain itself, as
-/// DOMAIN\USER or USER@DOMAIN, and one without a domain stay as they are.
+/// The account to log in with, DOMAIN\USER. A user name that names its domain itself, as DOMAIN\USER or
+/// USER@DOMAIN, and one without a domain stay as they are.
 inline std::string accountOf(const std::string& domain, const std::string& user) {
     return domain.empty() || user.find_first_of("\\@") != std::string::npos ? user : domain + '\\' + user;
 }

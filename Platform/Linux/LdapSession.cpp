@@ -215,7 +215,8 @@ LdapFailure LdapSession::logIn(const std::string& base, Keychain& keychain) {
     if (!isComplete(found))
         return failure(EACCES,
                        "lets nobody in: there is neither a valid ticket nor a keyring item for " + host_);
-    return logInWithPassword(withDomain(*found.item->account, base), *found.item->data);
+    const std::string account = accountOf(found.item->domain, *found.item->account);
+    return logInWithPassword(withDomain(account, base), *found.item->data);
 }
 
 int LdapSession::logInWithTicket() {

@@ -105,7 +105,7 @@ std::optional<KeychainItem> accountInTable(const std::filesystem::path& path, co
         if (!account.file.empty())
             account.readFile();
         if (!account.user.empty() && account.password)
-            return KeychainItem{accountOf(account.domain, account.user), std::move(account.password)};
+            return KeychainItem{account.user, std::move(account.password), account.domain};
     }
     return std::nullopt;
 }
@@ -118,7 +118,7 @@ std::optional<KeychainItem> accountOfTicket(const MountPlaces& places, const std
         }))
         return std::nullopt;
     const std::string owner = ticketOwner();
-    return owner.empty() ? std::nullopt : std::optional(KeychainItem{owner, Secret()});
+    return owner.empty() ? std::nullopt : std::optional(KeychainItem{owner, Secret(), {}});
 }
 
 } // namespace

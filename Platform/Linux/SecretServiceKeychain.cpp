@@ -59,7 +59,8 @@ KeychainItem contents(SecretItem* item) {
     const auto secret = secretOf(item);
     KeychainItem found;
     if (const std::string user = attribute(item, "user"); !user.empty())
-        found.account = accountOf(attribute(item, "domain"), user);
+        found.account = user;
+    found.domain = attribute(item, "domain");
     gsize length = 0;
     const char* bytes = secret_value_get(secret.get(), &length);
     found.data.emplace(std::string_view(bytes, length));

@@ -131,8 +131,8 @@ std::int32_t XMLReadWriteController::mountIPCPipe(const std::string& serverAddre
     }
     const auto& userName = unwrap(details.username, "There is no user name to mount with");
     const auto& password = unwrap(details.password, "There is no password to mount with");
-    const platform::MountResult mounted =
-        network().mount(mountUrl, userName, password, platform::MountOptions{});
+    const platform::MountResult mounted = network().mount(
+        mountUrl, platform::accountOf(details.domain, userName), password, platform::MountOptions{});
     if (mounted.error != 0) {
         logMountError(mounted.error, mountUrl);
         return mounted.error;

@@ -65,7 +65,7 @@ TEST_F(SecretService, PrefersTheItemThatWouldLogIn) {
     };
     EXPECT_EQ(store({"user", "", "port", "445"}, "no account")->data->reveal(), "no account");
     EXPECT_EQ(store({"user", "bob", "port", "1445"}, "another service's")->account, "bob");
-    EXPECT_EQ(store({"user", "bob", "domain", "MERIDAL", "port", "445"}, "x")->account, "MERIDAL\\bob");
+    EXPECT_EQ(store({"user", "bob", "domain", "MERIDAL", "port", "445"}, "x")->domain, "MERIDAL");
     ::sleep(1); // the keyring knows the second in which an item was written
     EXPECT_EQ(store({"user", "eve@meridal.example", "domain", "MERIDAL"}, "x")->account,
               "eve@meridal.example");
@@ -107,7 +107,7 @@ TEST(MountCredentials, AreThoseWithWhichTheSystemMounts) {
                                                   {"c.example", "D\\c", "y"}}) {
         const KeychainResult found = keychain.findInternetPassword(server);
         ASSERT_TRUE(found.item) << server;
-        EXPECT_EQ(found.item->account, account);
+        EXPECT_EQ(platform::accountOf(found.item->domain, *found.item->account), account);
         EXPECT_EQ(found.item->data->reveal(), secret);
     }
     for (const char* server : {"nfs.example", "gone.example", "folder.example", "example", ""})

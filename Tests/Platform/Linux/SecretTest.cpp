@@ -120,6 +120,10 @@ TEST(SecretTest, LeavesNothingOfItInMemory) {
 }
 
 TEST(SecretTest, IsForOneServer) {
+    EXPECT_EQ(platform::accountOf("MERIDAL", "bob"), "MERIDAL\\bob");
+    for (const char* account : {"SALES\\bob", "bob@meridal.example"})
+        EXPECT_EQ(platform::accountOf("MERIDAL", account), account);
+    EXPECT_EQ(platform::accountOf("", "bob"), "bob");
     const struct {
         const char *account, *host, *given;
     } cases[] = {{"bob", "192.0.2.1", "HERE bob s3cret"},

@@ -65,6 +65,10 @@ gone | /IPC$         | /I | 0  | mount smb://gone/IPC$ bob secret NoUI AllowSubM
     mounts = {{"10.1.2.3/IPC$", "/I"}, {"/Volumes/I", "/J"}};
     EXPECT_EQ(controller.searchMountPathinDict("10.1.2.3/IPC$"), "");
     EXPECT_THAT(mounts, ElementsAre(testing::Pair("10.1.2.3/IPC$", "/I"))) << "the path is no key of it";
+    ServerDetails::serverInfo().domain = "MERIDAL";
+    mounts.clear();
+    EXPECT_EQ(open("srv1"), 0);
+    EXPECT_THAT(calls, HasSubstr("mount smb://srv1/IPC$ MERIDAL\\bob secret"));
 }
 
 TEST_F(Pipe, TellsWhyItCannotBeOpened) {
